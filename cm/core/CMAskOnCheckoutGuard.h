@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstdint>
+
+#include "cm/host/Export.h"
+
+namespace veldra {
+
+/// While one of these lives, a yes-to-all or no-to-all answer to the overwrite question holds for
+/// the units that follow. Guards nest; the end of the outermost one forgets the answer.
+class VELDRA_CM_EXPORT CMAskOnCheckoutGuard {
+ public:
+  CMAskOnCheckoutGuard();
+  // Copies count too: each of them is destroyed one day.
+  CMAskOnCheckoutGuard(const CMAskOnCheckoutGuard&);
+  CMAskOnCheckoutGuard& operator=(const CMAskOnCheckoutGuard&) { return *this; }
+  virtual ~CMAskOnCheckoutGuard();
+};
+
+}  // namespace veldra

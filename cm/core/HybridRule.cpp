@@ -1,0 +1,34 @@
+#include "cm/core/HybridRule.h"
+
+#include <algorithm>
+
+#include "cm/core/TextTools.h"
+#include "cm/templates/CMProperty.h"
+
+namespace veldra {
+
+bool isProviderNamed(const char* name) {
+  return equalsNoCase(CMProperty::getSCCToolName(), name);
+}
+
+bool isPackageWithDirectory(IUnit* unit) {
+  const ISubsystem* const package = unit != nullptr ? unit->asSubsystem() : nullptr;
+  return package != nullptr && !package->getPackageDirectory().empty();
+}
+
+bool HybridRule::isPossible() {
+  return CMProperty::isHybridModePossible() != 0 && isProviderNamed("Vaultrix");
+}
+
+bool HybridRule::appliesToPackages(const UnitList& units) {
+  return isPossible() && std::any_of(units.begin(), units.end(), isPackageWithDirectory);
+}
+
+bool HybridRule::appliesToRename(const std::string& oldName, const std::string& newName) {
+  const auto directory = [](const std::string& name) {
+    return name.substr(0, name.size() - baseName(name).size());
+  };
+  return isPossible() && directory(oldName) != directory(newName);
+}
+
+}  // namespace veldra

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "cm/core/CMFacade.h"
+#include "cm/core/CMOutputer.h"
+#include "cm/core/CMTranscation.h"
+#include "cm/host/IDObject.h"
+#include "cm/templates/ExpansionLimits.h"
+
+namespace veldra {
+
+/// Which back end the active project selects, computed once per project.
+struct BackEndSelection {
+  std::unique_ptr<IHandle> project;  ///< The project that it was computed for.
+  bool computed = false;
+  int usesProvider = 0;
+  bool loadFromDM = false;       ///< The project's load mode, kept beside the selection.
+  bool providerLocated = false;  ///< The provider library has been looked for.
+};
+
+/// The slots that the host fills through `CMFacade`.
+struct FacadeSlots {
+  CMFacade::SaveCallback save;
+  CMFacade::ReloadCallback reload;
+  IMainFrame* reloadParameter = nullptr;
+  CMFacade::ReloadCallback afterReload;
+  IMainFrame* afterReloadParameter = nullptr;
+};
+
+/// Everything that the module remembers between calls. Only the host's user-interface thread uses
+/// it.
+struct ModuleState {
+  std::vector<CMTranscation*> transcations;  ///< The live ones, the newest last; not owned.
+  CMTxnGlobalState notices;
+  CMOutputer mainOutputer;
+  std::ostream* outputStream = nullptr;
+
+  BackEndSelection backEnd;
+  std::string sccToolName;
+  bool providerLoaded = false;
+  int showCMStatus = 0;
+
+  ExpansionUse expansion;
+
+  std::uint32_t checkoutGuards = 0;
+  std::string rememberedAnswer;  ///< "yestoall", "notoall", "yes", "no", "cancel" or empty.
+
+  FacadeSlots slots;
+};
+
+/// The state that belongs to the installed host; another host starts with a fresh one.
+ModuleState& moduleState();
+
+}  // namespace veldra

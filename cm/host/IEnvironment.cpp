@@ -1,0 +1,71 @@
+#include "cm/host/IEnvironment.h"
+
+#include "cm/host/Host.h"
+
+namespace veldra {
+
+namespace {
+IEnvironment* environment() {
+  Host* host = installedHost();
+  return host != nullptr ? &host->environment() : nullptr;
+}
+
+/// One call on the environment, or what a thing that does not exist answers.
+template <class Result, class Call>
+Result ask(Result without, Call call) {
+  IEnvironment* const there = environment();
+  return there != nullptr ? call(*there) : without;
+}
+}  // namespace
+
+int omGetRoot(std::string& root) {
+  return ask(0, [&](IEnvironment& e) { return e.omGetRoot(root); });
+}
+
+int omGetEnvVar(const std::string& section, const std::string& name, std::string& value,
+                const std::string& defaultValue) {
+  return ask(0, [&](IEnvironment& e) { return e.omGetEnvVar(section, name, value, defaultValue); });
+}
+
+char omPathSeparator() {
+  return ask('/', [](IEnvironment& e) { return e.omPathSeparator(); });
+}
+
+bool omIsAbsolutePath(const std::string& path) {
+  return ask(false, [&](IEnvironment& e) { return e.omIsAbsolutePath(path); });
+}
+
+std::string omGetTempDir() {
+  return ask(std::string(), [](IEnvironment& e) { return e.omGetTempDir(); });
+}
+
+std::string omGetCurrentTime() {
+  return ask(std::string(), [](IEnvironment& e) { return e.omGetCurrentTime(); });
+}
+
+std::string omGetCurrentDate() {
+  return ask(std::string(), [](IEnvironment& e) { return e.omGetCurrentDate(); });
+}
+
+std::string omGetCurrentUser() {
+  return ask(std::string(), [](IEnvironment& e) { return e.omGetCurrentUser(); });
+}
+
+bool omFileExist(const std::string& path) {
+  return ask(false, [&](IEnvironment& e) { return e.omFileExist(path); });
+}
+
+bool omFileHasWritePermission(const std::string& path) {
+  return ask(false, [&](IEnvironment& e) { return e.omFileHasWritePermission(path); });
+}
+
+std::string omGetFullPathOfDirectory(const std::string& path, std::string& errorText) {
+  return ask(std::string(),
+             [&](IEnvironment& e) { return e.omGetFullPathOfDirectory(path, errorText); });
+}
+
+std::string omGetErrorCodeString() {
+  return ask(std::string(), [](IEnvironment& e) { return e.omGetErrorCodeString(); });
+}
+
+}  // namespace veldra

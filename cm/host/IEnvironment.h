@@ -1,0 +1,63 @@
+#pragma once
+
+#include <string>
+
+namespace veldra {
+
+/// Files, settings and the surroundings of the process. Every host has one.
+class IEnvironment {
+ public:
+  virtual ~IEnvironment() = default;
+
+  /// The installation root, below which `packs` lies. Returns 1 when it is known.
+  virtual int omGetRoot(std::string& root) = 0;
+  /// A host setting. Returns 1 and fills `value` when it exists; otherwise 0 and the default.
+  virtual int omGetEnvVar(const std::string& section, const std::string& name, std::string& value,
+                          const std::string& defaultValue) = 0;
+
+  virtual std::string omGetTempDir() = 0;
+  virtual char omPathSeparator() const = 0;
+  virtual bool omIsAbsolutePath(const std::string& path) = 0;
+
+  /// The time, the date and the user as the host writes them for people.
+  virtual std::string omGetCurrentTime() = 0;
+  virtual std::string omGetCurrentDate() = 0;
+  virtual std::string omGetCurrentUser() = 0;
+
+  virtual bool omFileExist(const std::string& path) = 0;
+  /// True when the file's owner may write it (the mode bit, or on Windows no read-only attribute);
+  /// what the current user could do plays no part.
+  virtual bool omFileHasWritePermission(const std::string& path) = 0;
+  /// True when the path names an existing directory; `exists` tells whether it names anything.
+  virtual bool isDirectory(const std::string& path, bool& exists) = 0;
+
+  /// The absolute name of a directory; the empty path means the current one. Empty, with the reason
+  /// in `errorText`, when it cannot be had.
+  virtual std::string omGetFullPathOfDirectory(const std::string& path, std::string& errorText) = 0;
+  virtual bool setCurrentDirectory(const std::string& path) = 0;
+  /// The system's words for the error of the last call above that failed.
+  virtual std::string omGetErrorCodeString() = 0;
+
+  /// Writes a new private file with these very bytes into the temporary directory. Its name
+  /// contains no blank beyond those of that directory. Empty when it could not be written.
+  virtual std::string createTempFile(const std::string& content) = 0;
+  virtual void removeFile(const std::string& path) = 0;
+};
+
+// The same as free functions, for the module's own use. Without a host they answer as for things
+// that do not exist.
+int omGetRoot(std::string& root);
+int omGetEnvVar(const std::string& section, const std::string& name, std::string& value,
+                const std::string& defaultValue);
+char omPathSeparator();
+bool omIsAbsolutePath(const std::string& path);
+std::string omGetTempDir();
+std::string omGetCurrentTime();
+std::string omGetCurrentDate();
+std::string omGetCurrentUser();
+bool omFileExist(const std::string& path);
+bool omFileHasWritePermission(const std::string& path);
+std::string omGetFullPathOfDirectory(const std::string& path, std::string& errorText);
+std::string omGetErrorCodeString();
+
+}  // namespace veldra

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace veldra {
+
+/// Icon and button bits of a message, and the answers, with the values of the published Win32
+/// message box (winuser.h), which hosts on every platform share.
+namespace MessageBox {
+inline constexpr int Ok = 0x0;
+inline constexpr int YesNoCancel = 0x3;
+inline constexpr int YesNo = 0x4;
+inline constexpr int IconError = 0x10;
+inline constexpr int IconQuestion = 0x20;
+inline constexpr int IconWarning = 0x30;
+inline constexpr int IconInformation = 0x40;
+
+inline constexpr int AnswerOk = 1;
+inline constexpr int AnswerCancel = 2;
+inline constexpr int AnswerYes = 6;
+inline constexpr int AnswerNo = 7;
+}  // namespace MessageBox
+
+/// How much a message matters; the module shows everything at the second level.
+inline constexpr int MessageLevel = 2;
+
+/// The host's texts and its ways of talking to the user. Every host has one.
+class IUserMessages {
+ public:
+  virtual ~IUserMessages() = default;
+
+  /// The text of a numeric id in the user's language. %1, %2, ... stand for the values that the
+  /// module fills in, in the order in which the id's description lists them. Empty when the id is
+  /// unknown.
+  virtual std::string loadString(int id) = 0;
+
+  /// Tells the user something; no answer is needed.
+  virtual void notifyUser(const std::string& text, int level) = 0;
+
+  /// Shows a message with the icon and buttons of `flags` and returns the answer.
+  virtual int notifyUserAndAsk(const std::string& text, int flags, int level) = 0;
+
+  /// Shows a message that the user may switch off for good; `key` names it.
+  virtual void oneTimeMessageBox(const std::string& key, const std::string& text, int flags) = 0;
+
+  /// Asks whether a writable file may be overwritten. One of "yes", "no", "yestoall", "notoall" and
+  /// "cancel". A host that cannot ask answers "no": nothing is overwritten.
+  virtual std::string askOverwrite(const std::string& text) = 0;
+
+  /// Shows the window in which the user names the archive to connect to. A host without windows
+  /// does nothing.
+  virtual void showConnectToArchive() {}
+};
+
+int notifyUserAndAsk(const std::string& text, int flags, int level = MessageLevel);
+void notifyUser(const std::string& text, int level = MessageLevel);
+void OneTimeMessageBox(const std::string& key, const std::string& text, int flags);
+
+/// The text of a message id, and the same with its placeholders filled in order. An id that the
+/// host does not know yields a text that names the id and the values, so that nothing is swallowed.
+std::string loadMessage(int id);
+std::string formatMessage(int id, std::initializer_list<std::string_view> values);
+
+}  // namespace veldra

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "cm/host/Export.h"
+
+namespace veldra {
+
+/// The lines that a child printed on one of its outputs, each with its line end, in the order
+/// printed. They are kept in large pieces, so that a long output costs little more than its own
+/// length.
+class VELDRA_CM_EXPORT LineList {
+ public:
+  /// Adds bytes as they arrive; they may begin and end anywhere in a line.
+  void append(std::string_view bytes);
+  bool empty() const { return m_size == 0; }
+  /// All lines together, in bytes.
+  std::size_t size() const { return m_size; }
+  /// Appends every line to `text`, with nothing between them.
+  void appendTo(std::string& text) const;
+
+ private:
+  std::deque<std::string> m_pieces;
+  std::size_t m_size = 0;
+};
+
+/// The closed list of ways in which a child process ends.
+enum class ProcessEnd { Running, CouldNotStart, Exited, Crashed, TimedOut, Cancelled };
+
+/// Base of the runners.
+class ThreadObject {
+ public:
+  virtual ~ThreadObject() = default;
+};
+
+/// Runs one command line as a child process, without a shell.
+///
+/// The line is split into arguments by these rules: blanks and tabs separate; double quotes group;
+/// a backslash is an ordinary character except before a double quote, where 2n of them stand for n
+/// and 2n+1 for n and a literal quote. The child's input is empty, and it inherits no files. A
+/// child that could not be started, or that a signal ended, leaves one error line that says so.
+class RunThread : public ThreadObject {
+ public:
+  static constexpr std::uint32_t WaitForever = 0xFFFFFFFFU;
+  /// The wait ran out (WAIT_TIMEOUT of the published Win32 interface, winbase.h).
+  static constexpr std::uint32_t WaitTimeout = 258;
+
+  /// Waits up to `timeout` milliseconds for the child to end. 0, or `WaitTimeout`; then the child
+  /// and everything that it started have been ended. Both lists are complete afterwards.
+  virtual std::uint32_t getStatus(std::uint32_t timeout) = 0;
+
+  virtual const LineList& errorLines() const = 0;
+  /// Empty for a runner whose output goes to a file.
+  virtual const LineList& outputLines() const = 0;
+
+  virtual ProcessEnd end() const = 0;
+  /// The exit code of a child that exited, the signal of one that crashed, otherwise 0.
+  virtual int endCode() const = 0;
+};
+
+/// An open file for a child's output; destroying it closes the file.
+class IOutputFile {
+ public:
+  virtual ~IOutputFile() = default;
+};
+
+/// The host's process runner. A host without one cannot use the command-line back end.
+class IProcesses {
+ public:
+  virtual ~IProcesses() = default;
+  /// A runner for the command line; the child may start now or in `getStatus`. Never null.
+  virtual std::unique_ptr<RunThread> createRunThread(const std::string& command) = 0;
+  /// Creates or empties a file that a child can write. Null when that fails.
+  virtual std::unique_ptr<IOutputFile> createOutputFile(const std::string& fileName) = 0;
+  /// As `createRunThread`, with the child's standard output in `file` (null: thrown away), which
+  /// must outlive the runner.
+  virtual std::unique_ptr<RunThread> createRunThreadRedirect(const std::string& command,
+                                                             IOutputFile* file) = 0;
+};
+
+}  // namespace veldra

@@ -1,0 +1,82 @@
+#include "cm/host/SPString.h"
+
+#include <set>
+
+#include "cm/host/Host.h"
+#include "cm/host/MessageIds.h"
+
+namespace veldra {
+
+namespace {
+
+/// The patterns whose fault the user of the present host has been told about.
+std::set<std::string>& reportedPatterns() {
+  static std::set<std::string> reported;
+  static unsigned generation = 0;
+  if (generation != hostGeneration()) reported.clear();
+  generation = hostGeneration();
+  return reported;
+}
+
+void reportPattern(int messageId, const std::string& pattern, const std::string& reason) {
+  if (reportedPatterns().insert(pattern).second) {
+    notifyUser(formatMessage(messageId, {pattern, reason}));
+  }
+}
+
+/// The compiled pattern, or null after its fault has been reported.
+const IPattern* compile(const std::string& pattern, const std::string& options) {
+  Host* const host = installedHost();
+  if (host == nullptr) return nullptr;
+  std::string error;
+  const IPattern* const compiled = host->patterns().compile(pattern, options, error);
+  if (compiled == nullptr) reportPattern(MessageId::PatternNotValid, pattern, error);
+  return compiled;
+}
+
+bool matches(const IPattern& compiled, const std::string& pattern, std::string_view text,
+             std::size_t from, PatternMatch& match) {
+  const PatternEnd end = compiled.match(text, from, match);
+  if (end == PatternEnd::GivenUp) reportPattern(MessageId::PatternGivenUp, pattern, {});
+  return end == PatternEnd::Matched && !match.captures.empty();
+}
+
+}  // namespace
+
+bool SPString::m(const std::string& pattern, const std::string& options,
+                 std::vector<std::string_view>* captures) const {
+  const IPattern* const compiled = compile(pattern, options);
+  if (compiled == nullptr) return false;
+  // Kept between calls: listings match some hundred thousand times.
+  thread_local PatternMatch match;
+  if (!matches(*compiled, pattern, m_text, 0, match)) return false;
+  if (captures != nullptr) *captures = match.captures;
+  return true;
+}
+
+std::vector<std::string_view> SPString::split(const std::string& pattern) const {
+  std::vector<std::string_view> pieces;
+  const IPattern* const compiled = compile(pattern, "");
+  std::size_t pieceStart = 0;
+  std::size_t from = 0;
+  PatternMatch match;
+  while (compiled != nullptr && from <= m_text.size() &&
+         matches(*compiled, pattern, m_text, from, match)) {
+    const auto start = static_cast<std::size_t>(match.captures[0].data() - m_text.data());
+    const std::size_t length = match.captures[0].size();
+    if (length == 0) {
+      // An empty match separates two characters, but makes no empty piece at either end.
+      if (start >= m_text.size()) break;
+      from = start + 1;
+      if (start == pieceStart) continue;
+    } else {
+      from = start + length;
+    }
+    pieces.push_back(m_text.substr(pieceStart, start - pieceStart));
+    pieceStart = start + length;
+  }
+  if (pieceStart < m_text.size()) pieces.push_back(m_text.substr(pieceStart));
+  return pieces;
+}
+
+}  // namespace veldra

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace veldra {
+
+/// Why a pattern could not be used or a match was given up.
+enum class PatternEnd { Matched, NoMatch, Invalid, GivenUp };
+
+/// What one match found. The views point into the text that was searched.
+struct PatternMatch {
+  PatternEnd end = PatternEnd::NoMatch;
+  /// Whole match first, then the capture groups; a group that took no part is empty.
+  std::vector<std::string_view> captures;
+};
+
+/// One compiled pattern.
+class IPattern {
+ public:
+  virtual ~IPattern() = default;
+  /// Finds the first match at or after `from` and fills `match` (its memory is reused). A match
+  /// that would need more than the engine's bounds ends as `GivenUp`, never in a hang.
+  virtual PatternEnd match(std::string_view text, std::size_t from, PatternMatch& match) const = 0;
+};
+
+/// The host's pattern service: Perl-style regular expressions over bytes. Every host has one.
+class IPatternEngine {
+ public:
+  virtual ~IPatternEngine() = default;
+  /// The compiled pattern; the engine keeps it, so that asking again is cheap. Options: "i" ignores
+  /// case. Null, with the reason and place in `error`, when the text is no valid pattern.
+  virtual const IPattern* compile(std::string_view pattern, std::string_view options,
+                                  std::string& error) = 0;
+};
+
+/// A text with the pattern operations of the host.
+///
+/// A pattern that is not valid, or a match that was given up, matches nothing; the user is told
+/// once per pattern.
+class SPString {
+ public:
+  explicit SPString(std::string_view text) : m_text(text) {}
+
+  /// True when the pattern occurs in the text. `captures`, when given, receives the whole match and
+  /// the groups.
+  bool m(const std::string& pattern, const std::string& options,
+         std::vector<std::string_view>* captures = nullptr) const;
+
+  /// The pieces between the matches of `pattern`, as Perl's split makes them with a limit of -1,
+  /// but without a last empty piece. The views point into the text.
+  std::vector<std::string_view> split(const std::string& pattern) const;
+
+ private:
+  std::string_view m_text;
+};
+
+}  // namespace veldra

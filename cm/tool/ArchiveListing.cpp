@@ -1,0 +1,112 @@
+#include "cm/tool/ArchiveListing.h"
+
+#include <memory>
+#include <utility>
+
+#include "cm/core/CMArchiveItem.h"
+#include "cm/core/DebugEcho.h"
+#include "cm/core/TextTools.h"
+#include "cm/host/IModel.h"
+#include "cm/host/IPN.h"
+#include "cm/host/IProperty.h"
+#include "cm/host/SPString.h"
+#include "cm/templates/CMProperty.h"
+
+namespace veldra {
+
+namespace {
+
+bool showsAllFiles() {
+  const IProperty* const setting = CMProperty::getToolProperty("ShowAllFilesInArchive");
+  return setting != nullptr && setting->getBool();
+}
+
+/// What follows the last backslash, or without one the last slash.
+std::string_view lastPart(std::string_view path) {
+  const std::size_t backslash = path.rfind('\\');
+  const std::size_t at = backslash != std::string_view::npos ? backslash : path.rfind('/');
+  return at == std::string_view::npos ? path : path.substr(at + 1);
+}
+
+/// A field that may be missing: its value, or nothing.
+std::string optionalField(const PropertyPattern& pattern, std::string_view record,
+                          const char* label, int& status) {
+  std::string value;
+  std::string extra;
+  int found = 0;
+  status = pattern.extract(record, value, found, extra);
+  if (status == 0) value.clear();
+  debugEcho({label, ": '", value, "'\n"});
+  return value;
+}
+
+/// The mode of a record: unknown when the record does not have the field at all, otherwise
+/// read-write or read-only as the pattern's group took part or not. An empty pattern says nothing.
+int listedMode(const PropertyPattern& pattern, std::string_view record, int& status) {
+  using Field = PropertyPattern::Field;
+  std::string text;
+  std::string extra;
+  int found = 0;
+  status = pattern.extract(record, text, found, extra);
+  if (found == 0) return ListedMode::Unknown;
+  if (status == 1) return ListedMode::ReadWrite;
+  return pattern.read(record, text) == Field::Absent ? ListedMode::Unknown : ListedMode::ReadOnly;
+}
+
+}  // namespace
+
+ArchiveListing::ArchiveListing()
+    : m_showsAllFiles(showsAllFiles()),
+      m_ignoresNamesWithoutDot(
+          CMProperty::getProjectBool(IPN::General, "IgnoreArchiveItemsWithoutDot", true)),
+      m_workingFile(IPN::CMListArchiveItsWorkingFile),
+      m_version(IPN::CMListArchiveItsVersion),
+      m_mode(IPN::CMListArchiveItsMode),
+      m_locker(IPN::CMListArchiveItsLocker) {
+  if (const IProject* const project = CurrentWorkspace::GetActiveProject()) {
+    m_projectFile = project->getFileName();
+    m_projectExtension = project->getFileExtension();
+  }
+}
+
+int ArchiveListing::read(std::string_view output, int status, CMArchiveItemList& items) const {
+  std::string delimiter;
+  if (!CMProperty::getToolPropertyValue(IPN::CMMultiRecordDelimiter, delimiter)) return status;
+  for (const std::string_view record : SPString(output).split(delimiter)) {
+    status = readRecord(record, items);
+  }
+  return status;
+}
+
+/// Of all model project files only the open project's own is listed.
+bool ArchiveListing::isListed(const std::string& workingFile) const {
+  if (m_showsAllFiles || m_projectExtension.empty() ||
+      workingFile.find(m_projectExtension) == std::string::npos) {
+    return true;
+  }
+  return trimmed(lastPart(workingFile)) == m_projectFile;
+}
+
+int ArchiveListing::readRecord(std::string_view record, CMArchiveItemList& items) const {
+  std::string workingFile;
+  std::string extra;
+  int found = 0;
+  int status = m_workingFile.extract(record, workingFile, found, extra);
+  debugEcho({"Archive working file: '", workingFile, "'\n"});
+  if (!isListed(workingFile) || status != 1 || found == 0) return status;
+
+  std::string version = optionalField(m_version, record, "Archive version", status);
+
+  const int mode = listedMode(m_mode, record, status);
+  debugEcho({"Archive file mode: ", status == 1 ? "ReadWrite" : "ReadOnly", "\n"});
+
+  std::string locker = optionalField(m_locker, record, "Archive Locker", status);
+
+  auto item = std::make_unique<CMArchiveItem>(std::move(workingFile), std::move(version),
+                                              ListedMode::store(mode), std::move(locker), "");
+  const bool hasDot = item->getFileName().find('.') != std::string::npos;
+  if (hasDot || !m_ignoresNamesWithoutDot) items.addTail(item.release());
+  return status;
+}
+
+}  // namespace veldra

@@ -1,0 +1,72 @@
+#include "cm/tool/CMCheckOutFromArchive.h"
+
+#include "cm/core/CMOutputer.h"
+#include "cm/core/TextTools.h"
+#include "cm/host/Host.h"
+#include "cm/host/IPN.h"
+#include "cm/host/MessageIds.h"
+#include "cm/tool/CMToolShellInterface.h"
+#include "cm/tool/Reloading.h"
+
+namespace veldra {
+
+const OperationRow& CMCheckOutFromArchive::row() const {
+  static constexpr OperationRow row{
+      .name = "Check Out from Archive",
+      .templateProperty = IPN::CMCheckOutFromArchive,
+      .traceBefore = "Executing the following command to check out the file from the archive: ",
+      .traceAfter = "Check out from the archive command returned the following: ",
+      .save = SaveRule::IfSaveOnCheckOut,
+      .tracksUnits = true,
+      .asksOverwrite = true,
+      .handlerKind = CMVDYHandler::CheckOut};
+  return row;
+}
+
+namespace {
+
+bool isModelFile(const CMArchiveItem& item) {
+  const std::string type = item.getType();
+  return equalsNoCase(type, IProject::staticGetNewFileExtension()) ||
+         equalsNoCase(type, IProject::staticGetOldFileExtension());
+}
+
+/// The name under which the item's file is loaded.
+std::string fileToLoad(const ItemRun& run) {
+  std::string name;
+  if (isModelFile(run.item) && run.handler != nullptr) name = run.handler->fileNameToLoad();
+  return name.empty() ? run.item.getFileNameForRepFiles() : name;
+}
+
+IUnit* load(const CMArchiveItem& item, const std::string& name) {
+  Host* const host = installedHost();
+  IUnit* const known = IUnit::getByFile(name);
+  // A unit of the same file elsewhere must not be replaced by this one.
+  if (known != nullptr && known->getDirectory() == item.getLocalPath()) {
+    bool canReload = false;
+    IUnit* const reloaded = reloadInPlace(*known, canReload);
+    if (canReload) return reloaded;
+  }
+  return host != nullptr ? addToModel(host->createATMFacade(item.getLocalPath()).get(), name)
+                         : nullptr;
+}
+
+}  // namespace
+
+void CMCheckOutFromArchive::after(ItemRun& run) const {
+  if (run.item.getType().empty()) return;
+  if (run.handler != nullptr && !theCMToolShellInterface().lastCommandEnd().failed) {
+    run.handler->complete();
+  }
+  const std::string name = fileToLoad(run);
+  VELDRA_TRACE("Performing ATM for the file ", name);
+  if (load(run.item, name) != nullptr) return;
+  run.errorText =
+      formatMessage(MessageId::FileNotLoaded,
+                    {run.item.getLocalPath() + omPathSeparator() + run.item.getFileName()});
+  CMOutputer::reportLoadingErrror(run.errorText);
+  run.reloadFailed = true;
+  run.status = 0;
+}
+
+}  // namespace veldra

@@ -1,0 +1,177 @@
+#include "cm/tool/CMToolShellInterface.h"
+
+#include <charconv>
+#include <cstdint>
+#include <memory>
+
+#include "cm/core/CMOutputer.h"
+#include "cm/core/DebugEcho.h"
+#include "cm/core/TextTools.h"
+#include "cm/host/Host.h"
+#include "cm/host/IPN.h"
+#include "cm/host/MessageIds.h"
+#include "cm/host/SPString.h"
+#include "cm/templates/CMProperty.h"
+
+namespace veldra {
+
+namespace {
+
+/// Writes to the CM output window, at once; nothing without a window.
+void echo(std::string_view text) {
+  std::ostream* const out = getMainCMOutputer()();
+  if (out == nullptr) return;
+  *out << text;
+  out->flush();
+}
+
+std::string workingDirectoryOfProject() {
+  const std::string directory = CMProperty::getWorkingDir();
+  const IProject* const project = CurrentWorkspace::GetActiveProject();
+  return directory.empty() && project != nullptr ? project->getDirectory() : directory;
+}
+
+bool enterDirectory(const std::string& directory, std::string& errorText) {
+  Host* const host = installedHost();
+  if (host != nullptr && host->environment().setCurrentDirectory(directory)) return true;
+  errorText = formatMessage(MessageId::DirectoryNotEntered, {directory, omGetErrorCodeString()});
+  echo(errorText);
+  return false;
+}
+
+/// The wait in milliseconds; a setting that is missing, zero or no number waits for ever.
+std::uint32_t timeOut() {
+  std::string value;
+  CMProperty::getToolPropertyValue(IPN::CMChildThreadTimeOut, value);
+  const std::string_view digits = trimmed(value);
+  std::uint32_t milliseconds = 0;
+  const auto [end, error] =
+      std::from_chars(digits.data(), digits.data() + digits.size(), milliseconds);
+  return error == std::errc() && milliseconds != 0 ? milliseconds : RunThread::WaitForever;
+}
+
+/// A command line with what follows its redirection sign.
+struct RedirectedCommand {
+  explicit RedirectedCommand(const std::string& command) : line(command) {
+    const std::size_t sign = line.find('>');
+    isRedirected = sign != std::string::npos;
+    if (!isRedirected) return;
+    fileName = line.substr(sign + 1);
+    line.erase(sign);
+  }
+  std::string line;
+  bool isRedirected = false;
+  std::string fileName;
+};
+
+/// What one run left behind.
+struct RunResult {
+  std::uint32_t wait = 0;
+  bool failed = false;  ///< By error lines or a time-out with output: the text is an error text.
+  bool endedBadly = false;
+};
+
+RunResult runAndCollect(IProcesses& processes, const RedirectedCommand& command,
+                        std::string& output, std::string& errorText) {
+  const std::unique_ptr<IOutputFile> file =
+      command.isRedirected ? processes.createOutputFile(command.fileName) : nullptr;
+  const std::unique_ptr<RunThread> runner =
+      command.isRedirected ? processes.createRunThreadRedirect(command.line, file.get())
+                           : processes.createRunThread(command.line);
+  RunResult result;
+  result.wait = runner->getStatus(timeOut());
+  const bool timedOut = result.wait == RunThread::WaitTimeout;
+  if (!runner->errorLines().empty()) {
+    runner->errorLines().appendTo(errorText);
+    echo(errorText);
+    result.failed = true;
+  } else if (!runner->outputLines().empty()) {
+    runner->outputLines().appendTo(timedOut ? errorText : output);
+    result.failed = timedOut;
+  }
+  result.endedBadly = runner->end() != ProcessEnd::Exited || runner->endCode() != 0;
+  return result;
+}
+
+/// Tells about a command that ran out of time without a word.
+void noticeTimeOut() {
+  const std::string text = loadMessage(MessageId::CommandTimedOut);
+  echo(text);
+  debugEcho({text});
+  std::string setting;
+  if (omGetEnvVar("General", "ShowMessageOnCMCommandTimeout", setting, "") == 1 &&
+      equalsNoCase(setting, "TRUE")) {
+    notifyUser(text);
+  }
+}
+
+/// Whether the text matches the pattern that the tool property holds.
+bool matchesProperty(const char* propertyName, const std::string& text) {
+  std::string pattern;
+  return CMProperty::getToolPropertyValue(propertyName, pattern) && !pattern.empty() &&
+         SPString(text).m(pattern, "i");
+}
+
+}  // namespace
+
+void CMToolShellInterface::runCommand(const std::string& command, std::string& output,
+                                      std::string& errorText) {
+  if (command.empty()) {
+    debugEcho({"no command to execute\n"});
+    return;
+  }
+  echo(command + "\n");
+  Host* const host = installedHost();
+  IProcesses* const processes = host != nullptr ? host->processes() : nullptr;
+  if (processes == nullptr) return;
+
+  const RedirectedCommand redirected(command);
+  const RunResult run = runAndCollect(*processes, redirected, output, errorText);
+  m_end.failed = run.endedBadly;
+  if (run.failed) {
+    // The second echo of error lines is intended: once as they come, once as the result.
+    echo(errorText);
+    checkCommandResults(errorText);
+  } else {
+    echo(output);
+    debugEcho({"command output: ", output, "\n"});
+    checkCommandResults(output);
+  }
+  // The exempted tool runs a graph window and leaves without a word.
+  if (run.wait == RunThread::WaitTimeout && output.empty() && errorText.empty() &&
+      redirected.line.find("lsvtree -graph") == std::string::npos) {
+    noticeTimeOut();
+  }
+  if (m_end.failed) m_end.words = errorText.empty() ? output : errorText;
+}
+
+int CMToolShellInterface::Execute(const std::string& command, std::string& output,
+                                  std::string& errorText, std::string workingDirectory) {
+  m_end = CommandEnd();
+  const std::string previous = omGetFullPathOfDirectory("", errorText);
+  if (previous.empty()) {
+    echo(errorText);
+    return 0;
+  }
+  workingDirectory = workingDirectoryOfProject();
+  if (!enterDirectory(workingDirectory, errorText)) return 0;
+  runCommand(command, output, errorText);
+  return enterDirectory(previous, errorText) ? 1 : 0;
+}
+
+void CMToolShellInterface::checkCommandResults(const std::string& text) {
+  if (text.empty()) return;
+  if (matchesProperty("OperationErrorPattern", text)) {
+    m_end.failed = true;
+    notifyUserAndAsk(loadMessage(MessageId::ErrorPatternMatched), MessageBox::IconError);
+  } else if (matchesProperty("OperationWarningPattern", text)) {
+    notifyUserAndAsk(loadMessage(MessageId::WarningPatternMatched), MessageBox::IconWarning);
+  }
+}
+
+CMToolShellInterface& theCMToolShellInterface() {
+  static CMToolShellInterface instance;
+  return instance;
+}
+
+}  // namespace veldra

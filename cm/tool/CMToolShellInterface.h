@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string>
+
+#include "cm/tool/CMToolInterface.h"
+
+namespace veldra {
+
+/// How the last command ended, beyond the texts that it left.
+struct CommandEnd {
+  bool failed = false;  ///< Failure code, death, time-out or a match of the error pattern.
+  std::string words;    ///< What there is to say about it: the tool's own words or ours.
+};
+
+/// Runs commands as child processes through the host's runner. Calls must not overlap: the current
+/// directory of the process changes while one runs.
+class VELDRA_CM_EXPORT CMToolShellInterface : public CMToolInterface {
+ public:
+  int Execute(const std::string& command, std::string& output, std::string& errorText,
+              std::string workingDirectory) override;
+
+  const CommandEnd& lastCommandEnd() const { return m_end; }
+
+ protected:
+  /// Tells the user when the text matches the tool's error or warning pattern.
+  void checkCommandResults(const std::string& text);
+
+ private:
+  void runCommand(const std::string& command, std::string& output, std::string& errorText);
+
+  CommandEnd m_end;
+};
+
+/// The one instance that every operation uses.
+VELDRA_CM_EXPORT CMToolShellInterface& theCMToolShellInterface();
+
+}  // namespace veldra

@@ -1,0 +1,119 @@
+#include "cm/tool/DirectoryAdd.h"
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "cm/core/TextTools.h"
+#include "cm/host/IEnvironment.h"
+#include "cm/host/IUserMessages.h"
+#include "cm/host/MessageIds.h"
+#include "cm/templates/CMProperty.h"
+#include "cm/tool/CommandText.h"
+#include "cm/tool/ToolFrame.h"
+
+namespace veldra {
+
+namespace {
+
+struct Replacement {
+  std::string_view keyword;
+  std::string_view value;
+};
+
+/// One of the three commands, whose keywords are replaced as plain text.
+struct DirectoryCommand {
+  const char* property;
+  const char* traceBefore;
+  const char* traceAfter;
+};
+
+constexpr DirectoryCommand CheckOutDirectory{
+    "CheckOut", "Executing the following command to check out the directory: ",
+    "Check out directory command returned the following: "};
+constexpr DirectoryCommand CheckInDirectory{
+    "CheckIn", "Executing the following command to check in the directory: ",
+    "Check in directory command returned the following: "};
+constexpr DirectoryCommand AddFile{"AddMember_WithoutCheckOutCheckInDirectory",
+                                   "Executing the following command to add the file",
+                                   "Add member command returned the following: "};
+
+int runDirectoryCommand(const DirectoryCommand& row, std::initializer_list<Replacement> values,
+                        CMOperation& operation, DiagnosticList& diagnostics) {
+  if (!hasCMTool(operation, diagnostics)) return 0;
+  std::string command;
+  std::string root;
+  if (!CMProperty::getToolPropertyValue(row.property, command) || command.empty() ||
+      omGetRoot(root) != 1) {
+    return 0;
+  }
+  for (const Replacement& value : values) {
+    command = replaceAll(command, value.keyword, value.value);
+  }
+  std::string output;
+  std::string errorText;
+  return runTraced(replaceAll(command, "$OMROOT", root), row.traceBefore, row.traceAfter, output,
+                   errorText);
+}
+
+/// Units that are saved in one directory, in the order of the list.
+using Group = std::pair<std::string, UnitList>;
+
+std::vector<Group> groupUnitsByPersistAs(const UnitList& units) {
+  std::vector<Group> groups;
+  std::map<std::string, std::size_t> indexOf;
+  for (IUnit* unit : units) {
+    if (unit == nullptr) continue;
+    const std::string directory = unit->getPersistAsDirectory();
+    const auto [at, isNew] = indexOf.emplace(directory, groups.size());
+    if (isNew) groups.emplace_back(directory, UnitList());
+    groups[at->second].second.push_back(unit);
+  }
+  return groups;
+}
+
+/// The units whose names a command can carry; the others get a diagnostic.
+UnitList carriable(const UnitList& units, DiagnosticList& diagnostics) {
+  UnitList result;
+  for (IUnit* unit : units) {
+    if (unit == nullptr) continue;
+    const std::string file = unit->getFullFileName();
+    const std::optional<std::string> reason = unsafeInCommand(file);
+    if (reason) {
+      diagnostics.emplace_back(CMDiagnostic::Failed,
+                               formatMessage(MessageId::UnsafeFileName, {file, *reason}), unit);
+    } else {
+      result.push_back(unit);
+    }
+  }
+  return result;
+}
+
+}  // namespace
+
+int addDirectoryByDirectory(CMOperation& operation, const UnitList& units,
+                            DiagnosticList& diagnostics) {
+  const UnitList accepted = carriable(units, diagnostics);
+  std::size_t position = 0;
+  int status = 0;
+  for (const auto& [directory, members] : groupUnitsByPersistAs(accepted)) {
+    const int checkedOut = runDirectoryCommand(
+        CheckOutDirectory, {{"$mode", ""}, {"$LabelPart", directory}}, operation, diagnostics);
+    for (const IUnit* unit : members) {
+      const std::string file = unit->getFullFileName();
+      UnitProgress progress("Add to Archive", ++position, accepted.size(), file);
+      if (checkedOut != 0) {
+        status = runDirectoryCommand(AddFile, {{"$UnitPath", file}}, operation, diagnostics);
+      }
+      progress.endsByCommand(1, checkedOut != 0 ? status : 0);
+    }
+    // The directory goes back whatever became of its files.
+    status = runDirectoryCommand(CheckInDirectory, {{"$LogPart", "-nc"}, {"$UnitPath", directory}},
+                                 operation, diagnostics);
+  }
+  return status;
+}
+
+}  // namespace veldra
