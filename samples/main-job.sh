@@ -1,0 +1,125 @@
+#!/bin/sh
+# Puts a copy of a sample model under version control and takes it through add, check-out, edit,
+# check-in, history and listing. After each step it asks the tool itself, not the module, whether the
+# archive holds what it should.
+#   samples/main-job.sh VELDRA-CM SAMPLE FOLDER TOOL
+set -eu
+
+veldra_cm=$1
+sample=$2
+where=$3
+tool=$4
+
+mkdir -p "$where"
+where=$(mktemp -d "$(cd "$where" && pwd)/$tool-XXXXXX")
+model="$where/coffee-machine"
+archive="$where/archive"
+cp -R "$sample" "$model"
+chmod -R u+w "$model"
+
+show() {
+  printf '\n$ veldra-cm'
+  for word in "$@"; do
+    case "$word" in
+      *[!A-Za-z0-9_./=:-]*) printf " '%s'" "$word" ;;
+      *) printf ' %s' "$word" ;;
+    esac
+  done
+  printf '\n'
+  "$veldra_cm" "$@"
+}
+
+fail() {
+  printf '\nFAILED: %s\n' "$1" >&2
+  exit 1
+}
+
+# verify WHAT COMMAND...: the command must succeed.
+verify() {
+  what=$1
+  shift
+  "$@" >/dev/null 2>&1 || fail "$what"
+  printf '  [ok] %s\n' "$what"
+}
+
+contains() { grep -qF -- "$1" "$2"; }
+is_writable() { [ -n "$(find "$1" -perm -u+w)" ]; }
+is_read_only() { [ -z "$(find "$1" -perm -u+w)" ]; }
+
+# What the tool itself says.
+case "$tool" in
+  Subversion)
+    url="file://$archive"
+    archived_files() { svn ls -R "$url" | grep -v '/$'; }
+    archived_text() { svn cat "$url/$1"; }
+    archived_log() { svn log "$url/$1"; }
+    is_locked() { svn info "$url/$1" | grep -q '^Lock Owner:'; }
+    ;;
+  RCS)
+    archived_files() {
+      (cd "$archive" && find . -name '*,v') | sed -e 's|^\./||' -e 's|RCS/||' -e 's|,v$||'
+    }
+    # The place of a file's history: the RCS directory beside its name.
+    history_file() {
+      case "$1" in
+        */*) printf '%s/%s/RCS/%s,v' "$archive" "${1%/*}" "${1##*/}" ;;
+        *) printf '%s/RCS/%s,v' "$archive" "$1" ;;
+      esac
+    }
+    archived_text() { co -q -p "$(history_file "$1")"; }
+    archived_log() { rlog "$(history_file "$1")"; }
+    is_locked() { rlog -h "$(history_file "$1")" | sed -n '/^locks:/,/^access/p' | grep -q ': '; }
+    ;;
+esac
+
+unit="Brewing/Pump.vcmp"
+comment='Raise the pump pressure to 15 bar > 9 bar; "Hans" agrees, costs $0 & 100%'
+
+show init "$model" --name "Coffee Machine" --tool "$tool" --archive "$archive"
+verify "the archive exists" test -d "$archive"
+
+show -p "$model" add --all -m "The coffee machine as drawn"
+(cd "$model" && find . -type f ! -path '*/.*/*' | sed 's|^\./||' | LC_ALL=C sort) >"$where/in-folder"
+archived_files | LC_ALL=C sort >"$where/in-archive"
+verify "the archive lists all $(wc -l <"$where/in-folder" | tr -d ' ') files of the folder" \
+  cmp "$where/in-folder" "$where/in-archive"
+verify "$unit is read-only now" is_read_only "$model/$unit"
+
+show -p "$model" checkout "$unit"
+verify "$unit is writable" is_writable "$model/$unit"
+verify "the tool knows the lock" is_locked "$unit"
+
+printf '\n(editing %s: 9 bar become 15 bar)\n' "$unit"
+sed 's/"pressure": "9 bar"/"pressure": "15 bar"/' "$model/$unit" >"$where/edited"
+cmp -s "$where/edited" "$model/$unit" && fail "the edit changed nothing"
+cat "$where/edited" >"$model/$unit"
+
+printf '%s' "$comment" >"$where/comment"
+show -p "$model" checkin "$unit" -F "$where/comment"
+archived_text "$unit" >"$where/archived"
+archived_log "$unit" >"$where/log"
+verify "the archive holds the new pressure" contains '15 bar' "$where/archived"
+verify "the comment arrived unchanged" contains "$comment" "$where/log"
+verify "$unit is read-only again" is_read_only "$model/$unit"
+is_locked "$unit" && fail "the lock is still there"
+printf '  [ok] the lock is gone\n'
+
+show -p "$model" history "$unit"
+show -p "$model" ls
+show -p "$model" status >"$where/status" || fail "status"
+sed -n '1,12p' "$where/status"
+verify "status knows the unit" contains "$unit" "$where/status"
+
+cat <<TEXT
+
+Everything did what it should.
+
+  the model    $model
+  the archive  $archive
+
+What to type next:
+  $veldra_cm -p $model checkout Brewing/Boiler.vcmp
+  $veldra_cm -p $model status
+  $veldra_cm -p $model undo Brewing/Boiler.vcmp
+  $veldra_cm --help
+TEXT

@@ -1,0 +1,49 @@
+#!/bin/sh
+# Installs the packages of setup/packages.txt that are missing: setup/install.sh run|test|long
+# Says what it installs. On a system without apt-get it names what is missing instead.
+set -eu
+
+here=$(cd "$(dirname "$0")" && pwd)
+case "${1:-run}" in
+  run) groups="run" ;;
+  test) groups="run test" ;;
+  long) groups="run test long" ;;
+  *) echo "usage: setup/install.sh run|test|long" >&2; exit 2 ;;
+esac
+
+wanted=$(for group in $groups; do
+  sed -n "s/^$group[[:space:]][[:space:]]*\([^[:space:]]*\).*/\1/p" "$here/packages.txt"
+done)
+
+if ! command -v apt-get >/dev/null 2>&1; then
+  missing=""
+  for program in g++ cmake ninja pkg-config svn ci; do
+    command -v "$program" >/dev/null 2>&1 || missing="$missing $program"
+  done
+  [ -z "$missing" ] && exit 0
+  echo "This is no Debian or Ubuntu. Install these programs with your own package manager:$missing" >&2
+  echo "setup/packages.txt lists the Debian packages and what each is for." >&2
+  exit 1
+fi
+
+missing=""
+for package in $wanted; do
+  dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' ||
+    missing="$missing $package"
+done
+[ -z "$missing" ] && exit 0
+
+as_root=""
+if [ "$(id -u)" -ne 0 ]; then
+  if ! command -v sudo >/dev/null 2>&1; then
+    echo "These packages are missing and installing them needs root:$missing" >&2
+    echo "Run as root: apt-get install$missing" >&2
+    exit 1
+  fi
+  as_root="sudo"
+fi
+
+echo "Installing Debian packages (the reasons are in setup/packages.txt):$missing"
+$as_root apt-get update -qq
+# shellcheck disable=SC2086  # a list of names on purpose
+$as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing
