@@ -40,10 +40,12 @@ class Host {
   /// Reload services. Without them units keep what they had in memory, and a command that would
   /// need a reload reports the unit as not reloaded.
   virtual QuickATMFacade* quickReload() { return nullptr; }
-  virtual std::unique_ptr<ATMFacade> createATMFacade(IUnit* owner) {
-    (void)owner;
+  /// A facade that loads files beside `unit`, for the same owner.
+  virtual std::unique_ptr<ATMFacade> createATMFacade(IUnit* unit) {
+    (void)unit;
     return nullptr;
   }
+  /// A facade that loads files of a directory.
   virtual std::unique_ptr<ATMFacade> createATMFacade(const std::string& directory) {
     (void)directory;
     return nullptr;

@@ -25,6 +25,7 @@ inline constexpr int UnsafeFileName = 60006;        ///< File, what it contains.
 inline constexpr int PatternNotValid = 60007;       ///< Pattern, reason.
 inline constexpr int PatternGivenUp = 60008;        ///< Pattern.
 inline constexpr int CommentNotWritten = 60009;     ///< Directory.
+inline constexpr int NoProcessRunner = 60010;
 inline constexpr int InternalError = 60011;         ///< Operation, what happened.
 
 }  // namespace veldra::MessageId

@@ -23,39 +23,43 @@ PropertyPattern::Field readField(const std::string& pattern, std::string_view te
   return Field::WithValue;
 }
 
+void echoFailure(const std::string& pattern, std::string_view text) {
+  writeDebugEcho({"Failed to match '", pattern, "' in '", text, "'\n"});
+}
+
 }  // namespace
 
-PropertyPattern::PropertyPattern(const std::string& propertyName) : m_name(propertyName) {
+PropertyPattern::PropertyPattern(const std::string& propertyName)
+    : m_name(propertyName), m_echoes(isDebugEchoOn()) {
   const IProperty* const property = CMProperty::getToolProperty(propertyName);
   if (property != nullptr) m_pattern = property->getValue();
 }
 
-PropertyPattern::Field PropertyPattern::read(std::string_view text, std::string& out) const {
-  return m_pattern && !m_pattern->empty() ? readField(*m_pattern, text, out) : Field::Absent;
-}
-
-int PropertyPattern::extract(std::string_view text, std::string& out, int& found,
-                             std::string& extra) const {
-  if (!m_pattern) return 0;
+PropertyPattern::Answer PropertyPattern::extract(std::string_view text, std::string& out) const {
+  if (!m_pattern) return {};
   if (m_pattern->empty()) {
-    found = 0;
-    debugEcho({"The property '", m_name, "is empty'\n"});
+    if (m_echoes) writeDebugEcho({"The property '", m_name, "is empty'\n"});
     out.clear();
-    return 1;
+    return {.result = 1};
   }
-  found = 1;
-  return CMProperty::ExtractBySearchPattern(*m_pattern, text, out, extra);
+  const Field field = readField(*m_pattern, text, out);
+  const bool hasValue = field == Field::WithValue;
+  if (!hasValue && m_echoes) echoFailure(*m_pattern, text);
+  return {.result = hasValue ? 1 : 0, .found = 1, .field = field};
 }
 
 int CMProperty::ExtractByProperty(const std::string& propertyName, std::string_view text,
-                                  std::string& out, int& found, std::string& extra) {
-  return PropertyPattern(propertyName).extract(text, out, found, extra);
+                                  std::string& out, int& found, std::string& /*extra*/) {
+  const PropertyPattern pattern(propertyName);
+  const PropertyPattern::Answer answer = pattern.extract(text, out);
+  if (pattern.exists()) found = answer.found;
+  return answer.result;
 }
 
 int CMProperty::ExtractBySearchPattern(const std::string& pattern, std::string_view text,
                                        std::string& out, std::string& /*extra*/) {
   if (readField(pattern, text, out) == PropertyPattern::Field::WithValue) return 1;
-  debugEcho({"Failed to match '", pattern, "' in '", text, "'\n"});
+  if (isDebugEchoOn()) echoFailure(pattern, text);
   return 0;
 }
 

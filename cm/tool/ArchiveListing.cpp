@@ -28,35 +28,19 @@ std::string_view lastPart(std::string_view path) {
   return at == std::string_view::npos ? path : path.substr(at + 1);
 }
 
-/// A field that may be missing: its value, or nothing.
-std::string optionalField(const PropertyPattern& pattern, std::string_view record,
-                          const char* label, int& status) {
-  std::string value;
-  std::string extra;
-  int found = 0;
-  status = pattern.extract(record, value, found, extra);
-  if (status == 0) value.clear();
-  debugEcho({label, ": '", value, "'\n"});
-  return value;
-}
-
 /// The mode of a record: unknown when the record does not have the field at all, otherwise
 /// read-write or read-only as the pattern's group took part or not. An empty pattern says nothing.
-int listedMode(const PropertyPattern& pattern, std::string_view record, int& status) {
-  using Field = PropertyPattern::Field;
-  std::string text;
-  std::string extra;
-  int found = 0;
-  status = pattern.extract(record, text, found, extra);
-  if (found == 0) return ListedMode::Unknown;
-  if (status == 1) return ListedMode::ReadWrite;
-  return pattern.read(record, text) == Field::Absent ? ListedMode::Unknown : ListedMode::ReadOnly;
+int listedMode(const PropertyPattern::Answer& answer) {
+  if (answer.result == 1 && answer.found != 0) return ListedMode::ReadWrite;
+  return answer.field == PropertyPattern::Field::Absent ? ListedMode::Unknown
+                                                        : ListedMode::ReadOnly;
 }
 
 }  // namespace
 
 ArchiveListing::ArchiveListing()
-    : m_showsAllFiles(showsAllFiles()),
+    : m_echoes(isDebugEchoOn()),
+      m_showsAllFiles(showsAllFiles()),
       m_ignoresNamesWithoutDot(
           CMProperty::getProjectBool(IPN::General, "IgnoreArchiveItemsWithoutDot", true)),
       m_workingFile(IPN::CMListArchiveItsWorkingFile),
@@ -87,24 +71,39 @@ bool ArchiveListing::isListed(const std::string& workingFile) const {
   return trimmed(lastPart(workingFile)) == m_projectFile;
 }
 
+void ArchiveListing::echo(std::initializer_list<std::string_view> pieces) const {
+  if (m_echoes) writeDebugEcho(pieces);
+}
+
+/// A field that may be missing: its value, or nothing.
+std::string ArchiveListing::optionalField(const PropertyPattern& pattern, std::string_view record,
+                                          const char* label, int& status) const {
+  std::string value;
+  status = pattern.extract(record, value).result;
+  if (status == 0) value.clear();
+  echo({label, ": '", value, "'\n"});
+  return value;
+}
+
 int ArchiveListing::readRecord(std::string_view record, CMArchiveItemList& items) const {
   std::string workingFile;
-  std::string extra;
-  int found = 0;
-  int status = m_workingFile.extract(record, workingFile, found, extra);
-  debugEcho({"Archive working file: '", workingFile, "'\n"});
-  if (!isListed(workingFile) || status != 1 || found == 0) return status;
+  const PropertyPattern::Answer file = m_workingFile.extract(record, workingFile);
+  echo({"Archive working file: '", workingFile, "'\n"});
+  if (!isListed(workingFile) || file.result != 1 || file.found == 0) return file.result;
 
+  int status = 0;
   std::string version = optionalField(m_version, record, "Archive version", status);
 
-  const int mode = listedMode(m_mode, record, status);
-  debugEcho({"Archive file mode: ", status == 1 ? "ReadWrite" : "ReadOnly", "\n"});
+  std::string modeText;
+  const PropertyPattern::Answer mode = m_mode.extract(record, modeText);
+  echo({"Archive file mode: ", mode.result == 1 ? "ReadWrite" : "ReadOnly", "\n"});
 
   std::string locker = optionalField(m_locker, record, "Archive Locker", status);
 
-  auto item = std::make_unique<CMArchiveItem>(std::move(workingFile), std::move(version),
-                                              ListedMode::store(mode), std::move(locker), "");
-  const bool hasDot = item->getFileName().find('.') != std::string::npos;
+  auto item =
+      std::make_unique<CMArchiveItem>(std::move(workingFile), std::move(version),
+                                      ListedMode::store(listedMode(mode)), std::move(locker), "");
+  const bool hasDot = baseName(item->getFileNameWithPath()).find('.') != std::string_view::npos;
   if (hasDot || !m_ignoresNamesWithoutDot) items.addTail(item.release());
   return status;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -20,9 +21,13 @@ class ArchiveListing {
  private:
   int readRecord(std::string_view record, CMArchiveItemList& items) const;
   bool isListed(const std::string& workingFile) const;
+  std::string optionalField(const PropertyPattern& pattern, std::string_view record,
+                            const char* label, int& status) const;
+  void echo(std::initializer_list<std::string_view> pieces) const;
 
   std::string m_projectFile;
   std::string m_projectExtension;
+  bool m_echoes;  ///< Debug lines are wanted.
   bool m_showsAllFiles;
   bool m_ignoresNamesWithoutDot;
   PropertyPattern m_workingFile;

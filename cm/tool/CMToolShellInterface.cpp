@@ -123,7 +123,12 @@ void CMToolShellInterface::runCommand(const std::string& command, std::string& o
   echo(command + "\n");
   Host* const host = installedHost();
   IProcesses* const processes = host != nullptr ? host->processes() : nullptr;
-  if (processes == nullptr) return;
+  if (processes == nullptr) {
+    errorText = loadMessage(MessageId::NoProcessRunner);
+    echo(errorText);
+    m_end = {.failed = true, .words = errorText};
+    return;
+  }
 
   const RedirectedCommand redirected(command);
   const RunResult run = runAndCollect(*processes, redirected, output, errorText);

@@ -1,0 +1,19 @@
+#pragma once
+
+namespace veldra::bench {
+
+// One function per row; each returns the row's ratio.
+double commandsAgainstShell();
+double executeAgainstSpawn();
+double expansionAgainstProcess();
+double listingAgainstPerl();
+double listingMemory();
+double checkoutGrowth();
+double statusAgainstSubversion();
+double floodAgainstCat();
+double floodMemory();
+
+/// Prints 200 MB on each of the two outputs, for the rows about floods.
+int printFlood();
+
+}  // namespace veldra::bench

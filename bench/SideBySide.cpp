@@ -1,0 +1,35 @@
+#include "bench/SideBySide.h"
+
+#include <algorithm>
+#include <chrono>
+#include <vector>
+
+namespace veldra::bench {
+
+double secondsOf(const Work& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+namespace {
+double median(std::vector<double> values) {
+  std::sort(values.begin(), values.end());
+  return values[values.size() / 2];
+}
+}  // namespace
+
+double ratioOf(int rounds, const Work& ours, const Work& theirs) {
+  ours();
+  theirs();
+  std::vector<double> ourTimes;
+  std::vector<double> theirTimes;
+  for (int round = 0; round < rounds; ++round) {
+    if (round % 2 == 0) ourTimes.push_back(secondsOf(ours));
+    theirTimes.push_back(secondsOf(theirs));
+    if (round % 2 != 0) ourTimes.push_back(secondsOf(ours));
+  }
+  return median(ourTimes) / median(theirTimes);
+}
+
+}  // namespace veldra::bench

@@ -1,0 +1,80 @@
+// Measures every row and prints name, ratio, goal, and whether the goal is met.
+
+#include <array>
+#include <cstdio>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "bench/BenchProject.h"
+#include "bench/Rows.h"
+
+namespace {
+
+struct Row {
+  const char* name;
+  double (*measure)();
+  double goal;
+  bool ownProcess = false;  ///< Peaks of memory would mix with those of other rows.
+};
+
+using namespace veldra::bench;
+
+constexpr std::array<Row, 9> Rows{{
+    {"commands: 1,000 check-ins that do nothing / sh loop", commandsAgainstShell, 1.0},
+    {"execute: one Execute of /bin/true / posix_spawn, two pipes, wait", executeAgainstSpawn, 1.15},
+    {"expand: condition and five keywords / one process", expansionAgainstProcess, 0.01},
+    {"listing: 100,000 records / Perl", listingAgainstPerl, 0.7},
+    {"listing-memory: bytes held / bytes listed", listingMemory, 4.0, true},
+    {"checkout: 10,000 units / 1,000 units", checkoutGrowth, 10.5},
+    {"status: 20,000 units, cold / svn status -v", statusAgainstSubversion, 1.0},
+    {"flood: 200 MB on each output / cat through two pipes", floodAgainstCat, 1.5},
+    {"flood-memory: bytes held / bytes printed", floodMemory, 3.0, true},
+}};
+
+bool isWanted(std::string_view name, int argc, char** argv) {
+  for (int i = 1; i < argc; ++i) {
+    if (name.substr(0, name.find(':')) == argv[i]) return true;
+  }
+  return argc == 1;
+}
+
+/// The row's figure, measured by another process of this program.
+double figureOfOwnProcess(const Row& row) {
+  const std::string_view name(row.name);
+  const std::string command =
+      "'" + ownProgram() + "' --figure " + std::string(name.substr(0, name.find(':')));
+  std::FILE* const pipe = popen(command.c_str(), "r");
+  double figure = 0;
+  const bool isRead = pipe != nullptr && std::fscanf(pipe, "%lf", &figure) == 1;
+  if (pipe == nullptr || pclose(pipe) != 0 || !isRead) throw std::runtime_error(command);
+  return figure;
+}
+
+int printFigure(int argc, char** argv) {
+  for (const Row& row : Rows) {
+    if (isWanted(row.name, argc, argv)) std::printf("%.4f\n", row.measure());
+  }
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc == 2 && std::string_view(argv[1]) == "--print-flood") return printFlood();
+  if (argc == 3 && std::string_view(argv[1]) == "--figure") return printFigure(argc - 1, argv + 1);
+  int failed = 0;
+  for (const Row& row : Rows) {
+    if (!isWanted(row.name, argc, argv)) continue;
+    try {
+      const double ratio = row.ownProcess ? figureOfOwnProcess(row) : row.measure();
+      std::printf("%-66s %8.4f  at most %-6g %s\n", row.name, ratio, row.goal,
+                  ratio <= row.goal ? "met" : "missed");
+    } catch (const std::exception& e) {
+      std::printf("%-66s could not be measured: %s\n", row.name, e.what());
+      failed = 1;
+    }
+    std::fflush(stdout);
+  }
+  return failed;
+}

@@ -1,0 +1,33 @@
+#include <cstdlib>
+#include <filesystem>
+
+#include "bench/BenchProject.h"
+#include "bench/Rows.h"
+#include "bench/SideBySide.h"
+
+namespace veldra::bench {
+
+namespace {
+void runQuietly(const std::string& command) {
+  if (std::system((command + " >/dev/null").c_str()) != 0) std::abort();
+}
+}  // namespace
+
+double statusAgainstSubversion() {
+  const TempFolder folder;
+  const std::string model = (folder.path() / "model").string();
+  const std::string copy = (folder.path() / "copy").string();
+  const std::string url = "file://" + (folder.path() / "archive").string();
+  std::filesystem::create_directories(model);
+  writeModel(model, 20000);
+  runQuietly("svnadmin create '" + (folder.path() / "archive").string() + "'");
+  runQuietly("svn import -q -m model '" + model + "' '" + url + "'");
+  runQuietly("svn checkout -q '" + url + "' '" + copy + "'");
+  const std::string program =
+      std::filesystem::path(ownProgram()).replace_filename("veldra-cm").string();
+  return ratioOf(
+      7, [&] { runQuietly("'" + program + "' -p '" + copy + "' status"); },
+      [&] { runQuietly("svn status -v '" + copy + "'"); });
+}
+
+}  // namespace veldra::bench
