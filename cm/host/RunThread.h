@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <deque>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -16,8 +17,19 @@ namespace veldra {
 /// length.
 class VELDRA_CM_EXPORT LineList {
  public:
+  LineList() = default;
+  LineList(const LineList&) = delete;
+  LineList& operator=(const LineList&) = delete;
+  LineList(LineList&&) = default;
+  LineList& operator=(LineList&&) = default;
+
   /// Adds bytes as they arrive; they may begin and end anywhere in a line.
   void append(std::string_view bytes);
+  /// Space at the end, never empty, into which the next bytes can be read without a copy. `took` says
+  /// how many of them have been filled.
+  std::span<char> room();
+  void took(std::size_t count);
+
   bool empty() const { return m_size == 0; }
   /// All lines together, in bytes.
   std::size_t size() const { return m_size; }
@@ -25,7 +37,13 @@ class VELDRA_CM_EXPORT LineList {
   void appendTo(std::string& text) const;
 
  private:
-  std::deque<std::string> m_pieces;
+  struct Piece {
+    std::unique_ptr<char[]> bytes;
+    std::size_t capacity;
+    std::size_t size;
+  };
+
+  std::deque<Piece> m_pieces;
   std::size_t m_size = 0;
 };
 
