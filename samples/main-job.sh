@@ -16,6 +16,8 @@ model="$where/coffee-machine"
 archive="$where/archive"
 cp -R "$sample" "$model"
 chmod -R u+w "$model"
+# Making the project is the first step of the job, so the sample's own stays behind.
+rm -f "$model"/*.vdy
 
 show() {
   printf '\n$ veldra-cm'
@@ -49,11 +51,12 @@ is_read_only() { [ -z "$(find "$1" -perm -u+w)" ]; }
 # What the tool itself says.
 case "$tool" in
   Subversion)
-    url="file://$archive"
-    archived_files() { svn ls -R "$url" | grep -v '/$'; }
-    archived_text() { svn cat "$url/$1"; }
-    archived_log() { svn log "$url/$1"; }
-    is_locked() { svn info "$url/$1" | grep -q '^Lock Owner:'; }
+    # The model is a working copy, so the tool can be asked by the local name.
+    svn() { env LC_ALL=C.UTF-8 svn --non-interactive "$@"; }
+    archived_files() { svn ls -R "$(svn info --show-item url "$model")" | grep -v '/$'; }
+    archived_text() { svn cat -r HEAD "$model/$1"; }
+    archived_log() { svn log -r HEAD:1 "$model/$1"; }
+    is_locked() { svn info -r HEAD "$model/$1" | grep -q '^Lock Owner:'; }
     ;;
   RCS)
     archived_files() {
@@ -68,11 +71,12 @@ case "$tool" in
     }
     archived_text() { co -q -p "$(history_file "$1")"; }
     archived_log() { rlog "$(history_file "$1")"; }
-    is_locked() { rlog -h "$(history_file "$1")" | sed -n '/^locks:/,/^access/p' | grep -q ': '; }
+    # Holders stand on lines of their own below "locks:", each after a tab.
+    is_locked() { rlog -h "$(history_file "$1")" | sed -n '/^locks:/,/^access/p' | grep -q '^[[:blank:]]'; }
     ;;
 esac
 
-unit="Brewing/Pump.vcmp"
+unit="Brewing/Water Circuit/Pump.vcmp"
 comment='Raise the pump pressure to 15 bar > 9 bar; "Hans" agrees, costs $0 & 100%'
 
 show init "$model" --name "Coffee Machine" --tool "$tool" --archive "$archive"
@@ -90,7 +94,7 @@ verify "$unit is writable" is_writable "$model/$unit"
 verify "the tool knows the lock" is_locked "$unit"
 
 printf '\n(editing %s: 9 bar become 15 bar)\n' "$unit"
-sed 's/"pressure": "9 bar"/"pressure": "15 bar"/' "$model/$unit" >"$where/edited"
+sed 's/"value": "9 bar"/"value": "15 bar"/' "$model/$unit" >"$where/edited"
 cmp -s "$where/edited" "$model/$unit" && fail "the edit changed nothing"
 cat "$where/edited" >"$model/$unit"
 
@@ -118,8 +122,8 @@ Everything did what it should.
   the archive  $archive
 
 What to type next:
-  $veldra_cm -p $model checkout Brewing/Boiler.vcmp
+  $veldra_cm -p $model checkout Brewing/Grinder.vcmp
   $veldra_cm -p $model status
-  $veldra_cm -p $model undo Brewing/Boiler.vcmp
+  $veldra_cm -p $model undo Brewing/Grinder.vcmp
   $veldra_cm --help
 TEXT

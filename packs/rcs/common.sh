@@ -1,0 +1,28 @@
+# Sourced by the helpers beside it.
+#
+# They name a file by its archive file ("...,v") and the directory that it is worked on in, which
+# ends with a slash. The tools print no translated texts, and names and contents are bytes to them.
+LC_ALL=C
+export LC_ALL
+
+newline='
+'
+
+fail() {
+  printf 'rcs archive: %s\n' "$1" >&2
+  exit 1
+}
+
+for program in ci co rcs rcsdiff rlog; do
+  command -v "$program" >/dev/null || fail "The program '$program' is not installed or not in PATH."
+done
+
+# name_files ARCHIVEFILE DIRECTORY: sets $archived and $working.
+name_files() {
+  archived=$1
+  working=${archived##*/}
+  working=$2${working%,v}
+  case $working in
+    *,v) fail "RCS takes every name that ends in ',v' for an archive file; rename '$working'." ;;
+  esac
+}

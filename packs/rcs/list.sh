@@ -1,0 +1,10 @@
+# list.sh DIRECTORY: a line a file: newest revision, holders of locks, RW while it is held, path;
+# with tabs between.
+. "${0%/*}/common.sh"
+
+[ -d "$1" ] || fail "The archive '$1' is not a directory; connect to it first."
+# A name with a line end cannot be told from two lines of the answer.
+(
+  cd "$1" &&
+    find . -path '*/RCS/*,v' -type f ! -path "*$newline*" -print0 | sort -z | xargs -0 -r rlog -h
+) | awk -f "${0%/*}/list.awk"

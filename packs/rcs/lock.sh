@@ -1,0 +1,9 @@
+# lock.sh ARCHIVEFILE DIRECTORY/: locks the newest revision for a file that is just that.
+. "${0%/*}/common.sh"
+
+name_files "$1" "$2"
+[ -f "$archived" ] || fail "'$archived' does not exist; the file is not in the archive."
+# The model goes on with what it has in memory, so the lock must not change the content.
+[ ! -e "$working" ] || rcsdiff -q "$archived" "$working" >/dev/null ||
+  fail "'$working' differs from the newest revision; check it out, or undo its changes first."
+co -q -l "$archived" "$working"

@@ -1,0 +1,87 @@
+# Sourced by the helpers beside it: the surroundings of svn, messages, addresses, commits.
+
+# English texts whatever the user's language is, because answers are read; file names in UTF-8.
+# LANGUAGE would win over the locale's language even here.
+LC_ALL=C.UTF-8
+LANGUAGE=
+export LC_ALL LANGUAGE
+
+fail() {
+  printf 'subversion: %s\n' "$1" >&2
+  exit 1
+}
+
+for program in svn svnadmin; do
+  command -v "$program" >/dev/null || fail "The program '$program' is not installed or not in PATH."
+done
+
+svn() {
+  command svn --non-interactive "$@"
+}
+
+# absolute_path PATH
+absolute_path() {
+  case $1 in
+    /*) printf '%s\n' "$1" ;;
+    *) printf '%s\n' "$PWD/$1" ;;
+  esac
+}
+
+# archive_url ARCHIVE: an address stays as it is, a local path becomes one. Only what svn would take
+# for part of the address, and what a command template would, is encoded here; svn encodes the rest
+# itself.
+archive_url() {
+  case $1 in
+    '') fail "No archive is set." ;;
+    *://*) printf '%s\n' "$1" ;;
+    *)
+      printf 'file://'
+      absolute_path "$1" |
+        sed 's/%/%25/g; s/#/%23/g; s/?/%3F/g; s/ /%20/g; s/\$/%24/g; s/(/%28/g; s/)/%29/g'
+      ;;
+  esac
+}
+
+# run COMMAND...: keeps all that it prints in $answer, so that the caller can look before it shows.
+run() {
+  answer=$("$@" 2>&1)
+}
+
+show() {
+  [ -z "$answer" ] || printf '%s\n' "$answer"
+}
+
+give_up() {
+  show >&2
+  exit 1
+}
+
+# svn_commit ENCODING COMMENTFILE TARGET...
+svn_commit() {
+  encoding=$1 file=$2
+  shift 2
+  svn commit --depth empty --force-log --encoding "$encoding" --file "$file" -- "$@"
+}
+
+# commit COMMENTFILE TARGET...: as `run`; an empty COMMENTFILE stands for no comment.
+#
+# A comment in the repository is UTF-8 with single line feeds. One that is not is refused, so the
+# second try makes it so: any line end becomes a line feed, and bytes that are no UTF-8 are read as
+# ISO 8859-1, which gives every byte a character of the same number.
+commit() {
+  message=${1:-/dev/null}
+  shift
+  run svn_commit UTF-8 "$message" "$@" && return
+  case $answer in
+    *E125005:* | *E135000:*) ;;
+    *) return 1 ;;
+  esac
+  encoding=UTF-8
+  iconv -f UTF-8 -t UTF-8 "$message" >/dev/null 2>&1 || encoding=ISO-8859-1
+  clean=$(mktemp) || return
+  LC_ALL=C sed "s/$(printf '\r')\$//" "$message" | LC_ALL=C tr '\r' '\n' >"$clean"
+  run svn_commit "$encoding" "$clean" "$@"
+  result=$?
+  rm -f "$clean"
+  return $result
+}
