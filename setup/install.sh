@@ -12,7 +12,7 @@ case "${1:-run}" in
 esac
 
 wanted=$(for group in $groups; do
-  sed -n "s/^$group[[:space:]][[:space:]]*\([^[:space:]]*\).*/\1/p" "$here/packages.txt"
+  sed -n "s/^${group}[[:space:]][[:space:]]*\([^[:space:]]*\).*/\1/p" "$here/packages.txt"
 done)
 
 if ! command -v apt-get >/dev/null 2>&1; then
