@@ -38,7 +38,8 @@ std::string shortPathByTemplate(std::string path, std::string repository) {
   }
   repository.erase(fileName);
   if (subDirs > 0) {
-    if (startsWithNoCase(path, std::string_view(repository).substr(0, subDirs))) {
+    if (equalsNoCase(std::string_view(path).substr(0, subDirs),
+                     std::string_view(repository).substr(0, subDirs))) {
       path.erase(0, subDirs);
     }
     repository.erase(0, subDirs + SubDirs.size());

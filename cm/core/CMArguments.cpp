@@ -28,11 +28,11 @@ bool CMLog::EncloseCommentsInQuotes() {
 }
 
 int CMLog::isNamed(const std::string& keyword) const {
-  // With the setting at "No" the comment answers to every keyword; tools are set up for that.
-  return EncloseCommentsInQuotes() || equalsNoCase(keyword, "log") ? 1 : 0;
+  return equalsNoCase(keyword, "log") ? 1 : 0;
 }
 
 std::string CMLog::substitute(const std::string& keyword) {
+  // Whatever was asked for: with the setting at "No" the keyword is not even looked at.
   if (EncloseCommentsInQuotes()) return m_comment;
   return equalsNoCase(keyword, "log") ? quotedIfContains(m_comment, " \n\r") : keyword;
 }

@@ -165,11 +165,9 @@ int CMFacade::ConnectToArchive(UnitList& units, ArgumentList& arguments,
 
 int CMFacade::ListWorkspace(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics) {
   // The workspace is the host's: no transaction and no back-end choice.
-  try {
+  return withoutEscape(TxnListArchive, [&] {
     return backEnds().tool->listWorkspace({units, arguments, diagnostics, false});
-  } catch (const std::exception& e) {
-    return reportEscape(TxnListArchive, e.what());
-  }
+  });
 }
 
 int CMFacade::Fetch(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics) {
@@ -320,11 +318,14 @@ int CMFacade::movePackageContent(IUnit* package, UnitList& units, const std::str
 }
 
 int CMFacade::doSetUpSCC() {
-  return CMProperty::useSccCompliantTool() != 0 ? backEnds().provider->setUp() : 1;
+  return withoutEscape(TxnConnect, [] {
+    return CMProperty::useSccCompliantTool() != 0 ? backEnds().provider->setUp() : 1;
+  });
 }
 
 int CMFacade::doCleanUpSCC() {
-  if (CMProperty::getIsLoaded()) backEnds().provider->cleanUp();
+  withoutEscape(TxnConnect,
+                [] { return CMProperty::getIsLoaded() ? backEnds().provider->cleanUp() : 1; });
   return 1;
 }
 
@@ -334,13 +335,16 @@ int CMFacade::doCloseProjectSCC() {
 }
 
 int CMFacade::RunToolExe() {
-  return backEnds().provider->runTool();
+  return withoutEscape(TxnFreeCommand, [] { return backEnds().provider->runTool(); });
 }
 
 int CMFacade::doConnectToArcDlg() {
-  const CMTranscation transcation(nullptr, 1, TxnFreeCommand, "");
-  Host* const host = installedHost();
-  if (host != nullptr) host->messages().showConnectToArchive();
+  withoutEscape(TxnFreeCommand, [] {
+    const CMTranscation transcation(nullptr, 1, TxnFreeCommand, "");
+    Host* const host = installedHost();
+    if (host != nullptr) host->messages().showConnectToArchive();
+    return 1;
+  });
   return 1;
 }
 

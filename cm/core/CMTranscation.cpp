@@ -33,14 +33,29 @@ CMTranscation::CMTranscation(const IViewParameters* view, int undoFlag, CMTransc
                              std::string operationName)
     : m_operationName(std::move(operationName)), m_transcationType(type) {
   moduleState().transcations.push_back(this);
-  if (Undoer* const undoer = undoerFor(type)) undoer->startTransaction(view, undoFlag);
-  if (IAbstractCMManager* const manager = cmManager()) manager->setCMOperationRunning(1);
-  CMTranscation::markStartTranscation();
+  try {
+    if (Undoer* const undoer = undoerFor(type)) undoer->startTransaction(view, undoFlag);
+    if (IAbstractCMManager* const manager = cmManager()) manager->setCMOperationRunning(1);
+    CMTranscation::markStartTranscation();
+  } catch (...) {
+    leave();
+    throw;
+  }
 }
 
 CMTranscation::~CMTranscation() {
-  if (Undoer* const undoer = undoerFor(m_transcationType)) undoer->endTransaction();
-  CMTranscation::markEndTranscation();
+  try {
+    if (Undoer* const undoer = undoerFor(m_transcationType)) undoer->endTransaction();
+    CMTranscation::markEndTranscation();
+  } catch (...) {
+    // The operation is over; a host that fails here must not take the process down.
+    VELDRA_TRACE("The host failed at the end of a transaction");
+  }
+  leave();
+}
+
+/// Takes this transaction out of the live ones.
+void CMTranscation::leave() {
   std::vector<CMTranscation*>& live = moduleState().transcations;
   live.erase(std::remove(live.begin(), live.end(), this), live.end());
   if (live.empty()) moduleState().notices.reset();

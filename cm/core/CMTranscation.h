@@ -45,6 +45,7 @@ class VELDRA_CM_EXPORT CMTranscation {
   std::string expandKeyWords(std::string text) const;
   void writeSeparator(const char* propertyName) const;
   CMTranscation* ifLive();
+  void leave();
 
   std::string m_operationName;
   CMTranscationType m_transcationType;

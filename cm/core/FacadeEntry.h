@@ -40,18 +40,25 @@ struct ItemEntry {
 /// Tells the user that an operation ended by an exception; the answer is 0.
 int reportEscape(CMTranscationType type, const char* what) noexcept;
 
-/// The sequence that every entry point shares: transaction, validity, then `run`. It is the one
-/// place where exceptions of the back ends and of host code end.
+/// Runs `run`. This is the one place where exceptions of the back ends and of host code end.
 template <class Run>
-int enterFacade(CMTranscationType type, Run run) {
+int withoutEscape(CMTranscationType type, Run run) {
   try {
-    CMTranscation transcation(nullptr, 1, type, "");
-    return transcation.isValidTranscation() ? run() : 0;
+    return run();
   } catch (const std::exception& e) {
     return reportEscape(type, e.what());
   } catch (...) {
     return reportEscape(type, "unknown");
   }
+}
+
+/// The sequence that every entry point shares: transaction, validity, then `run`.
+template <class Run>
+int enterFacade(CMTranscationType type, Run run) {
+  return withoutEscape(type, [&] {
+    CMTranscation transcation(nullptr, 1, type, "");
+    return transcation.isValidTranscation() ? run() : 0;
+  });
 }
 
 int runEntry(const UnitEntry& entry, UnitList& units, ArgumentList& arguments,

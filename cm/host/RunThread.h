@@ -25,8 +25,8 @@ class VELDRA_CM_EXPORT LineList {
 
   /// Adds bytes as they arrive; they may begin and end anywhere in a line.
   void append(std::string_view bytes);
-  /// Space at the end, never empty, into which the next bytes can be read without a copy. `took` says
-  /// how many of them have been filled.
+  /// Space at the end, never empty, into which the next bytes can be read without a copy. `took`
+  /// says how many of them have been filled.
   std::span<char> room();
   void took(std::size_t count);
 

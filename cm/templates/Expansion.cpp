@@ -21,32 +21,42 @@ void echo(std::initializer_list<std::string_view> pieces) {
   if (use().echo) writeDebugEcho(pieces);
 }
 
+void reportBound() {
+  const std::string& keyword = use().keyword;
+  const std::string text = "The expansion of " +
+                           (keyword.empty() ? "the template" : "'" + keyword + "'") +
+                           " leads back to itself or grows too large";
+  echo({text, "\n"});
+  VELDRA_TRACE(text);
+}
+
+/// Counts a step over `size` bytes. False when a bound is passed, and from then on: whatever is
+/// still to be expanded fails at once.
+bool charge(std::size_t size) {
+  ExpansionUse& spent = use();
+  spent.work += size + ExpansionLimits::StepCost;
+  if (!spent.exceeded &&
+      (spent.depth > ExpansionLimits::Depth || spent.work > ExpansionLimits::Work)) {
+    spent.exceeded = true;
+    reportBound();
+  }
+  return !spent.exceeded;
+}
+
 /// One level of nesting; the outermost one begins a new account.
 class Level {
  public:
-  explicit Level(std::size_t size) {
-    if (use().depth == 0) {
-      use().work = 0;
-      use().echo = isDebugEchoOn();
-      use().keyword.clear();
-    }
-    m_isWithinBounds = ++use().depth <= ExpansionLimits::Depth && use().charge(size);
+  Level() {
+    if (use().depth++ > 0) return;
+    use().work = 0;
+    use().exceeded = false;
+    use().echo = isDebugEchoOn();
+    use().keyword.clear();
   }
   Level(const Level&) = delete;
   Level& operator=(const Level&) = delete;
   ~Level() { --use().depth; }
-  bool isWithinBounds() const { return m_isWithinBounds; }
-
- private:
-  bool m_isWithinBounds;
 };
-
-void reportBound() {
-  const std::string text =
-      "The expansion of '" + use().keyword + "' leads back to itself or grows too large\n";
-  echo({text});
-  VELDRA_TRACE(std::string_view(text).substr(0, text.size() - 1));
-}
 
 /// What one expansion hands to those nested in it.
 struct Context {
@@ -76,10 +86,7 @@ int resolveConditions(std::string& text, const Context& context) {
     const std::size_t length = static_cast<std::size_t>(end) - static_cast<std::size_t>(start) + 1;
     text.replace(static_cast<std::size_t>(start), length, chosen);
     echo({"after condition expansion: '", text, "'\n"});
-    if (!use().charge(text.size())) {
-      reportBound();
-      return 0;
-    }
+    if (!charge(text.size())) return 0;
   }
   return result;
 }
@@ -132,10 +139,7 @@ int resolveKeywords(KeywordScanner& scanner, const Context& context, int result)
       echo({"Could not resolve '", scanner.reference(), "'\n"});
       return 0;
     }
-    if (!use().charge(value.size())) {
-      reportBound();
-      return 0;
-    }
+    if (!charge(value.size())) return 0;
     scanner.replace(value);
   }
   return result;
@@ -145,19 +149,17 @@ int resolveKeywords(KeywordScanner& scanner, const Context& context, int result)
 
 int CMProperty::Expand(const std::string& text, const ArgumentList& arguments, std::string& out,
                        std::string& extra, bool providerMetaclass) {
-  const Level level(text.size());
+  const Level level;
   echo({"Expanding '", text, "'\n"});
   if (text.empty()) {
     echo({"nothing the expand\n"});
     return 1;
   }
-  if (!level.isWithinBounds()) {
-    reportBound();
-    return 0;
-  }
+  if (!charge(text.size())) return 0;
   const Context context{arguments, extra, providerMetaclass};
   std::string current = text;
   const int result = resolveConditions(current, context);
+  if (use().exceeded) return 0;
   if (current.empty()) {
     echo({"nothing the more expand\n"});
     return 1;
@@ -165,7 +167,7 @@ int CMProperty::Expand(const std::string& text, const ArgumentList& arguments, s
   KeywordScanner scanner(current);
   const int resolved = resolveKeywords(scanner, context, result);
   out = scanner.text();
-  return resolved;
+  return use().exceeded ? 0 : resolved;
 }
 
 int CMProperty::ExpandProperty(const std::string& propertyName, const ArgumentList& arguments,

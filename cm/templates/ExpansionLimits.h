@@ -19,14 +19,9 @@ inline constexpr std::size_t StepCost = 64;
 struct ExpansionUse {
   int depth = 0;
   std::size_t work = 0;
-  bool echo = false;    ///< Whether debug lines are wanted, asked once per whole expansion.
-  std::string keyword;  ///< The keyword that is being resolved, for the report of a passed bound.
-
-  /// Counts a step over `size` bytes; false when the bound is passed. Stays false from then on.
-  bool charge(std::size_t size) {
-    work += size + ExpansionLimits::StepCost;
-    return work <= ExpansionLimits::Work;
-  }
+  bool exceeded = false;  ///< A bound was passed: the whole expansion fails.
+  bool echo = false;      ///< Whether debug lines are wanted, asked once per whole expansion.
+  std::string keyword;    ///< The keyword that is being resolved, for the report of a passed bound.
 };
 
 }  // namespace veldra

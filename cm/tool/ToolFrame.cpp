@@ -28,7 +28,13 @@ ReloadBracket::ReloadBracket(bool isNeeded) : m_isNeeded(isNeeded) {
 
 ReloadBracket::~ReloadBracket() {
   const CMFacade::ReloadCallback& after = CMFacade::afterATMCallbackFunc();
-  if (m_isNeeded && after) after(CMFacade::afterATMCallbackFuncParameter());
+  if (!m_isNeeded || !after) return;
+  try {
+    after(CMFacade::afterATMCallbackFuncParameter());
+  } catch (...) {
+    // The batch is over, perhaps by an exception already.
+    VELDRA_TRACE("The host failed after a reload");
+  }
 }
 
 UnitProgress::UnitProgress(const char* operation, std::size_t position, std::size_t count,
