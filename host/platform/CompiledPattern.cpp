@@ -1,0 +1,110 @@
+#include "host/platform/CompiledPattern.h"
+
+#include <algorithm>
+#include <chrono>
+#include <limits>
+#include <new>
+
+namespace veldra::host {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+// About a tenth of a second's worth of bytes looked at, over all start positions and steps.
+constexpr std::size_t QuickBytes = std::size_t{1} << 28;
+// With fewer steps than these, hardly any pattern would get through.
+constexpr std::size_t FewestQuickSteps = 100;
+constexpr std::size_t MostQuickSteps = 10'000;
+
+constexpr auto BaseTime = std::chrono::milliseconds(500);
+constexpr auto TimePerByte = std::chrono::nanoseconds(20);
+// Each item of a pattern may look at the whole text, so that the clock cannot wait for many of
+// them.
+constexpr unsigned ItemsPerLook = 16;
+
+class Watch {
+ public:
+  explicit Watch(std::size_t bytes) : m_deadline(Clock::now() + BaseTime + TimePerByte * bytes) {}
+
+  bool isOver() { return ++m_items % ItemsPerLook == 0 && Clock::now() > m_deadline; }
+
+ private:
+  Clock::time_point m_deadline;
+  unsigned m_items = 0;
+};
+
+int lookAtWatch(pcre2_callout_block*, void* watch) {
+  return static_cast<Watch*>(watch)->isOver() ? PCRE2_ERROR_CALLOUT : 0;
+}
+
+}  // namespace
+
+CompiledPattern::CompiledPattern(const PatternCompiler& compiler, std::string_view text,
+                                 std::uint32_t bits, Pcre2Code code)
+    : m_compiler(compiler),
+      m_text(text),
+      m_bits(bits),
+      m_code(std::move(code)),
+      m_data(pcre2_match_data_create_from_pattern(m_code.get(), nullptr)) {
+  if (!m_data) throw std::bad_alloc();
+}
+
+PatternEnd CompiledPattern::match(std::string_view text, std::size_t from,
+                                  PatternMatch& match) const {
+  match.captures.clear();
+  match.end = PatternEnd::NoMatch;
+  if (from > text.size()) return match.end;
+  if (text.data() == nullptr) text = "";
+  const int result = search(text, from);
+  if (result >= 0) {
+    takeCaptures(text, match);
+    match.end = PatternEnd::Matched;
+  } else if (result != PCRE2_ERROR_NOMATCH) {
+    match.end = PatternEnd::GivenUp;
+  }
+  return match.end;
+}
+
+int CompiledPattern::search(std::string_view text, std::size_t from) const {
+  const std::size_t length = text.size() - from + 1;
+  const std::size_t steps = std::min(QuickBytes / length / length, MostQuickSteps);
+  if (steps < FewestQuickSteps) return searchTimed(text, from);
+  const int result = run(m_code.get(), static_cast<std::uint32_t>(steps), text, from);
+  return result == PCRE2_ERROR_MATCHLIMIT ? searchTimed(text, from) : result;
+}
+
+int CompiledPattern::searchTimed(std::string_view text, std::size_t from) const {
+  if (!m_timedCode) {
+    std::string error;
+    m_timedCode = m_compiler.compile(m_text, m_bits | PCRE2_AUTO_CALLOUT, error);
+    if (!m_timedCode) return PCRE2_ERROR_NOMEMORY;
+  }
+  Watch watch(text.size() - from);
+  pcre2_set_callout(m_compiler.matchContext(), lookAtWatch, &watch);
+  const auto noLimit = std::numeric_limits<std::uint32_t>::max();
+  const int result = run(m_timedCode.get(), noLimit, text, from);
+  pcre2_set_callout(m_compiler.matchContext(), nullptr, nullptr);
+  return result;
+}
+
+int CompiledPattern::run(const pcre2_code* code, std::uint32_t stepLimit, std::string_view text,
+                         std::size_t from) const {
+  pcre2_set_match_limit(m_compiler.matchContext(), stepLimit);
+  return pcre2_match(code, reinterpret_cast<PCRE2_SPTR>(text.data()), text.size(), from, 0,
+                     m_data.get(), m_compiler.matchContext());
+}
+
+void CompiledPattern::takeCaptures(std::string_view text, PatternMatch& match) const {
+  const std::size_t count = pcre2_get_ovector_count(m_data.get());
+  const PCRE2_SIZE* const offsets = pcre2_get_ovector_pointer(m_data.get());
+  match.captures.reserve(count);
+  for (std::size_t i = 0; i < count; ++i) {
+    const PCRE2_SIZE start = offsets[2 * i];
+    const PCRE2_SIZE end = offsets[2 * i + 1];
+    const bool tookPart = start != PCRE2_UNSET && start <= end;
+    match.captures.push_back(tookPart ? text.substr(start, end - start) : std::string_view());
+  }
+}
+
+}  // namespace veldra::host

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <functional>
+
+#include "cm/host/CSignal2Exception.h"
+
+namespace veldra::host {
+
+/// Turns bad memory accesses, misaligned ones, divisions by zero, illegal instructions and the
+/// exhaustion of the stack into `ProcessorFault`.
+///
+/// Guards nest, and each thread has its own. A fault in a thread without a guard, and such a signal
+/// that somebody sent on purpose, goes to whoever handled it before: by default the process dies.
+/// While no guard is active anywhere, this class leaves no trace in the process's signal handling;
+/// while one is, the guarded body must not change the handlers of these signals.
+class FaultGuard : public CSignal2Exception {
+ public:
+  /// May also throw whatever the body throws.
+  void guard(const std::function<void()>& body) override;
+};
+
+}  // namespace veldra::host

@@ -1,0 +1,168 @@
+#include "host/platform/AtomicFile.h"
+
+#include <errno.h>
+#include <fcntl.h>
+#include <signal.h>
+#include <stdio.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <charconv>
+#include <filesystem>
+
+#include "host/platform/SystemError.h"
+#include "host/platform/posix/FileDescriptor.h"
+#include "host/platform/posix/WriteFully.h"
+
+namespace veldra::host {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view TemporaryPrefix = ".veldra-cm-";
+constexpr std::string_view TemporarySuffix = ".tmp";
+constexpr int MostLinks = 40;
+constexpr mode_t PermissionBits = 07777;
+constexpr mode_t NewFileMode = 0666;
+
+std::string unwritten(const std::string& path, const std::string& reason) {
+  return "'" + path + "' could not be written: " + reason + ".";
+}
+
+/// The file behind a chain of links; it need not exist. Empty when the chain has no end.
+fs::path targetOf(fs::path path) {
+  std::error_code error;
+  for (int i = 0; i < MostLinks; ++i) {
+    const fs::path next = fs::read_symlink(path, error);
+    if (error) return path;
+    path = path.parent_path() / next;
+  }
+  return {};
+}
+
+/// Why the present file, if there is one, must not be replaced.
+std::optional<std::string> objection(const std::string& path, const struct stat& old,
+                                     ReadOnlyFile readOnly) {
+  if (S_ISDIR(old.st_mode)) return "'" + path + "' is a directory, not a file.";
+  if (!S_ISREG(old.st_mode)) return "'" + path + "' is not a regular file and is left as it is.";
+  if ((old.st_mode & S_IWUSR) == 0 && readOnly == ReadOnlyFile::Refuse) {
+    return "'" + path +
+           "' is read-only. Check it out, or give its owner the permission to write it.";
+  }
+  return std::nullopt;
+}
+
+/// A new file beside its target. It is removed again unless it has taken the target's name.
+class TemporaryFile {
+ public:
+  TemporaryFile(const fs::path& directory, mode_t mode) {
+    static std::atomic<unsigned> counter{0};
+    const std::string start = std::string(TemporaryPrefix) + std::to_string(getpid()) + '-';
+    do {
+      m_path = (directory / (start + std::to_string(counter++) + std::string(TemporarySuffix)));
+      m_file.reset(::open(m_path.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, mode));
+    } while (!m_file && errno == EEXIST);
+    m_error = m_file ? 0 : errno;
+  }
+  ~TemporaryFile() {
+    if (m_file) ::unlink(m_path.c_str());
+  }
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+  /// The error number of the first step that failed, or 0.
+  int error() const { return m_error; }
+
+  void takeOver(const struct stat& old) {
+    // Only root may give a file away; another user's file then becomes the writer's.
+    if (old.st_uid != geteuid() || old.st_gid != getegid()) {
+      [[maybe_unused]] const int kept = ::fchown(m_file.get(), old.st_uid, old.st_gid);
+    }
+    note(::fchmod(m_file.get(), old.st_mode & PermissionBits));
+  }
+
+  void fill(std::string_view bytes) {
+    if (m_error == 0) m_error = writeFully(m_file.get(), bytes);
+    if (m_error == 0) note(::fsync(m_file.get()));
+  }
+
+  void rename(const fs::path& target) {
+    if (m_error == 0) note(::rename(m_path.c_str(), target.c_str()));
+    if (m_error == 0) m_file.reset();
+  }
+
+ private:
+  void note(int result) {
+    if (result != 0 && m_error == 0) m_error = errno;
+  }
+
+  fs::path m_path;
+  FileDescriptor m_file;
+  int m_error = 0;
+};
+
+/// Makes the new name itself survive a crash. Not every file system can, and nothing is lost then.
+void syncDirectory(const fs::path& directory) {
+  const FileDescriptor opened(::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (opened) ::fsync(opened.get());
+}
+
+std::optional<std::string> replaceFile(const std::string& path, std::string_view bytes,
+                                       ReadOnlyFile readOnly) {
+  if (path.find('\0') != std::string::npos) return unwritten(path, "its name has a NUL byte");
+  const fs::path target = targetOf(path);
+  if (target.empty())
+    return unwritten(path, path.empty() ? "it has no name" : "its links go round");
+  struct stat old {};
+  const bool exists = ::lstat(target.c_str(), &old) == 0;
+  if (exists) {
+    if (auto reason = objection(path, old, readOnly)) return reason;
+  }
+  const fs::path directory = target.has_parent_path() ? target.parent_path() : fs::path(".");
+  TemporaryFile file(directory, exists ? old.st_mode & 0777 : NewFileMode);
+  if (exists && file.error() == 0) file.takeOver(old);
+  file.fill(bytes);
+  file.rename(target);
+  if (file.error() != 0) return unwritten(path, systemErrorText(file.error()));
+  syncDirectory(directory);
+  return std::nullopt;
+}
+
+/// The process whose number the name of a temporary carries; 0 when it is another file's name.
+pid_t processOf(std::string_view name) {
+  if (!name.starts_with(TemporaryPrefix) || !name.ends_with(TemporarySuffix)) return 0;
+  name.remove_prefix(TemporaryPrefix.size());
+  pid_t process = 0;
+  const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), process);
+  return error == std::errc() && *end == '-' && process > 0 ? process : 0;
+}
+
+bool isDead(pid_t process) {
+  return ::kill(process, 0) != 0 && errno == ESRCH;
+}
+
+}  // namespace
+
+std::optional<std::string> writeFileAtomically(const std::string& path, std::string_view bytes,
+                                               ReadOnlyFile readOnly) {
+  try {
+    return replaceFile(path, bytes, readOnly);
+  } catch (const std::exception& problem) {
+    return unwritten(path, problem.what());
+  }
+}
+
+std::size_t removeStaleTemporaries(const std::string& directory) {
+  std::size_t removed = 0;
+  std::error_code error;
+  for (fs::directory_iterator entry(directory, error), end; !error && entry != end;
+       entry.increment(error)) {
+    const pid_t process = processOf(entry->path().filename().native());
+    if (process != 0 && isDead(process) && ::unlink(entry->path().c_str()) == 0) ++removed;
+  }
+  return removed;
+}
+
+}  // namespace veldra::host

@@ -1,0 +1,190 @@
+#include "host/platform/Environment.h"
+
+#include <errno.h>
+#include <fcntl.h>
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <cctype>
+#include <cstdlib>
+#include <filesystem>
+
+#include "host/platform/Clock.h"
+#include "host/platform/SystemError.h"
+#include "host/platform/posix/FileDescriptor.h"
+#include "host/platform/posix/WriteFully.h"
+
+namespace veldra::host {
+
+namespace {
+
+/// The system would cut such a name at the NUL byte and answer for another file.
+bool cannotBeNamed(const std::string& path) {
+  return path.find('\0') != std::string::npos;
+}
+
+/// What the path names, links followed. False with `errno` set when it names nothing.
+bool statusOf(const std::string& path, struct stat& status) {
+  if (cannotBeNamed(path)) {
+    errno = EINVAL;
+    return false;
+  }
+  return ::stat(path.c_str(), &status) == 0;
+}
+
+std::string variableName(const std::string& setting) {
+  std::string name = "VELDRA_";
+  for (const char c : setting) {
+    const auto byte = static_cast<unsigned char>(c);
+    name += std::isalnum(byte) != 0 ? static_cast<char>(std::toupper(byte)) : '_';
+  }
+  return name;
+}
+
+/// The absolute name as the user wrote it. Links are kept, except where ".." steps back over one.
+std::filesystem::path absoluteName(const std::filesystem::path& path, std::error_code& error) {
+  for (const auto& part : path) {
+    if (part == "..") return std::filesystem::canonical(path, error);
+  }
+  return std::filesystem::absolute(path, error).lexically_normal();
+}
+
+std::string withoutLastSeparator(std::string path) {
+  while (path.size() > 1 && path.back() == '/') path.pop_back();
+  return path;
+}
+
+}  // namespace
+
+Environment::Environment(std::string installationRoot, Settings settings)
+    : m_root(std::move(installationRoot)), m_settings(std::move(settings)) {}
+
+int Environment::omGetRoot(std::string& root) {
+  if (m_root.empty()) return 0;
+  root = m_root;
+  return 1;
+}
+
+int Environment::omGetEnvVar(const std::string& section, const std::string& name,
+                             std::string& value, const std::string& defaultValue) {
+  value = defaultValue;
+  if (section == "General") {
+    if (const char* variable = std::getenv(variableName(name).c_str())) {
+      value = variable;
+      return 1;
+    }
+  }
+  try {
+    auto setting = m_settings ? m_settings(section, name) : std::nullopt;
+    if (!setting) return 0;
+    value = std::move(*setting);
+    return 1;
+  } catch (...) {
+    // A host's look-up that fails leaves the setting unset.
+    return 0;
+  }
+}
+
+std::string Environment::omGetTempDir() {
+  const char* const wanted = std::getenv("TMPDIR");
+  bool exists = false;
+  if (wanted != nullptr && omIsAbsolutePath(wanted) && isDirectory(wanted, exists)) {
+    return withoutLastSeparator(wanted);
+  }
+  return "/tmp";
+}
+
+char Environment::omPathSeparator() const {
+  return '/';
+}
+
+bool Environment::omIsAbsolutePath(const std::string& path) {
+  return path.starts_with('/');
+}
+
+std::string Environment::omGetCurrentTime() {
+  return timeText(localTimeNow());
+}
+
+std::string Environment::omGetCurrentDate() {
+  return dateText(localTimeNow());
+}
+
+std::string Environment::omGetCurrentUser() {
+  std::array<char, 4096> memory{};
+  passwd entry{};
+  passwd* found = nullptr;
+  getpwuid_r(geteuid(), &entry, memory.data(), memory.size(), &found);
+  if (found != nullptr) return found->pw_name;
+  // Containers often run under a number that has no name.
+  const char* const user = std::getenv("USER");
+  return user != nullptr && *user != '\0' ? user : std::to_string(geteuid());
+}
+
+bool Environment::omFileExist(const std::string& path) {
+  struct stat status {};
+  return statusOf(path, status);
+}
+
+bool Environment::omFileHasWritePermission(const std::string& path) {
+  struct stat status {};
+  return statusOf(path, status) && (status.st_mode & S_IWUSR) != 0;
+}
+
+bool Environment::isDirectory(const std::string& path, bool& exists) {
+  struct stat status {};
+  exists = statusOf(path, status);
+  return exists && S_ISDIR(status.st_mode);
+}
+
+std::string Environment::omGetFullPathOfDirectory(const std::string& path, std::string& errorText) {
+  std::error_code error;
+  std::filesystem::path directory;
+  struct stat status {};
+  if (path.empty()) {
+    directory = std::filesystem::current_path(error);
+  } else if (!statusOf(path, status)) {
+    error.assign(errno, std::system_category());
+  } else if (!S_ISDIR(status.st_mode)) {
+    error.assign(ENOTDIR, std::system_category());
+  } else {
+    directory = absoluteName(path, error);
+  }
+  if (!error) return withoutLastSeparator(directory.string());
+  m_lastError = error.value();
+  const std::string name = path.empty() ? "The current directory" : "The directory '" + path + "'";
+  errorText = name + " cannot be used: " + systemErrorText(m_lastError) + ".";
+  return {};
+}
+
+bool Environment::setCurrentDirectory(const std::string& path) {
+  if (!cannotBeNamed(path) && ::chdir(path.c_str()) == 0) return true;
+  m_lastError = cannotBeNamed(path) ? EINVAL : errno;
+  return false;
+}
+
+std::string Environment::omGetErrorCodeString() {
+  return m_lastError == 0 ? std::string() : systemErrorText(m_lastError);
+}
+
+std::string Environment::createTempFile(const std::string& content) {
+  std::string name = omGetTempDir() + "/veldra-cm-" + std::to_string(getpid()) + "-XXXXXX";
+  FileDescriptor file(::mkostemp(name.data(), O_CLOEXEC));
+  if (!file) {
+    m_lastError = errno;
+    return {};
+  }
+  const int error = writeFully(file.get(), content);
+  if (error == 0) return name;
+  m_lastError = error;
+  removeFile(name);
+  return {};
+}
+
+void Environment::removeFile(const std::string& path) {
+  if (!cannotBeNamed(path)) ::unlink(path.c_str());
+}
+
+}  // namespace veldra::host

@@ -1,0 +1,147 @@
+#include "host/platform/FaultGuard.h"
+
+#include <setjmp.h>
+#include <signal.h>
+
+#include <array>
+#include <cstdio>
+#include <memory>
+#include <mutex>
+#include <string>
+
+namespace veldra::host {
+
+namespace {
+
+struct Fault {
+  int signal;
+  const char* text;
+};
+
+constexpr std::array<Fault, 4> Faults = {{
+    {SIGSEGV, "Invalid memory access, or no stack left"},
+    {SIGBUS, "Memory access beyond a mapped file, or misaligned"},
+    {SIGFPE, "Arithmetic fault, such as a division by zero"},
+    {SIGILL, "Illegal instruction"},
+}};
+
+/// One active guard of a thread. Written by the handler, read after the jump.
+struct Frame {
+  sigjmp_buf jump;
+  Frame* outer;
+  volatile sig_atomic_t signal = 0;
+  void* volatile address = nullptr;
+};
+
+thread_local Frame* t_innermost = nullptr;
+
+std::mutex s_mutex;
+int s_activeGuards = 0;
+std::array<struct sigaction, Faults.size()> s_former;
+
+void handToFormer(int signal, const siginfo_t& info) {
+  for (std::size_t i = 0; i < Faults.size(); ++i) {
+    if (Faults[i].signal == signal) sigaction(signal, &s_former[i], nullptr);
+  }
+  // A fault happens again as soon as this returns; a signal that somebody sent has to be repeated.
+  if (info.si_code <= 0) raise(signal);
+}
+
+void onFault(int signal, siginfo_t* info, void*) {
+  Frame* const frame = t_innermost;
+  if (frame == nullptr || info->si_code <= 0) {
+    handToFormer(signal, *info);
+    return;
+  }
+  frame->signal = signal;
+  frame->address = info->si_addr;
+  siglongjmp(frame->jump, 1);
+}
+
+/// Our handlers are in force while at least one of these lives.
+class HandlersInForce {
+ public:
+  HandlersInForce() {
+    const std::lock_guard lock(s_mutex);
+    if (s_activeGuards++ > 0) return;
+    struct sigaction action {};
+    action.sa_sigaction = onFault;
+    action.sa_flags = SA_SIGINFO | SA_ONSTACK;
+    sigemptyset(&action.sa_mask);
+    for (std::size_t i = 0; i < Faults.size(); ++i) {
+      sigaction(Faults[i].signal, &action, &s_former[i]);
+    }
+  }
+  ~HandlersInForce() {
+    const std::lock_guard lock(s_mutex);
+    if (--s_activeGuards > 0) return;
+    for (std::size_t i = 0; i < Faults.size(); ++i) {
+      sigaction(Faults[i].signal, &s_former[i], nullptr);
+    }
+  }
+  HandlersInForce(const HandlersInForce&) = delete;
+  HandlersInForce& operator=(const HandlersInForce&) = delete;
+};
+
+/// A stack for the handler, because the thread's own may be the very thing that is used up.
+class HandlerStack {
+ public:
+  HandlerStack() {
+    sigaltstack(nullptr, &m_former);
+    if ((m_former.ss_flags & SS_DISABLE) == 0) return;
+    m_memory = std::make_unique<char[]>(Size);
+    stack_t mine{};
+    mine.ss_sp = m_memory.get();
+    mine.ss_size = Size;
+    sigaltstack(&mine, nullptr);
+  }
+  ~HandlerStack() {
+    if (m_memory) sigaltstack(&m_former, nullptr);
+  }
+  HandlerStack(const HandlerStack&) = delete;
+  HandlerStack& operator=(const HandlerStack&) = delete;
+
+ private:
+  static constexpr std::size_t Size = std::size_t{64} * 1024;
+
+  stack_t m_former{};
+  std::unique_ptr<char[]> m_memory;
+};
+
+std::string describe(int signal, const void* address) {
+  std::array<char, 128> text{};
+  for (const Fault& fault : Faults) {
+    if (fault.signal != signal) continue;
+    std::snprintf(text.data(), text.size(), "%s (signal %d, address %p).", fault.text, signal,
+                  address);
+  }
+  return text.data();
+}
+
+/// Makes the frame the thread's innermost one, unless the body is left by a jump.
+class Entered {
+ public:
+  explicit Entered(Frame& frame) { t_innermost = &frame; }
+  ~Entered() { t_innermost = t_innermost->outer; }
+  Entered(const Entered&) = delete;
+  Entered& operator=(const Entered&) = delete;
+};
+
+}  // namespace
+
+void FaultGuard::guard(const std::function<void()>& body) {
+  const HandlerStack stack;
+  const HandlersInForce handlers;
+  Frame frame;
+  frame.outer = t_innermost;
+  if (sigsetjmp(frame.jump, 1) == 0) {
+    const Entered entered(frame);
+    body();
+    return;
+  }
+  // The jump has skipped the end of `entered`.
+  t_innermost = frame.outer;
+  throw ProcessorFault(describe(frame.signal, frame.address));
+}
+
+}  // namespace veldra::host

@@ -1,0 +1,74 @@
+#include "host/platform/posix/OutputPipe.h"
+
+#include <errno.h>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <span>
+#include <utility>
+
+namespace veldra::host {
+
+namespace {
+
+// A child that prints much waits less often for a larger pipe; for others it is not worth a call.
+constexpr std::size_t FirstPipe = std::size_t{64} * 1024;
+constexpr std::size_t LargePipe = std::size_t{1024} * 1024;
+// Room that holds a large page or two wherever it begins.
+constexpr std::size_t LargeRoom = std::size_t{4} * 1024 * 1024;
+
+}  // namespace
+
+FileDescriptor OutputPipe::open() {
+  std::array<int, 2> ends{};
+  if (::pipe2(ends.data(), O_CLOEXEC) != 0) return FileDescriptor();
+  m_reader.reset(ends[0]);
+  // Only our end: most tools cannot write to a pipe that does not block.
+  ::fcntl(m_reader.get(), F_SETFL, O_NONBLOCK);
+  return aboveStandard(FileDescriptor(ends[1]));
+}
+
+/// A flood would otherwise fault its memory in by the hundred thousand small pages.
+void OutputPipe::preferLargePages(std::span<char> room) {
+  const char* const end = room.data() + room.size();
+  if (room.size() < LargeRoom || end == m_advisedEnd) return;
+  m_advisedEnd = end;
+  const auto pageSize = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
+  const auto start = reinterpret_cast<std::uintptr_t>(room.data());
+  const std::uintptr_t offset = (pageSize - start % pageSize) % pageSize;
+  // Advice only: a system that does not take it is merely slower.
+  ::madvise(room.data() + offset, room.size() - offset, MADV_HUGEPAGE);
+}
+
+std::size_t OutputPipe::take(short events) {
+  // Nothing is left to read, and a list that stays empty needs no memory.
+  if ((events & POLLIN) == 0) m_reader.reset();
+  std::size_t taken = 0;
+  while (m_reader && taken < LargePipe) {
+    const std::span<char> room = m_lines.room();
+    preferLargePages(room);
+    const ssize_t result = ::read(m_reader.get(), room.data(), room.size());
+    if (result < 0 && errno == EINTR) continue;
+    if (result < 0 && errno == EAGAIN) break;
+    if (result <= 0) {
+      m_reader.reset();
+      break;
+    }
+    const auto count = static_cast<std::size_t>(result);
+    m_insideLine = room[count - 1] != '\n';
+    m_lines.took(count);
+    taken += count;
+    if (count >= FirstPipe && !std::exchange(m_enlarged, true)) {
+      ::fcntl(m_reader.get(), F_SETPIPE_SZ, static_cast<int>(LargePipe));
+    }
+    if (count < room.size()) break;
+  }
+  return taken;
+}
+
+}  // namespace veldra::host

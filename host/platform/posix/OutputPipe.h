@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+
+#include "cm/host/RunThread.h"
+#include "host/platform/posix/FileDescriptor.h"
+
+namespace veldra::host {
+
+/// The reading end of a pipe and the list that takes what comes out of it.
+class OutputPipe {
+ public:
+  explicit OutputPipe(LineList& lines) : m_lines(lines) {}
+
+  /// Makes the pipe and returns the child's end of it; no descriptor when the system has none left.
+  FileDescriptor open();
+  /// Takes all that was there when it was called, and closes the pipe at its end. The bytes taken.
+  /// `events` is what `poll` has said of the descriptor, and not 0.
+  std::size_t take(short events);
+
+  void close() { m_reader.reset(); }
+  /// True when the last byte taken was no line end.
+  bool endsInsideLine() const { return m_insideLine; }
+
+  bool isOpen() const { return static_cast<bool>(m_reader); }
+  int descriptor() const { return m_reader.get(); }
+
+ private:
+  void preferLargePages(std::span<char> room);
+
+  LineList& m_lines;
+  FileDescriptor m_reader;
+  bool m_enlarged = false;
+  bool m_insideLine = false;
+  const char* m_advisedEnd = nullptr;
+};
+
+}  // namespace veldra::host

@@ -1,0 +1,116 @@
+#include "host/platform/PatternEngine.h"
+
+#include <gmock/gmock.h>
+
+namespace veldra::host {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class PatternEngineTest : public testing::Test {
+ protected:
+  PatternEnd match(const std::string& pattern, std::string_view text,
+                   const std::string& options = "", std::size_t from = 0) {
+    std::string error;
+    const IPattern* const compiled = m_engine.compile(pattern, options, error);
+    if (compiled == nullptr) return PatternEnd::Invalid;
+    EXPECT_EQ(compiled->match(text, from, m_match), m_match.end);
+    return m_match.end;
+  }
+
+  std::string errorOf(const std::string& pattern, const std::string& options = "") {
+    std::string error;
+    EXPECT_EQ(m_engine.compile(pattern, options, error), nullptr);
+    return error;
+  }
+
+  PatternEngine m_engine;
+  PatternMatch m_match;
+};
+
+TEST_F(PatternEngineTest, capturesWholeMatchAndGroups) {
+  EXPECT_EQ(match(R"((\d+)\.(\d+)(x)?( locked)?)", "file 1.42 locked"), PatternEnd::Matched);
+  EXPECT_THAT(m_match.captures, ElementsAre("1.42 locked", "1", "42", "", " locked"));
+  EXPECT_EQ(match("nothing", "file"), PatternEnd::NoMatch);
+  EXPECT_TRUE(m_match.captures.empty());
+}
+
+TEST_F(PatternEngineTest, searchesFromAPositionAndSeesWhatIsBefore) {
+  const std::string_view text = "ab ab";
+  ASSERT_EQ(match(R"(\bab)", text, "", 1), PatternEnd::Matched);
+  EXPECT_EQ(m_match.captures[0].data(), text.data() + 3);
+  EXPECT_EQ(match("^ab", text, "", 1), PatternEnd::NoMatch);
+  EXPECT_EQ(match("(?<=a)b", text, "", 1), PatternEnd::Matched);
+  EXPECT_EQ(match(R"(\Gab)", text, "", 1), PatternEnd::NoMatch);
+  // The place of an empty match is that of its view.
+  ASSERT_EQ(match("$", text, "", 2), PatternEnd::Matched);
+  EXPECT_EQ(m_match.captures[0].data(), text.data() + text.size());
+  EXPECT_EQ(match("a", text, "", 6), PatternEnd::NoMatch);
+  EXPECT_EQ(match("^$", std::string_view()), PatternEnd::Matched);
+}
+
+TEST_F(PatternEngineTest, optionsChangeTheMeaning) {
+  struct Case {
+    const char* pattern;
+    const char* text;
+    const char* options;
+    PatternEnd end;
+  };
+  for (const Case& row :
+       {Case{"abc", "xABCx", "", PatternEnd::NoMatch},
+        Case{"abc", "xABCx", "i", PatternEnd::Matched},
+        Case{"^b$", "a\r\nb\r\nc", "", PatternEnd::NoMatch},
+        Case{"^b$", "a\r\nb\r\nc", "m", PatternEnd::Matched},
+        Case{"^b$", "a\nb\rc", "m", PatternEnd::Matched},
+        Case{"a.b", "a\nb", "", PatternEnd::NoMatch}, Case{"a.b", "a\nb", "s", PatternEnd::Matched},
+        Case{"a b # c", "ab", "", PatternEnd::NoMatch},
+        Case{"a b # c", "AB", "xi", PatternEnd::Matched},
+        Case{"^.$", "\xff", "", PatternEnd::Matched},
+        Case{"^.$", "\xc3\xa4", "", PatternEnd::NoMatch}}) {
+    EXPECT_EQ(match(row.pattern, row.text, row.options), row.end) << row.pattern << row.options;
+  }
+}
+
+TEST_F(PatternEngineTest, reportsAnInvalidPatternWithItsPlace) {
+  EXPECT_THAT(errorOf("ab(c"), HasSubstr("position 5"));
+  EXPECT_THAT(errorOf("[z-a]"), HasSubstr("position"));
+  EXPECT_THAT(errorOf("a", "iq"), HasSubstr("\"q\""));
+  EXPECT_FALSE(errorOf(std::string("(?:") + std::string(100000, '(')).empty());
+}
+
+TEST_F(PatternEngineTest, givesUpOnEndlessBacktracking) {
+  const std::string many(20000, 'a');
+  EXPECT_EQ(match("(a+)+$", many + "b"), PatternEnd::GivenUp);
+  EXPECT_EQ(match("(a|a)*$", many + "b"), PatternEnd::GivenUp);
+  EXPECT_EQ(match("a*a*a*a*[bc]d", many + "cbd" + many), PatternEnd::GivenUp);
+  EXPECT_EQ(match(R"(\G(a+)+$)", many + "b"), PatternEnd::GivenUp);
+  // No single start position takes many steps here, but there are a million of them.
+  EXPECT_EQ(match("(?:.|\\n)*?zz", std::string(1 << 20, 'q')), PatternEnd::GivenUp);
+  // The engine is as good as new afterwards.
+  EXPECT_EQ(match("(a+)+$", many), PatternEnd::Matched);
+}
+
+TEST_F(PatternEngineTest, longTextsAreSearchedToTheirEnd) {
+  const std::string text = std::string(1 << 24, 'x') + "error: 42";
+  ASSERT_EQ(match("ERROR: ([0-9]+)$", text, "i"), PatternEnd::Matched);
+  EXPECT_EQ(m_match.captures[1], "42");
+  EXPECT_EQ(match("(?:x|y)*error", text), PatternEnd::GivenUp);
+  EXPECT_EQ(match("[0-9][a-z]", text), PatternEnd::NoMatch);
+  EXPECT_EQ(match(R"(\z)", text), PatternEnd::Matched);
+}
+
+TEST_F(PatternEngineTest, keepsThePatternsThatWereAskedForLast) {
+  std::string error;
+  const IPattern* const kept = m_engine.compile("kept", "i", error);
+  for (int i = 0; i < 5000; ++i) {
+    ASSERT_NE(m_engine.compile(std::to_string(i) + "p", "", error), nullptr);
+    ASSERT_EQ(m_engine.compile("kept", "i", error), kept);
+  }
+  EXPECT_NE(m_engine.compile("kept", "", error), kept);
+  EXPECT_EQ(match("kept", "KEPT", "i"), PatternEnd::Matched);
+  EXPECT_EQ(match("1p", "x1p", ""), PatternEnd::Matched);
+}
+
+}  // namespace
+}  // namespace veldra::host
