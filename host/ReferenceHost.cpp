@@ -1,0 +1,193 @@
+#include "host/ReferenceHost.h"
+
+#include <utility>
+
+#include "host/UserMessages.h"
+#include "host/model/Model.h"
+#include "host/model/ModelFileHandler.h"
+#include "host/model/Reloading.h"
+#include "host/platform/Environment.h"
+#include "host/platform/FaultGuard.h"
+#include "host/platform/PatternEngine.h"
+#include "host/platform/Processes.h"
+#include "host/platform/TraceLog.h"
+
+namespace veldra::host {
+namespace {
+
+/// The CM output window: a stream of the program's.
+class OutputWindow : public IAbstractCMManager {
+ public:
+  explicit OutputWindow(std::ostream* stream) : m_stream(stream) {}
+  std::ostream* getOutputStream() override { return m_stream; }
+  // A stream keeps what was written to it.
+  void clearOutputWindow() override {}
+
+ private:
+  std::ostream* m_stream;
+};
+
+/// The undo manager of whatever project is open.
+class OpenProjectUndo : public Undoer {
+ public:
+  explicit OpenProjectUndo(Model& model) : m_model(model) {}
+  void startTransaction(const IViewParameters* view, int undoFlag) override {
+    Project* project = m_model.project();
+    if (!project) return;
+    // Nobody holds on to units that were replaced in an operation that has ended.
+    if (project->undo().depth() == 0) project->releaseRetired();
+    project->undo().startTransaction(view, undoFlag);
+  }
+  void endTransaction() override {
+    if (Project* project = m_model.project()) project->undo().endTransaction();
+  }
+
+ private:
+  Model& m_model;
+};
+
+PropertyLayers loadedLayers(const HostOptions& options, const std::string& root,
+                            Problems& problems) {
+  PropertyLayers layers;
+  layers.load(options.settings.value_or(standardSettingsFiles(root)), problems);
+  return layers;
+}
+
+}  // namespace
+
+struct ReferenceHost::Parts {
+  explicit Parts(const HostOptions& options)
+      : root(options.installationRoot.empty() ? findInstallationRoot() : options.installationRoot),
+        layers(loadedLayers(options, root, problems)),
+        catalogue(root, options.language.empty() ? userLanguage() : options.language, problems),
+        model(layers),
+        environment(root,
+                    [this](const std::string& section, const std::string& name) {
+                      return layers.setting(section, name);
+                    }),
+        messages(catalogue, options.door,
+                 options.seenMessagesFile.value_or(standardSeenMessagesFile())),
+        outputWindow(options.output),
+        undo(model),
+        trace(options.traceLog),
+        progress(options.progress),
+        givenProcesses(options.processes) {
+    processes.setChildEnvironment(options.childEnvironment);
+    if (!trace.error().empty()) {
+      problems.push_back({options.traceLog, trace.error(), "No trace log is written."});
+    }
+  }
+
+  Problems problems;
+  std::string root;
+  PropertyLayers layers;
+  MessageCatalogue catalogue;
+  Model model;
+  Environment environment;
+  UserMessages messages;
+  PatternEngine patterns;
+  Processes processes;
+  OutputWindow outputWindow;
+  OpenProjectUndo undo;
+  TraceLog trace;
+  FaultGuard faultGuard;
+  QuickReload quickReload;
+  IProgress* progress;
+  IProcesses* givenProcesses;
+};
+
+ReferenceHost::ReferenceHost(const HostOptions& options)
+    : m_parts(std::make_unique<Parts>(options)) {}
+
+ReferenceHost::~ReferenceHost() = default;
+
+std::optional<std::string> ReferenceHost::open(const std::string& directoryOrFile) {
+  return m_parts->model.open(directoryOrFile);
+}
+
+void ReferenceHost::close() {
+  m_parts->model.close();
+}
+
+Project* ReferenceHost::project() {
+  return m_parts->model.project();
+}
+
+PropertyLayers& ReferenceHost::properties() {
+  return m_parts->layers;
+}
+
+Problems ReferenceHost::save() {
+  Project* open = project();
+  return open ? open->saveModified() : Problems();
+}
+
+const Problems& ReferenceHost::problems() const {
+  return m_parts->problems;
+}
+
+const std::string& ReferenceHost::installationRoot() const {
+  return m_parts->root;
+}
+
+void ReferenceHost::requestCancel() noexcept {
+  m_parts->processes.requestCancel();
+}
+
+IModel& ReferenceHost::model() {
+  return m_parts->model;
+}
+IEnvironment& ReferenceHost::environment() {
+  return m_parts->environment;
+}
+IUserMessages& ReferenceHost::messages() {
+  return m_parts->messages;
+}
+IPatternEngine& ReferenceHost::patterns() {
+  return m_parts->patterns;
+}
+
+IProcesses* ReferenceHost::processes() {
+  return m_parts->givenProcesses ? m_parts->givenProcesses : &m_parts->processes;
+}
+
+IAbstractCMManager* ReferenceHost::cmManager() {
+  return &m_parts->outputWindow;
+}
+Undoer* ReferenceHost::undoer() {
+  return &m_parts->undo;
+}
+LogTrace* ReferenceHost::trace() {
+  return &m_parts->trace;
+}
+CSignal2Exception* ReferenceHost::faultGuard() {
+  return &m_parts->faultGuard;
+}
+IProgress* ReferenceHost::progress() {
+  return m_parts->progress;
+}
+QuickATMFacade* ReferenceHost::quickReload() {
+  return &m_parts->quickReload;
+}
+
+std::unique_ptr<ATMFacade> ReferenceHost::createATMFacade(IUnit* owner) {
+  UnitCore* unit = UnitCore::of(owner);
+  if (!unit) return nullptr;
+  return std::make_unique<FileAdder>(unit->project(), unit->record().folder->path);
+}
+
+std::unique_ptr<ATMFacade> ReferenceHost::createATMFacade(const std::string& directory) {
+  Project* open = project();
+  return open ? std::make_unique<FileAdder>(*open, directory) : nullptr;
+}
+
+std::unique_ptr<CCMFileCompare> ReferenceHost::createFileCompare(const std::string& fullFileName) {
+  return std::make_unique<FileCompare>(fullFileName);
+}
+
+std::unique_ptr<CMVDYHandler> ReferenceHost::createModelFileHandler(
+    const std::string& fullFileName) {
+  return std::make_unique<ModelFileHandler>(fullFileName);
+}
+
+}  // namespace veldra::host

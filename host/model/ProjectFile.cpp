@@ -1,0 +1,165 @@
+#include "host/model/ProjectFile.h"
+
+#include <utility>
+
+namespace veldra::host {
+namespace {
+
+void reportKind(const std::string& key, const char* expected, Problems& problems) {
+  problems.push_back({{},
+                      "Under \"" + key + "\" stands a value that is no " + expected + ".",
+                      "Correct it in a text editor; it is left out until then."});
+}
+
+std::string textMember(const Json& object, const char* key) {
+  const Json* value = member(object, key);
+  return value ? scalarText(*value).value_or(std::string()) : std::string();
+}
+
+/// Calls `take` with each object of the list under `key`; it answers false for one it cannot use.
+template <class Take>
+void eachObject(const Json& body, const char* key, Problems& problems, Take take) {
+  const Json* list = member(body, key);
+  if (!list) return;
+  if (!list->is_array()) return reportKind(key, "list", problems);
+  for (const Json& object : *list) {
+    if (!object.is_object() || !take(object)) reportKind(key, "entry with its keys", problems);
+  }
+}
+
+void readStubs(ProjectFile& file, Problems& problems) {
+  eachObject(file.text.body, "stubs", problems, [&file](const Json& object) {
+    const std::string name = textMember(object, "file");
+    const Json* load = member(object, "load");
+    if (name.empty() || (load && !load->is_boolean())) return false;
+    if (!load || !load->get<bool>()) file.stubs.push_back(name);
+    return true;
+  });
+}
+
+void readFileTypes(ProjectFile& file, Problems& problems) {
+  eachObject(file.text.body, "fileTypes", problems, [&file](const Json& object) {
+    FileType type;
+    type.extension = textMember(object, "extension");
+    type.unitType = textMember(object, "type");
+    type.directoryUnit = textMember(object, "directoryUnit");
+    if (type.extension.empty() || type.unitType.empty()) return false;
+    file.fileTypes.push_back(std::move(type));
+    return true;
+  });
+}
+
+UnitArchives archivesOf(const Json& body, Problems& problems) {
+  UnitArchives archives;
+  eachObject(body, "archives", problems, [&archives](const Json& object) {
+    const std::string name = textMember(object, "file");
+    if (name.empty()) return false;
+    archives[name] = {textMember(object, "archive"), textMember(object, "projName"),
+                      textMember(object, "auxProjPath")};
+    return true;
+  });
+  return archives;
+}
+
+Json archivesJson(const UnitArchives& archives) {
+  Json list = Json::array();
+  for (const auto& [name, archive] : archives) {
+    Json entry = {{"file", jsonOfBytes(name)}};
+    if (!archive.archive.empty()) entry["archive"] = jsonOfBytes(archive.archive);
+    if (!archive.projName.empty()) entry["projName"] = jsonOfBytes(archive.projName);
+    if (!archive.auxProjPath.empty()) entry["auxProjPath"] = jsonOfBytes(archive.auxProjPath);
+    list.push_back(std::move(entry));
+  }
+  return list;
+}
+
+Json listJson(const std::vector<std::string>& texts) {
+  Json list = Json::array();
+  for (const std::string& text : texts) list.push_back(jsonOfBytes(text));
+  return list;
+}
+
+void putUnlessEmpty(Json& body, const char* key, Json value) {
+  if (value.empty()) {
+    body.erase(key);
+  } else {
+    body[key] = std::move(value);
+  }
+}
+
+}  // namespace
+
+std::vector<std::string> textList(const Json& body, const char* key, Problems& problems) {
+  std::vector<std::string> texts;
+  const Json* list = member(body, key);
+  if (!list) return texts;
+  if (!list->is_array()) {
+    reportKind(key, "list", problems);
+    return texts;
+  }
+  for (const Json& value : *list) {
+    std::optional<std::string> text = bytesOfJson(value);
+    if (text && !text->empty()) {
+      texts.push_back(std::move(*text));
+    } else {
+      reportKind(key, "text", problems);
+    }
+  }
+  return texts;
+}
+
+std::vector<TomlSettings::Entry> propertiesOf(const Json& body, Problems& problems) {
+  std::vector<TomlSettings::Entry> entries;
+  const Json* subjects = member(body, "properties");
+  if (!subjects) return entries;
+  for (const auto& [subject, metaclasses] : subjects->items()) {
+    for (const auto& [metaclass, values] : metaclasses.items()) {
+      for (const auto& [name, value] : values.items()) {
+        if (std::optional<std::string> text = scalarText(value); text && values.is_object()) {
+          entries.push_back({{subject, metaclass, name}, std::move(*text)});
+        } else {
+          reportKind("properties", "text, boolean or number", problems);
+        }
+      }
+    }
+  }
+  return entries;
+}
+
+std::optional<ProjectFile> parseProjectFile(std::string_view bytes, Problem& fatal,
+                                            Problems& problems) {
+  std::optional<ModelText> text = parseModelText(bytes, fatal);
+  if (!text) return std::nullopt;
+  ProjectFile file;
+  file.text = std::move(*text);
+  const Json& body = file.text.body;
+  file.name = textMember(body, "name");
+  file.controlled = textList(body, "controlled", problems);
+  file.references = textList(body, "references", problems);
+  readStubs(file, problems);
+  readFileTypes(file, problems);
+  file.archives = archivesOf(body, problems);
+  file.properties = propertiesOf(body, problems);
+  const Json* show = member(body, "showCMStatus");
+  file.showCMStatus = show && show->is_boolean() && show->get<bool>();
+  return file;
+}
+
+void updateProjectText(ProjectFile& file, const std::vector<PropertyEntry>& properties) {
+  Json& body = file.text.body;
+  Problems known;
+  if (textList(body, "controlled", known) != file.controlled) {
+    putUnlessEmpty(body, "controlled", listJson(file.controlled));
+  }
+  if (archivesOf(body, known) != file.archives) {
+    putUnlessEmpty(body, "archives", archivesJson(file.archives));
+  }
+  for (const PropertyEntry& entry : properties) {
+    Json& metaclass =
+        objectAt(objectAt(objectAt(body, "properties"), entry.key.subject), entry.key.metaclass);
+    Json& value = metaclass[entry.key.name];
+    if (scalarText(value) != entry.value) value = jsonOfBytes(entry.value);
+  }
+}
+
+}  // namespace veldra::host

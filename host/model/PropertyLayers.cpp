@@ -1,0 +1,207 @@
+#include "host/model/PropertyLayers.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+#include <tuple>
+
+#include "host/model/PathNames.h"
+#include "host/model/TomlEdit.h"
+
+namespace veldra::host {
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::array LayersBelowProject = {Origin::User, Origin::Site, Origin::Pack};
+
+std::string variable(const char* name) {
+  const char* value = std::getenv(name);
+  return value ? value : "";
+}
+
+std::string userFile() {
+  if (std::string file = variable("VELDRA_USER"); !file.empty()) return file;
+  std::string configuration = variable("XDG_CONFIG_HOME");
+  if (configuration.empty()) {
+    const std::string home = variable("HOME");
+    if (home.empty()) return {};
+    configuration = joinPath(home, ".config");
+  }
+  return joinPath(joinPath(configuration, "veldra-cm"), "user.toml");
+}
+
+std::vector<std::string> packFiles(const std::string& directory) {
+  std::vector<std::string> files;
+  std::error_code failed;
+  for (fs::directory_iterator at(directory, failed), end; !failed && at != end;
+       at.increment(failed)) {
+    if (at->path().extension() == ".toml") files.push_back(at->path().string());
+  }
+  std::sort(files.begin(), files.end());
+  return files;
+}
+
+PropertyEntry entryOf(const PropertyKey& key, const Property& property) {
+  return {key, property.value(), property.origin(), property.source()};
+}
+
+void sortEntries(std::vector<PropertyEntry>& entries) {
+  const auto order = [](const PropertyEntry& entry) {
+    return std::tie(entry.key.subject, entry.key.metaclass, entry.key.name);
+  };
+  std::sort(
+      entries.begin(), entries.end(),
+      [&order](const PropertyEntry& a, const PropertyEntry& b) { return order(a) < order(b); });
+}
+
+}  // namespace
+
+SettingsFiles standardSettingsFiles(const std::string& installationRoot) {
+  SettingsFiles files;
+  if (!installationRoot.empty()) files.packDirectory = joinPath(installationRoot, "packs");
+  files.siteFile = variable("VELDRA_SITE");
+  if (files.siteFile.empty()) files.siteFile = "/etc/veldra-cm/site.toml";
+  files.userFile = userFile();
+  return files;
+}
+
+void PropertyLayers::load(const SettingsFiles& files, Problems& problems) {
+  m_files = files;
+  for (const Origin origin : LayersBelowProject) layer(origin).clear();
+  m_settings.clear();
+  m_packs.clear();
+  for (const std::string& file : packFiles(files.packDirectory)) {
+    addFile(file, Origin::Pack, problems);
+  }
+  addFile(files.siteFile, Origin::Site, problems);
+  addFile(files.userFile, Origin::User, problems);
+  rebuildEffective();
+}
+
+void PropertyLayers::addFile(const std::string& file, Origin origin, Problems& problems) {
+  TomlSettings settings = readTomlSettings(file, problems);
+  for (TomlSettings::Entry& entry : settings.properties) {
+    auto property =
+        std::make_unique<Property>(entry.key.name, std::move(entry.value), origin, file);
+    layer(origin).put(entry.key.subject, entry.key.metaclass, std::move(property));
+  }
+  for (auto& [place, value] : settings.settings) m_settings[place] = std::move(value);
+  if (settings.pack) m_packs.push_back(std::move(*settings.pack));
+}
+
+void PropertyLayers::rebuildEffective() {
+  m_effective.clear();
+  for (const PropertyTable& table : m_layers) {
+    for (const auto& [key, property] : table) m_effective[key] = property.get();
+  }
+}
+
+void PropertyLayers::putEffective(const PropertyKey& key, Property* property) {
+  if (property) {
+    m_effective[key] = property;
+  } else {
+    m_effective.erase(key);
+  }
+}
+
+Property* PropertyLayers::find(const PropertyKeyView& key) const {
+  const auto found = m_effective.find(key);
+  return found == m_effective.end() ? nullptr : found->second;
+}
+
+Property* PropertyLayers::findIn(Origin origin, const PropertyKeyView& key) const {
+  return layer(origin).find(key);
+}
+
+Property* PropertyLayers::inherited(const PropertyKeyView& key) const {
+  for (const Origin origin : LayersBelowProject) {
+    if (Property* property = layer(origin).find(key)) return property;
+  }
+  return nullptr;
+}
+
+Property& PropertyLayers::putInProject(const PropertyKey& key, std::unique_ptr<Property> property) {
+  property->setListener([this](Property&) { tellProjectChanged(); });
+  Property& put = layer(Origin::Project).put(key.subject, key.metaclass, std::move(property));
+  putEffective(key, &put);
+  return put;
+}
+
+void PropertyLayers::tellProjectChanged() const {
+  if (m_projectChanged) m_projectChanged();
+}
+
+void PropertyLayers::addLoaded(const PropertyKey& key, std::string value,
+                               const std::string& source) {
+  m_pinned[key] = true;
+  putInProject(key,
+               std::make_unique<Property>(key.name, std::move(value), Origin::Project, source));
+}
+
+void PropertyLayers::attachToProject(const std::string& subject, const std::string& metaclass,
+                                     const IProperty& property) {
+  const PropertyKey key{subject, metaclass, property.getName()};
+  const std::string value = property.getValue();
+  const Property* former = find(key);
+  const bool changes = !former || former->value() != value;
+  putInProject(key, std::make_unique<Property>(key.name, value, Origin::Project));
+  if (changes) tellProjectChanged();
+}
+
+void PropertyLayers::setInProject(const PropertyKey& key, const std::string& value) {
+  const Property* former = findIn(Origin::Project, key);
+  const bool changes = !former || former->value() != value || !m_pinned.contains(key);
+  m_pinned[key] = true;
+  putInProject(key, std::make_unique<Property>(key.name, value, Origin::Project));
+  if (changes) tellProjectChanged();
+}
+
+std::optional<std::string> PropertyLayers::setForUser(const PropertyKey& key,
+                                                      const std::string& value) {
+  if (m_files.userFile.empty()) {
+    return "There is no place for settings of your own: set HOME, XDG_CONFIG_HOME or VELDRA_USER.";
+  }
+  if (auto error = setTomlProperty(m_files.userFile, key, value)) return error;
+  Property& put =
+      layer(Origin::User)
+          .put(key.subject, key.metaclass,
+               std::make_unique<Property>(key.name, value, Origin::User, m_files.userFile));
+  if (!findIn(Origin::Project, key)) putEffective(key, &put);
+  return std::nullopt;
+}
+
+void PropertyLayers::clearProject() {
+  for (const auto& [key, property] : layer(Origin::Project)) putEffective(key, inherited(key));
+  layer(Origin::Project).clear();
+  m_pinned.clear();
+}
+
+std::vector<PropertyEntry> PropertyLayers::projectEntries() const {
+  std::vector<PropertyEntry> entries;
+  for (const auto& [key, property] : layer(Origin::Project)) {
+    const Property* below = inherited(key);
+    const bool repeats = below && below->value() == property->value();
+    if (!repeats || m_pinned.contains(key)) entries.push_back(entryOf(key, *property));
+  }
+  sortEntries(entries);
+  return entries;
+}
+
+std::vector<PropertyEntry> PropertyLayers::entries() const {
+  std::vector<PropertyEntry> entries;
+  entries.reserve(m_effective.size());
+  for (const auto& [key, property] : m_effective) entries.push_back(entryOf(key, *property));
+  sortEntries(entries);
+  return entries;
+}
+
+std::optional<std::string> PropertyLayers::setting(const std::string& section,
+                                                   const std::string& name) const {
+  const auto found = m_settings.find({section, name});
+  if (found == m_settings.end()) return std::nullopt;
+  return found->second;
+}
+
+}  // namespace veldra::host

@@ -1,0 +1,63 @@
+#include "host/resources/MessageCatalogue.h"
+
+#include <charconv>
+#include <cstdlib>
+
+#include "host/model/PathNames.h"
+#include "host/model/TomlSettings.h"
+
+namespace veldra::host {
+namespace {
+
+constexpr char Section[] = "messages";
+
+std::string fileOf(const std::string& root, const std::string& language) {
+  return joinPath(joinPath(root, "resources"), "messages." + language + ".toml");
+}
+
+/// A code that may become part of a file name.
+bool isLanguageCode(const std::string& code) {
+  return !code.empty() && code.find_first_not_of(
+                              "abcdefghijklmnopqrstuvwxyz"
+                              "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_-") == std::string::npos;
+}
+
+}  // namespace
+
+MessageCatalogue::MessageCatalogue(const std::string& installationRoot, const std::string& language,
+                                   Problems& problems) {
+  add(fileOf(installationRoot, "en"), problems);
+  if (!isLanguageCode(language) || language == "en") return;
+  const std::string general = language.substr(0, language.find('_'));
+  if (general != "en") add(fileOf(installationRoot, general), problems);
+  if (general != language) add(fileOf(installationRoot, language), problems);
+}
+
+void MessageCatalogue::add(const std::string& file, Problems& problems) {
+  for (auto& [place, value] : readTomlSettings(file, problems).settings) {
+    const auto& [section, name] = place;
+    int id = 0;
+    const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), id);
+    if (section == Section && error == std::errc() && end == name.data() + name.size()) {
+      m_texts[id] = value;
+    }
+  }
+}
+
+std::string MessageCatalogue::text(int id) const {
+  const auto found = m_texts.find(id);
+  return found == m_texts.end() ? std::string() : found->second;
+}
+
+std::string userLanguage() {
+  for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+    const char* value = std::getenv(name);
+    if (!value || !*value) continue;
+    const std::string language(value);
+    const std::string code = language.substr(0, language.find_first_of(".@"));
+    return code == "C" || code == "POSIX" ? "en" : code;
+  }
+  return "en";
+}
+
+}  // namespace veldra::host

@@ -1,0 +1,73 @@
+#include "host/resources/MessageCatalogue.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+
+#include "tests/host/platform/TempDirectory.h"
+
+namespace veldra::host {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string sourceRoot() {
+  return (fs::path(__FILE__).parent_path() / "../../../host").string();
+}
+
+int placeholders(const std::string& text) {
+  int count = 0;
+  while (text.find("%" + std::to_string(count + 1)) != std::string::npos) ++count;
+  return count;
+}
+
+TEST(MessageCatalogue, hasAClearTextForEveryNumberWithItsValues) {
+  Problems problems;
+  const MessageCatalogue catalogue(sourceRoot(), "en", problems);
+  EXPECT_TRUE(problems.empty());
+  const std::map<int, int> withValues = {
+      {948, 1},   {949, 4},   {953, 2},   {954, 1},   {955, 1},   {966, 1},   {967, 1},
+      {47640, 1}, {48352, 2}, {50055, 1}, {60001, 1}, {60002, 2}, {60003, 2}, {60005, 1},
+      {60006, 2}, {60007, 2}, {60008, 1}, {60009, 1}, {60010, 1}, {60011, 2}};
+  std::vector<int> ids = {948,   949,   953,   954,   955,   958,   959,   962,   966,   967,
+                          46547, 46554, 46560, 46563, 46565, 46566, 46567, 47640, 48312, 49434,
+                          49488, 49494, 49762, 49763, 49764, 49765, 49982, 50055};
+  for (int id = 48318; id <= 48359; ++id) ids.push_back(id);
+  for (int id = 60001; id <= 60011; ++id) ids.push_back(id);
+  constexpr int EmptyTrailer = 48351;
+  for (const int id : ids) {
+    const std::string text = catalogue.text(id);
+    EXPECT_EQ(text.empty(), id == EmptyTrailer) << id;
+    const auto values = withValues.find(id);
+    EXPECT_EQ(placeholders(text), values == withValues.end() ? 0 : values->second) << id;
+    EXPECT_EQ(text.find("lease "), std::string::npos) << id;
+  }
+  EXPECT_EQ(catalogue.size(), ids.size()) << "a text that nothing shows, or a number twice";
+  EXPECT_EQ(catalogue.text(1), "");
+}
+
+TEST(MessageCatalogue, otherLanguagesLieOverEnglish) {
+  const TempDirectory root;
+  fs::create_directory(root.file("resources"));
+  root.write("resources/messages.en.toml", "[messages]\n1 = \"one\"\n2 = \"two\"\n3 = \"three\"\n");
+  root.write("resources/messages.de.toml", "[messages]\n1 = \"eins\"\n2 = \"zwei\"\n");
+  root.write("resources/messages.de_AT.toml", "[messages]\n2 = \"zwoa\"\nx = \"no number\"\n");
+  root.write("resources/messages.fr.toml", "[messages\n");
+  const struct {
+    const char* language;
+    const char* texts;
+    std::size_t problems;
+  } rows[] = {{"de_AT", "eins zwoa three", 0}, {"de_CH", "eins zwei three", 0},
+              {"en_GB", "one two three", 0},   {"fr", "one two three", 1},
+              {"../x", "one two three", 0},    {"", "one two three", 0}};
+  for (const auto& row : rows) {
+    Problems problems;
+    const MessageCatalogue catalogue(root.path(), row.language, problems);
+    EXPECT_EQ(catalogue.text(1) + " " + catalogue.text(2) + " " + catalogue.text(3), row.texts)
+        << row.language;
+    EXPECT_EQ(problems.size(), row.problems) << row.language;
+  }
+}
+
+}  // namespace
+}  // namespace veldra::host
