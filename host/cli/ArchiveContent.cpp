@@ -1,0 +1,60 @@
+#include "host/cli/ArchiveContent.h"
+
+#include "cm/core/CMFacade.h"
+#include "cm/host/IPN.h"
+#include "cm/templates/CMProperty.h"
+#include "host/cli/CallArguments.h"
+#include "host/cli/UnitDescription.h"
+#include "host/cli/UnitOutcome.h"
+
+namespace veldra::host::cli {
+
+namespace {
+
+/// Why nothing was even tried.
+std::string reasonForNothing(Session& session, const DiagnosticList& diagnostics) {
+  const std::string general = generalMessage(diagnostics, {});
+  if (!general.empty()) return general;
+  const std::string& told = session.door().lastText();
+  return told.empty() ? "The archive cannot be listed." : told;
+}
+
+/// Why the answer of a command that worked cannot be read.
+std::string reasonForNoRecords() {
+  for (const char* name : {IPN::CMMultiRecordDelimiter, IPN::CMListArchiveItsWorkingFile}) {
+    std::string pattern;
+    if (!CMProperty::getToolPropertyValue(name, pattern) || pattern.empty()) {
+      return std::string("The tool's listing cannot be read: its property ") + name +
+             " is not set. Set it with \"veldra-cm property set\".";
+    }
+  }
+  return {};
+}
+
+}  // namespace
+
+ArchiveContent listArchive(Session& session) {
+  CallArguments arguments =
+      callArguments({.projectDirectory = session.project().getProjectDirectory(),
+                     .isPlan = session.options().dryRun});
+  CMArchiveItemListWrapper items;
+  DiagnosticList diagnostics;
+  const std::vector<UnitTrace>& traces = session.progress().traces();
+  const std::size_t before = traces.size();
+  CMFacade::ListArchive(items.list(), arguments.list(), diagnostics);
+
+  ArchiveContent content;
+  if (traces.size() == before) {
+    content.failure = reasonForNothing(session, diagnostics);
+    return content;
+  }
+  content.commands = traces.back().commands;
+  content.failure = failureOf(traces.back(), IPN::CMListArchive);
+  if (content.failure.empty()) content.failure = reasonForNoRecords();
+  for (const CMArchiveItem* item : items.list()) {
+    if (item != nullptr) content.files.push_back(describeItem(*item));
+  }
+  return content;
+}
+
+}  // namespace veldra::host::cli

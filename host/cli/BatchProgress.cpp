@@ -1,0 +1,43 @@
+#include "host/cli/BatchProgress.h"
+
+#include <utility>
+
+#include "host/cli/Interrupt.h"
+#include "host/cli/printing/BytesAsText.h"
+#include "host/model/PathNames.h"
+
+namespace veldra::host::cli {
+
+namespace {
+// Back to the beginning of the line, and clear it.
+constexpr char FreshLine[] = "\r\x1b[K";
+}  // namespace
+
+void BatchProgress::noteCommand(const std::string& command) {
+  (m_isInUnit ? m_current.commands : m_otherCommands).push_back(command);
+}
+
+void BatchProgress::unitStarted(const ProgressStep& step) {
+  m_isInUnit = true;
+  m_current = UnitTrace{.file = step.unit};
+  (void)m_window.take();
+  if (!m_console.showsProgress) return;
+  m_console.err << FreshLine << '[' << step.position << '/' << step.count << "] " << step.operation
+                << "  " << textForPeople(baseName(step.unit)) << std::flush;
+}
+
+void BatchProgress::unitEnded(const ProgressStep& /*step*/, UnitEnd end, const std::string& words) {
+  if (m_console.showsProgress) m_console.err << FreshLine << std::flush;
+  m_isInUnit = false;
+  m_current.end = end;
+  m_current.words = words;
+  m_current.output = m_window.take();
+  m_traces.push_back(std::move(m_current));
+  if (m_listener) m_listener(m_traces.back());
+}
+
+bool BatchProgress::isCancelled() {
+  return m_isStopped || wasInterrupted();
+}
+
+}  // namespace veldra::host::cli

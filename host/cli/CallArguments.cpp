@@ -1,0 +1,31 @@
+#include "host/cli/CallArguments.h"
+
+#include "host/model/PathNames.h"
+
+namespace veldra::host::cli {
+
+int PlannedLogFile::isNamed(const std::string& keyword) const {
+  return lowerCase(keyword) == "logfile" ? 1 : 0;
+}
+
+std::string PlannedLogFile::substitute(const std::string& keyword) {
+  return isNamed(keyword) != 0 ? PlannedCommentFile : keyword;
+}
+
+CallArguments callArguments(const CallValues& values) {
+  CallArguments arguments;
+  arguments.add<CMMode>(values.mode);
+  arguments.add<CMLabel>(values.label);
+  if (values.isPlan) {
+    arguments.add<PlannedLogFile>();
+  } else {
+    arguments.add<CMLogFile>(values.comment);
+  }
+  arguments.add<CMWorkspace>(values.projectDirectory);
+  arguments.add<CMTargetFile>(values.projectDirectory);
+  // Last, because a project may let the comment answer to every keyword.
+  arguments.add<CMLog>(values.comment);
+  return arguments;
+}
+
+}  // namespace veldra::host::cli

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "cm/core/CMArgument.h"
+#include "cm/core/CMArguments.h"
+
+namespace veldra::host::cli {
+
+/// In a dry run no file for the comment is made; its path stands as this in commands.
+inline constexpr char PlannedCommentFile[] = "\x01comment\x01";
+
+/// The values of one call, in the order in which commands ask them.
+class CallArguments {
+ public:
+  template <class Argument, class... Values>
+  void add(Values&&... values) {
+    m_owned.push_back(std::make_unique<Argument>(std::forward<Values>(values)...));
+    m_list.push_back(m_owned.back().get());
+  }
+  ArgumentList& list() { return m_list; }
+
+ private:
+  std::vector<std::unique_ptr<CMArgument>> m_owned;
+  ArgumentList m_list;
+};
+
+/// "logFile" of a dry run.
+class PlannedLogFile : public CMUserBasedArgument {
+ public:
+  int isNamed(const std::string& keyword) const override;
+  std::string substitute(const std::string& keyword) override;
+};
+
+/// What every operation on units is called with.
+struct CallValues {
+  CMMode::Mode mode = CMMode::ReadOnly;
+  std::string label{};
+  std::string comment{};
+  std::string projectDirectory{};
+  bool isPlan = false;
+};
+
+CallArguments callArguments(const CallValues& values);
+
+}  // namespace veldra::host::cli

@@ -1,0 +1,78 @@
+#include "host/cli/Connection.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "cm/core/CMArchive.h"
+#include "cm/core/CMFacade.h"
+#include "cm/host/IPN.h"
+#include "cm/templates/CMProperty.h"
+#include "cm/tool/CMToolShellInterface.h"
+#include "cm/tool/CommandText.h"
+#include "host/cli/CallArguments.h"
+#include "host/cli/UnitOutcome.h"
+#include "host/model/PathNames.h"
+
+namespace veldra::host::cli {
+
+bool isLocalPlace(const std::string& place) {
+  return place.find("://") == std::string::npos && !place.starts_with(':');
+}
+
+std::string archivePlace(const std::string& where) {
+  if (where.empty()) throw CommandError(ExitCode::WrongUsage, "The archive has no name.");
+  const std::string place = isLocalPlace(where) ? absolutePath(where) : where;
+  if (const std::optional<std::string> reason = unsafeInCommand(place)) {
+    throw CommandError(ExitCode::WrongUsage, "The archive's name \"" + place + "\" contains " +
+                                                 *reason +
+                                                 ", which no command can carry. Choose another "
+                                                 "place.");
+  }
+  return place;
+}
+
+std::optional<std::string> createArchive(const std::string& place) {
+  std::error_code unknown;
+  if (!isLocalPlace(place) || std::filesystem::exists(place, unknown)) return std::nullopt;
+  CallArguments arguments;
+  arguments.add<CMArchive>(place);
+  std::string command;
+  std::string extra;
+  if (CMProperty::getToolProperty("CreateArchive") == nullptr) return std::nullopt;
+  if (CMProperty::ExpandProperty("CreateArchive", arguments.list(), command, extra) != 1) {
+    return "The tool's command CreateArchive cannot be made.";
+  }
+  std::string output;
+  std::string errorText;
+  const int executed = theCMToolShellInterface().Execute(command, output, errorText, "");
+  if (executed != 0 && !theCMToolShellInterface().lastCommandEnd().failed) return std::nullopt;
+  return "The archive " + place + " cannot be made.\n" +
+         toolWords(theCMToolShellInterface().lastCommandEnd().words) + "\ncommand: " + command;
+}
+
+std::optional<std::string> connectToArchive(Session& session,
+                                            const std::optional<std::string>& place) {
+  if (place && CMArchive::setMainArchive(*place) == 0) {
+    return "The project's tool knows no archive. Choose a tool with \"veldra-cm property set "
+           "CMTool NAME\".";
+  }
+  if (CMArchive::getMainArchive().empty()) {
+    return "The project has no archive. Name one with --archive.";
+  }
+  CallArguments arguments =
+      callArguments({.projectDirectory = session.project().getProjectDirectory(),
+                     .isPlan = session.options().dryRun});
+  UnitList units;
+  DiagnosticList diagnostics;
+  const std::vector<UnitTrace>& traces = session.progress().traces();
+  const std::size_t before = traces.size();
+  CMFacade::ConnectToArchive(units, arguments.list(), diagnostics);
+  const std::string general = generalMessage(diagnostics, {});
+  if (!general.empty()) return general;
+  if (traces.size() == before) return session.door().lastText();
+  if (traces.back().end == UnitEnd::Done) return std::nullopt;
+  return "The project cannot be connected to its archive.\n" +
+         failureOf(traces.back(), IPN::CMConnectToCMRepository);
+}
+
+}  // namespace veldra::host::cli

@@ -1,0 +1,52 @@
+#include "host/cli/Options.h"
+
+namespace veldra::host::cli {
+
+std::span<const OptionRow> optionTable() {
+  using namespace OptionSet;
+  static const OptionRow rows[] = {
+      {Everywhere, "-p,--project", "DIR",
+       "The project's folder or file; otherwise the one in the current folder or the nearest above",
+       &Options::project},
+      {Everywhere, "--json", "", "Print one JSON document instead of text", &Options::json},
+      {Everywhere, "--dry-run", "", "Show what would be done, and do nothing", &Options::dryRun},
+      {Everywhere, "-v,--verbose", "", "Show everything that the tool prints", &Options::verbose},
+
+      {Units, "units", "UNIT", "Files, or names such as Package::Unit", &Options::units},
+      {Units, "--all", "", "Every unit that the command can apply to", &Options::all},
+      {Comment, "-m,--message", "TEXT", "The comment", &Options::message},
+      {Comment, "-F,--file", "FILE", "A file that holds the comment; - is the standard input",
+       &Options::messageFile},
+      {Label, "-l,--label", "LABEL", "A revision or label of the tool", &Options::label},
+      {Overwrite, "--force", "", "Overwrite writable files without asking", &Options::force},
+      {Update, "-u,--update", "", "Ask the archive for versions and for who holds what",
+       &Options::update},
+
+      {NewProject, "directory", "DIR", "The folder of the new project", &Options::directory, true},
+      {NewProject, "--name", "NAME", "The project's name; otherwise that of the folder",
+       &Options::name},
+      {NewProject, "--tool", "TOOL", "The tool pack that the project works with", &Options::tool},
+      {NewProject | Archive, "--archive", "WHERE", "The archive: an address or a local path",
+       &Options::archive},
+
+      {Expansion, "template", "TEMPLATE", "The text to expand", &Options::commandTemplate},
+      {Expansion, "--property", "NAME", "Expand this property in place of a text",
+       &Options::property},
+      {Expansion, "--arg", "KIND=VALUE",
+       "A value; KIND is archive, label, log, mode (RO or RW), targetDir or workspace",
+       &Options::arguments},
+      {Expansion, "--unit", "UNIT", "The unit that $Unit and its kin stand for", &Options::unit},
+      {Expansion, "--explain", "", "Show each step on the error output", &Options::explain},
+
+      {Property, "action", "get|set|list", "What to do", &Options::action, true},
+      {Property, "key", "PROPERTY", "SUBJECT.METACLASS.NAME, or just NAME", &Options::key},
+      {Property, "value", "VALUE", "The new value", &Options::value},
+      {Property, "--user", "", "Store it for the user instead of the project", &Options::forUser},
+
+      {Pack, "action", "list|show", "What to do", &Options::action, true},
+      {Pack, "name", "NAME", "The pack", &Options::key},
+  };
+  return rows;
+}
+
+}  // namespace veldra::host::cli

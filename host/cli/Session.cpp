@@ -1,0 +1,133 @@
+#include "host/cli/Session.h"
+
+#include <filesystem>
+#include <optional>
+#include <system_error>
+
+#include "cm/core/CMFacade.h"
+#include "cm/host/MessageIds.h"
+#include "host/cli/printing/BytesAsText.h"
+#include "host/model/FileTypes.h"
+
+namespace veldra::host::cli {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// More than these are told only to who asks for everything.
+constexpr std::size_t ShownProblems = 10;
+
+std::ostream* shownWindow(const Invocation& invocation, WindowUse use) {
+  Console& console = invocation.console;
+  const bool isDocument = invocation.options.json;
+  if (use == WindowUse::Explain) return &console.err;
+  if (use == WindowUse::Result && !isDocument) return &console.out;
+  if (!invocation.options.verbose) return nullptr;
+  return isDocument ? &console.err : &console.out;
+}
+
+bool holdsProject(const fs::path& directory) {
+  std::error_code failed;
+  for (fs::directory_iterator at(directory, failed), end; !failed && at != end;
+       at.increment(failed)) {
+    const std::string name = at->path().filename().native();
+    if (FileTypes::isProjectFile(name) && !name.starts_with('.')) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+std::string nearestProject(const std::string& directory) {
+  std::error_code failed;
+  fs::path at = fs::absolute(directory.empty() ? "." : directory, failed).lexically_normal();
+  if (failed) return {};
+  for (;; at = at.parent_path()) {
+    if (holdsProject(at)) return at.native();
+    if (at == at.parent_path()) return {};
+  }
+}
+
+Session::Session(const Invocation& invocation, WindowUse window)
+    : m_options(invocation.options),
+      m_console(invocation.console),
+      m_door(invocation.console, invocation.options.force),
+      m_window(shownWindow(invocation, window),
+               window == WindowUse::Result && invocation.options.json),
+      m_progress(invocation.console, m_window),
+      m_watch(invocation.options.dryRun ? nullptr : &m_processes,
+              [this](const std::string& command) { m_progress.noteCommand(command); }),
+      m_interruptTarget(m_processes),
+      m_host(hostOptions()) {
+  installHost(&m_host);
+  m_door.setQuitListener([this] { m_progress.stop(); });
+  // The failures are listed with the tool's own words.
+  m_door.mute(m_host.messages().loadString(MessageId::ErrorPatternMatched));
+  if (!m_options.dryRun) CMFacade::saveCallbackFunc() = [this] { save(true); };
+  tellProblems(m_host.problems());
+}
+
+Session::~Session() {
+  installHost(nullptr);
+}
+
+HostOptions Session::hostOptions() {
+  HostOptions options;
+  options.output = &m_window;
+  options.door = &m_door;
+  options.progress = &m_progress;
+  options.processes = &m_watch;
+  return options;
+}
+
+Project& Session::project() {
+  if (m_host.project() == nullptr) {
+    throw CommandError(ExitCode::NothingDone, "No project is open.");
+  }
+  return *m_host.project();
+}
+
+bool Session::openProjectIfAny() {
+  const std::string place = m_options.project ? *m_options.project : nearestProject("");
+  if (place.empty() && !m_options.project) return false;
+  openProject(place);
+  return true;
+}
+
+Project& Session::openProject() {
+  if (openProjectIfAny()) return project();
+  throw CommandError(
+      ExitCode::NothingDone,
+      "There is no project in this folder or above it. Name one with -p, or make one "
+      "with \"veldra-cm init\".");
+}
+
+Project& Session::openProject(const std::string& directoryOrFile) {
+  if (const std::optional<std::string> reason = m_host.open(directoryOrFile)) {
+    throw CommandError(ExitCode::NothingDone, *reason);
+  }
+  tellProblems(project().problems());
+  return project();
+}
+
+void Session::save(bool tells) {
+  if (m_options.dryRun) return;
+  const Problems problems = m_host.save();
+  if (tells) tellProblems(problems);
+}
+
+void Session::tellProblems(const Problems& problems) {
+  std::size_t told = 0;
+  for (const Problem& problem : problems) {
+    if (told++ == ShownProblems && !m_options.verbose) {
+      m_door.notify("... and " + std::to_string(problems.size() - ShownProblems) +
+                        " more; --verbose shows them.",
+                    0);
+      return;
+    }
+    m_door.notify(sentence(problem), 0);
+  }
+}
+
+}  // namespace veldra::host::cli

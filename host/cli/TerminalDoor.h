@@ -1,0 +1,42 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <unordered_set>
+
+#include "host/UserDoor.h"
+#include "host/cli/Console.h"
+
+namespace veldra::host::cli {
+
+/// Talks to the user of the command line. Texts go to the error output, each once. Where nobody can
+/// answer, the answer is the one that changes nothing.
+class TerminalDoor : public UserDoor {
+ public:
+  /// `overwrites`: writable files are overwritten without a question.
+  TerminalDoor(Console& console, bool overwrites) : m_console(console), m_overwrites(overwrites) {}
+
+  /// A text that is not shown, because the command tells the same with more detail.
+  void mute(const std::string& text) { m_shown.insert(text); }
+  /// Told when the user answers that it is enough.
+  void setQuitListener(std::function<void()> listener) { m_quit = std::move(listener); }
+  /// The text that was shown last; empty when there was none.
+  const std::string& lastText() const { return m_last; }
+
+  void notify(const std::string& text, int level) override;
+  int ask(const std::string& text, int flags) override;
+  std::string askOverwrite(const std::string& text) override;
+
+ private:
+  void show(const std::string& text);
+  /// The first letter of the user's answer, in lower case; 'q' at the end of the input.
+  char answerTo(const std::string& question, const char* choices);
+
+  Console& m_console;
+  bool m_overwrites;
+  std::function<void()> m_quit;
+  std::string m_last;
+  std::unordered_set<std::string> m_shown;
+};
+
+}  // namespace veldra::host::cli

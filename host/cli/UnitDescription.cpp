@@ -1,0 +1,61 @@
+#include "host/cli/UnitDescription.h"
+
+#include <algorithm>
+
+#include "cm/core/CMTraitFacade.h"
+#include "host/model/PathNames.h"
+#include "host/model/UnitCore.h"
+
+namespace veldra::host::cli {
+
+namespace {
+
+std::string modeOf(IUnit& unit) {
+  const UnitCore* const core = UnitCore::of(&unit);
+  const bool isStub = (unit.getFlags() & UnitFlag::Stub) != 0;
+  if (isStub || (core != nullptr && core->mode() == FileMode::Unknown)) return "U";
+  return unit.isReadOnly() ? "RO" : "RW";
+}
+
+std::string modeOf(const CMArchiveItem& item) {
+  switch (ListedMode::of(item)) {
+    case ListedMode::ReadOnly:
+      return "RO";
+    case ListedMode::ReadWrite:
+      return "RW";
+    default:
+      return "U";
+  }
+}
+
+}  // namespace
+
+std::string projectPath(IUnit& unit) {
+  const UnitCore* const core = UnitCore::of(&unit);
+  std::string path = unit.asProject() != nullptr || core == nullptr ? unit.getFileName()
+                                                                    : core->relativeFileName();
+  if (HostSeparator != '/') std::ranges::replace(path, HostSeparator, '/');
+  return path;
+}
+
+UnitRecord describeUnit(IUnit& unit) {
+  return {.path = projectPath(unit),
+          .name = unit.getName(),
+          .type = unit.getTypeName(),
+          .version = CMTraitFacade::getVersion(&unit),
+          .mode = modeOf(unit),
+          .locker = CMTraitFacade::getLocker(&unit)};
+}
+
+UnitRecord describeItem(const CMArchiveItem& item) {
+  UnitRecord record{.path = item.getNameNShortPath(true),
+                    .name = item.getName(),
+                    .type = item.getType(),
+                    .version = item.getVersion(),
+                    .mode = modeOf(item),
+                    .locker = item.getLocker()};
+  if (HostSeparator != '/') std::ranges::replace(record.path, HostSeparator, '/');
+  return record;
+}
+
+}  // namespace veldra::host::cli

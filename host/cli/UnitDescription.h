@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+#include "cm/core/CMArchiveItem.h"
+#include "cm/host/IUnit.h"
+#include "host/cli/UnitRecord.h"
+
+namespace veldra::host::cli {
+
+/// The unit as the workspace has it, with version and locker of its CM header.
+UnitRecord describeUnit(IUnit& unit);
+
+/// The item as the archive listed it, its path relative to the project.
+UnitRecord describeItem(const CMArchiveItem& item);
+
+/// The unit's file relative to the project, with "/"; the full name of a file outside of it.
+std::string projectPath(IUnit& unit);
+
+}  // namespace veldra::host::cli

@@ -1,0 +1,201 @@
+#include "host/cli/UnitOperation.h"
+
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+
+#include "cm/core/CMAskOnCheckoutGuard.h"
+#include "cm/templates/CMProperty.h"
+#include "cm/tool/CommandText.h"
+#include "host/cli/ArchiveContent.h"
+#include "host/cli/CallArguments.h"
+#include "host/cli/Comment.h"
+#include "host/cli/Session.h"
+#include "host/cli/UnitDescription.h"
+#include "host/cli/UnitOutcome.h"
+#include "host/cli/printing/BytesAsText.h"
+#include "host/cli/printing/Listing.h"
+#include "host/cli/printing/Report.h"
+
+namespace veldra::host::cli {
+
+namespace {
+
+void checkUsage(const Options& options) {
+  if (options.units.empty() && !options.all) {
+    throw CommandError(ExitCode::WrongUsage, "Name the units, or give --all.");
+  }
+  if (!options.units.empty() && options.all) {
+    throw CommandError(ExitCode::WrongUsage, "Name the units, or give --all, not both.");
+  }
+  if (const std::optional<std::string> reason = unsafeInCommand(options.label)) {
+    throw CommandError(ExitCode::WrongUsage, "The label contains " + *reason +
+                                                 ", which no command can carry. Give another one.");
+  }
+}
+
+void checkComment(const std::string& comment) {
+  std::string forbidden;
+  CMProperty::getToolPropertyValue("InValidCharactersInRevisionDescription", forbidden);
+  refuseForbidden(comment, forbidden);
+}
+
+/// What the tool printed, without the echo of its command.
+std::string resultText(const UnitTrace& trace) {
+  const std::string echo = trace.commands.empty() ? "" : trace.commands.front() + "\n";
+  return trace.output.starts_with(echo) ? trace.output.substr(echo.size()) : trace.output;
+}
+
+/// One command on units, from the selection to the report.
+class UnitBatch {
+ public:
+  UnitBatch(Session& session, const UnitOperation& operation, std::string comment)
+      : m_session(session), m_operation(operation), m_comment(std::move(comment)) {}
+
+  void select() {
+    const Options& options = m_session.options();
+    m_selection =
+        options.all ? selectAll(m_operation.all) : selectByName(m_session.project(), options.units);
+    if (options.all && !options.dryRun) filterByArchive();
+    for (IUnit* unit : m_selection.units) {
+      m_indexOf.emplace(unit->getFullFileName(), m_records.size());
+      m_records.push_back({.path = projectPath(*unit)});
+    }
+  }
+
+  bool isEmpty() const { return m_records.empty() && m_selection.unknown.empty(); }
+
+  void run() {
+    const Options& options = m_session.options();
+    m_session.progress().setListener([this](const UnitTrace& trace) { tell(trace); });
+    CallArguments arguments =
+        callArguments({.mode = m_operation.mode,
+                       .label = options.label,
+                       .comment = m_comment,
+                       .projectDirectory = m_session.project().getProjectDirectory(),
+                       .isPlan = options.dryRun});
+    const CMAskOnCheckoutGuard guard;
+    UnitList units = m_selection.units;
+    if (!units.empty()) m_operation.run(units, arguments.list(), m_diagnostics);
+  }
+
+  Report report(const std::string& command) {
+    Report report{.command = command};
+    report.message = generalMessage(m_diagnostics, m_session.progress().traces());
+    const std::string& reason =
+        report.message.empty() ? m_session.door().lastText() : report.message;
+    applyTraces();
+    for (const auto& [file, index] : m_indexOf) {
+      if (m_reached.contains(index)) continue;
+      applyAbsence(m_session.progress().isCancelled(), reason, m_records[index]);
+    }
+    describe();
+    report.units = std::move(m_records);
+    report.units.insert(report.units.end(), m_selection.unknown.begin(), m_selection.unknown.end());
+    return report;
+  }
+
+ private:
+  /// An archive that cannot be listed decides nothing; the tool itself will tell.
+  void filterByArchive() {
+    const ArchiveContent content = listArchive(m_session);
+    if (!content.failure.empty()) return;
+    std::unordered_set<std::string> archived;
+    for (const UnitRecord& file : content.files) archived.insert(file.path);
+    keepByArchive(m_operation.archived, archived, m_selection.units);
+  }
+
+  /// A short line for who watches.
+  void tell(const UnitTrace& trace) {
+    const Options& options = m_session.options();
+    const auto at = m_indexOf.find(trace.file);
+    const bool isShown = trace.end == UnitEnd::Done && !options.json && !options.dryRun &&
+                         !m_operation.outputIsResult && at != m_indexOf.end();
+    if (!isShown) return;
+    m_session.console().out << m_operation.pastAction << "  "
+                            << textForPeople(m_records[at->second].path) << '\n'
+                            << std::flush;
+  }
+
+  void applyTraces() {
+    for (const UnitTrace& trace : m_session.progress().traces()) {
+      const auto at = m_indexOf.find(trace.file);
+      if (at == m_indexOf.end()) continue;
+      UnitRecord& record = m_records[at->second];
+      m_reached.insert(at->second);
+      applyTrace(trace, m_operation.templateProperty, m_diagnostics, record);
+      if (m_session.options().dryRun) makePlan(trace, m_operation.lock, record);
+      if (m_operation.outputIsResult && record.result == UnitResult::Done) {
+        record.message = resultText(trace);
+      }
+    }
+  }
+
+  /// Units may be other objects than before, so they are looked up by their files.
+  void describe() {
+    for (const auto& [file, index] : m_indexOf) {
+      UnitCore* const unit = m_session.project().unitByFile(file);
+      if (unit == nullptr) continue;
+      UnitRecord described = describeUnit(unit->unit());
+      UnitRecord& record = m_records[index];
+      described.result = record.result;
+      described.message = std::move(record.message);
+      described.plan = std::move(record.plan);
+      record = std::move(described);
+    }
+  }
+
+  Session& m_session;
+  const UnitOperation& m_operation;
+  std::string m_comment;
+  UnitSelection m_selection;
+  std::vector<UnitRecord> m_records;
+  std::unordered_map<std::string, std::size_t> m_indexOf;
+  std::unordered_set<std::size_t> m_reached;
+  DiagnosticList m_diagnostics;
+};
+
+void print(const Report& report, const UnitOperation& operation, const Invocation& invocation) {
+  Console& console = invocation.console;
+  if (invocation.options.json) {
+    printJson(report, console.out);
+    return;
+  }
+  std::size_t failures = 0;
+  for (const UnitRecord& unit : report.units) {
+    if (unit.result == UnitResult::Planned) printPlan(unit, operation.action, console.out);
+    const bool isFine = unit.result == UnitResult::Planned || unit.result == UnitResult::Done;
+    if (!isFine) ++failures;
+    // One sentence for all of them says enough.
+    if (!isFine && unit.message != report.message) printFailure(unit, console.err);
+  }
+  if (!report.message.empty()) console.err << linesForPeople(report.message) << '\n';
+  if (failures > 0 && report.units.size() > 1) {
+    console.err << failures << " of " << report.units.size() << " units came to nothing.\n";
+  }
+}
+
+}  // namespace
+
+ExitCode runUnitOperation(const Invocation& invocation, const UnitOperation& operation) {
+  checkUsage(invocation.options);
+  const std::string comment = readComment(invocation.options, invocation.console.in);
+  Session session(invocation, operation.outputIsResult ? WindowUse::Result : WindowUse::Quiet);
+  session.openProject();
+  checkComment(comment);
+  UnitBatch batch(session, operation, comment);
+  batch.select();
+  const bool isEmpty = batch.isEmpty();
+  batch.run();
+  const Report report = batch.report(invocation.command.name);
+  session.save(false);
+  print(report, operation, invocation);
+  if (isEmpty) {
+    invocation.console.err << "There is no unit to " << operation.action << ".\n";
+    return ExitCode::AllDone;
+  }
+  return wasInterrupted() ? ExitCode::Interrupted : exitCodeOf(report.units);
+}
+
+}  // namespace veldra::host::cli

@@ -1,0 +1,122 @@
+#include "host/cli/UnitOutcome.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "host/cli/CallArguments.h"
+#include "host/cli/printing/BytesAsText.h"
+#include "host/platform/CommandLine.h"
+
+namespace veldra::host::cli {
+
+namespace {
+
+// A tool's first lines say what is wrong; what follows is mostly its own trace.
+constexpr std::size_t ShownToolLines = 4;
+
+UnitResult resultOf(UnitEnd end) {
+  switch (end) {
+    case UnitEnd::Done:
+      return UnitResult::Done;
+    case UnitEnd::Refused:
+      return UnitResult::Refused;
+    case UnitEnd::Declined:
+      return UnitResult::Declined;
+    default:
+      return UnitResult::Failed;
+  }
+}
+
+/// What to say when neither the tool nor the module has words for it.
+std::string wordsFor(UnitEnd end, const char* templateProperty) {
+  switch (end) {
+    case UnitEnd::Done:
+      return {};
+    case UnitEnd::Refused:
+      return "It cannot take part in this operation.";
+    case UnitEnd::Declined:
+      return "The file is writable and stays as it is. --force overwrites it.";
+    case UnitEnd::NotExpanded:
+      return std::string(
+                 "The tool's command cannot be made. \"veldra-cm expand --explain "
+                 "--property ") +
+             templateProperty + "\" shows where it fails.";
+    case UnitEnd::NotRun:
+      return "The tool's command cannot be run.";
+    case UnitEnd::ToolFailed:
+      return "The tool failed without a word, or ran out of time.";
+    case UnitEnd::NotReloaded:
+      return "The tool did its work, but the file cannot be loaded.";
+  }
+  return {};
+}
+
+/// The diagnostic that speaks of the file, or nothing.
+const CMDiagnostic* diagnosticOf(const std::string& file, const DiagnosticList& diagnostics) {
+  const auto at = std::ranges::find_if(diagnostics, [&](const CMDiagnostic& diagnostic) {
+    return diagnostic.getMessage().find(file) != std::string::npos;
+  });
+  return at != diagnostics.end() ? &*at : nullptr;
+}
+
+}  // namespace
+
+std::string toolWords(const std::string& words) {
+  return firstLines(words, ShownToolLines);
+}
+
+std::string failureOf(const UnitTrace& trace, const char* templateProperty) {
+  if (trace.end == UnitEnd::Done) return {};
+  std::string failure = toolWords(trace.words);
+  if (failure.empty()) failure = wordsFor(trace.end, templateProperty);
+  for (const std::string& command : trace.commands) failure += "\ncommand: " + command;
+  return failure;
+}
+
+void applyTrace(const UnitTrace& trace, const char* templateProperty,
+                const DiagnosticList& diagnostics, UnitRecord& record) {
+  record.result = resultOf(trace.end);
+  record.message = failureOf(trace, templateProperty);
+  if (trace.end != UnitEnd::Refused) return;
+  const CMDiagnostic* const reason = diagnosticOf(trace.file, diagnostics);
+  if (reason != nullptr) record.message = reason->getMessage();
+}
+
+void applyAbsence(bool wasCancelled, const std::string& reason, UnitRecord& record) {
+  record.result = wasCancelled ? UnitResult::Cancelled : UnitResult::Skipped;
+  record.message = wasCancelled ? "It was not its turn yet." : reason;
+  if (record.message.empty()) record.message = "The operation left it out.";
+}
+
+std::string generalMessage(const DiagnosticList& diagnostics,
+                           const std::vector<UnitTrace>& traces) {
+  std::string message;
+  for (const CMDiagnostic& diagnostic : diagnostics) {
+    const bool isOfUnit = std::ranges::any_of(traces, [&](const UnitTrace& trace) {
+      return diagnostic.getMessage().find(trace.file) != std::string::npos;
+    });
+    if (isOfUnit || diagnostic.getStatus() != CMDiagnostic::Failed) continue;
+    if (!message.empty()) message += '\n';
+    message += diagnostic.getMessage();
+  }
+  return message;
+}
+
+void makePlan(const UnitTrace& trace, const char* lock, UnitRecord& record) {
+  if (record.result != UnitResult::Done) return;
+  record.result = UnitResult::Planned;
+  record.plan.file = trace.file;
+  record.plan.lock = lock;
+  for (const std::string& command : trace.commands) {
+    record.plan.commands.push_back(plannedArguments(command));
+  }
+}
+
+std::vector<std::string> plannedArguments(const std::string& command) {
+  Result<std::vector<std::string>> split = splitCommandLine(command);
+  std::vector<std::string> arguments = split ? *split : std::vector<std::string>{command};
+  std::ranges::replace(arguments, std::string(PlannedCommentFile), std::string("<comment>"));
+  return arguments;
+}
+
+}  // namespace veldra::host::cli

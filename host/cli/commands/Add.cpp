@@ -1,0 +1,18 @@
+#include "cm/core/CMFacade.h"
+#include "host/cli/UnitOperation.h"
+
+namespace veldra::host::cli {
+
+ExitCode runAdd(const Invocation& invocation) {
+  static const UnitOperation operation{.run = CMFacade::AddMember,
+                                       .templateProperty = "AddMember",
+                                       .action = "add",
+                                       .pastAction = "added",
+                                       .mode = CMMode::ReadOnly,
+                                       .all = AllUnits::Every,
+                                       .lock = "untouched",
+                                       .archived = ArchivedUnits::LeaveOut};
+  return runUnitOperation(invocation, operation);
+}
+
+}  // namespace veldra::host::cli

@@ -1,0 +1,33 @@
+#include "host/cli/CommandPlan.h"
+#include "host/cli/Connection.h"
+#include "host/cli/Session.h"
+#include "host/cli/printing/BytesAsText.h"
+#include "host/cli/printing/Report.h"
+
+#include "cm/core/CMArchive.h"
+
+namespace veldra::host::cli {
+
+ExitCode runConnect(const Invocation& invocation) {
+  const Options& options = invocation.options;
+  std::optional<std::string> place;
+  if (options.archive) place = archivePlace(*options.archive);
+  Session session(invocation);
+  session.openProject();
+  if (const std::optional<std::string> failure = connectToArchive(session, place)) {
+    throw CommandError(wasInterrupted() ? ExitCode::Interrupted : ExitCode::NothingDone, *failure);
+  }
+  if (options.dryRun) {
+    printCommandPlan(invocation, {}, session.progress().traces().back().commands);
+    return ExitCode::AllDone;
+  }
+  session.save(true);
+  if (options.json) {
+    printJson(Report{.command = invocation.command.name}, invocation.console.out);
+  } else {
+    invocation.console.out << "connected  " << textForPeople(CMArchive::getMainArchive()) << '\n';
+  }
+  return ExitCode::AllDone;
+}
+
+}  // namespace veldra::host::cli

@@ -1,0 +1,17 @@
+#include "cm/core/CMFacade.h"
+#include "host/cli/UnitOperation.h"
+
+namespace veldra::host::cli {
+
+ExitCode runFetch(const Invocation& invocation) {
+  static const UnitOperation operation{.run = CMFacade::Fetch,
+                                       .templateProperty = "Fetch",
+                                       .action = "fetch",
+                                       .pastAction = "fetched",
+                                       .mode = CMMode::ReadOnly,
+                                       .all = AllUnits::Every,
+                                       .lock = "untouched"};
+  return runUnitOperation(invocation, operation);
+}
+
+}  // namespace veldra::host::cli

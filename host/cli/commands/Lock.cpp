@@ -1,0 +1,17 @@
+#include "cm/core/CMFacade.h"
+#include "host/cli/UnitOperation.h"
+
+namespace veldra::host::cli {
+
+ExitCode runLock(const Invocation& invocation) {
+  static const UnitOperation operation{.run = CMFacade::LockItem,
+                                       .templateProperty = "Lock",
+                                       .action = "lock",
+                                       .pastAction = "locked",
+                                       .mode = CMMode::ReadWrite,
+                                       .all = AllUnits::ReadOnly,
+                                       .lock = "taken"};
+  return runUnitOperation(invocation, operation);
+}
+
+}  // namespace veldra::host::cli

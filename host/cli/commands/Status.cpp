@@ -1,0 +1,56 @@
+#include <string>
+#include <unordered_map>
+
+#include "host/cli/ArchiveContent.h"
+#include "host/cli/Session.h"
+#include "host/cli/UnitDescription.h"
+#include "host/cli/UnitSelection.h"
+#include "host/cli/printing/BytesAsText.h"
+#include "host/cli/printing/Listing.h"
+#include "host/cli/printing/Report.h"
+
+namespace veldra::host::cli {
+
+namespace {
+
+std::vector<UnitRecord> describeWorkspace() {
+  std::vector<UnitRecord> records;
+  for (IUnit* unit : selectAll(AllUnits::Every).units) records.push_back(describeUnit(*unit));
+  return records;
+}
+
+/// The archive knows better who holds a file and which revision is the newest.
+void takeFromArchive(const std::vector<UnitRecord>& files, std::vector<UnitRecord>& units) {
+  std::unordered_map<std::string, const UnitRecord*> byPath;
+  for (const UnitRecord& file : files) byPath.emplace(file.path, &file);
+  for (UnitRecord& unit : units) {
+    const auto at = byPath.find(unit.path);
+    if (at == byPath.end()) continue;
+    unit.version = at->second->version;
+    unit.locker = at->second->locker;
+  }
+}
+
+}  // namespace
+
+ExitCode runStatus(const Invocation& invocation) {
+  Console& console = invocation.console;
+  Session session(invocation);
+  session.openProject();
+  Report report{.command = invocation.command.name, .units = describeWorkspace()};
+  if (invocation.options.update) {
+    const ArchiveContent content = listArchive(session);
+    takeFromArchive(content.files, report.units);
+    report.message = content.failure;
+  }
+  if (invocation.options.json) {
+    printJson(report, console.out);
+  } else {
+    printListing(report.units, console.out);
+  }
+  if (!report.message.empty()) console.err << linesForPeople(report.message) << '\n';
+  if (wasInterrupted()) return ExitCode::Interrupted;
+  return report.message.empty() ? ExitCode::AllDone : ExitCode::SomeFailed;
+}
+
+}  // namespace veldra::host::cli

@@ -1,0 +1,17 @@
+#include "cm/core/CMFacade.h"
+#include "host/cli/UnitOperation.h"
+
+namespace veldra::host::cli {
+
+ExitCode runUnlock(const Invocation& invocation) {
+  static const UnitOperation operation{.run = CMFacade::UnLockItem,
+                                       .templateProperty = "UnLock",
+                                       .action = "unlock",
+                                       .pastAction = "unlocked",
+                                       .mode = CMMode::ReadOnly,
+                                       .all = AllUnits::Writable,
+                                       .lock = "given back"};
+  return runUnitOperation(invocation, operation);
+}
+
+}  // namespace veldra::host::cli

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <ostream>
+#include <vector>
+
+#include "host/cli/UnitRecord.h"
+
+namespace veldra::host::cli {
+
+/// A table of units for people: mode, version, locker, type, name and path.
+void printListing(const std::vector<UnitRecord>& units, std::ostream& out);
+
+/// What a dry run would do for one unit; `action` is, for example, "check in".
+void printPlan(const UnitRecord& unit, const char* action, std::ostream& out);
+
+/// A unit that came to nothing, with what there is to say about it.
+void printFailure(const UnitRecord& unit, std::ostream& out);
+
+}  // namespace veldra::host::cli

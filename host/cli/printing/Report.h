@@ -1,0 +1,35 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "host/cli/ExitCode.h"
+#include "host/cli/UnitRecord.h"
+
+namespace veldra::host::cli {
+
+/// What a command has to say at its end.
+struct Report {
+  std::string command;
+  std::vector<UnitRecord> units{};
+  std::string message{};  ///< What concerns the command as a whole; mostly empty.
+};
+
+/// The exit code of a command over these units: a part of them done, none, or all. No unit at all
+/// is nothing done.
+ExitCode exitCodeOf(const std::vector<UnitRecord>& units);
+
+/// A text, in a document: see `textForJson`.
+nlohmann::ordered_json jsonText(const std::string& bytes);
+
+/// The one document of a run: {"command", "units": [{"path", "name", "type", "version", "mode",
+/// "locker", "result", "message"}]}, keys in this order. A "message" follows the units when there
+/// is one, a "plan" the unit's message in a dry run.
+void printJson(const Report& report, std::ostream& out);
+
+/// A document of another shape.
+void printJson(const nlohmann::ordered_json& document, std::ostream& out);
+
+}  // namespace veldra::host::cli
