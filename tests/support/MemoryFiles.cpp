@@ -1,0 +1,29 @@
+#include "tests/support/MemoryFiles.h"
+
+namespace veldra::test {
+
+void MemoryFiles::write(const std::string& path, std::string content, bool writable) {
+  m_files[path] = {std::move(content), writable};
+  makeDirectory(directoryOf(path));
+}
+
+void MemoryFiles::makeDirectory(const std::string& path) {
+  for (std::string rest = path; !rest.empty(); rest = directoryOf(rest)) m_directories.insert(rest);
+}
+
+MemoryFiles::File* MemoryFiles::find(const std::string& path) {
+  const auto found = m_files.find(path);
+  return found == m_files.end() ? nullptr : &found->second;
+}
+
+std::string MemoryFiles::directoryOf(const std::string& path) {
+  const std::size_t at = path.find_last_of("/\\");
+  return at == std::string::npos ? std::string() : path.substr(0, at);
+}
+
+std::string MemoryFiles::nameOf(const std::string& path) {
+  const std::size_t at = path.find_last_of("/\\");
+  return at == std::string::npos ? path : path.substr(at + 1);
+}
+
+}  // namespace veldra::test
