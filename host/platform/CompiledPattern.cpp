@@ -17,7 +17,10 @@ constexpr std::size_t QuickBytes = std::size_t{1} << 28;
 constexpr std::size_t FewestQuickSteps = 100;
 constexpr std::size_t MostQuickSteps = 10'000;
 
-constexpr auto BaseTime = std::chrono::milliseconds(500);
+// Halved whenever a pattern is given up: one that fails so on each record of a listing must not
+// cost this much a hundred thousand times.
+constexpr auto BaseTime = std::chrono::microseconds(500'000);
+constexpr unsigned MostHalvings = 10;
 constexpr auto TimePerByte = std::chrono::nanoseconds(20);
 // Each item of a pattern may look at the whole text, so that the clock cannot wait for many of
 // them.
@@ -25,7 +28,8 @@ constexpr unsigned ItemsPerLook = 16;
 
 class Watch {
  public:
-  explicit Watch(std::size_t bytes) : m_deadline(Clock::now() + BaseTime + TimePerByte * bytes) {}
+  Watch(std::size_t bytes, unsigned halvings)
+      : m_deadline(Clock::now() + BaseTime / (1U << halvings) + TimePerByte * bytes) {}
 
   bool isOver() { return ++m_items % ItemsPerLook == 0 && Clock::now() > m_deadline; }
 
@@ -80,11 +84,12 @@ int CompiledPattern::searchTimed(std::string_view text, std::size_t from) const 
     m_timedCode = m_compiler.compile(m_text, m_bits | PCRE2_AUTO_CALLOUT, error);
     if (!m_timedCode) return PCRE2_ERROR_NOMEMORY;
   }
-  Watch watch(text.size() - from);
+  Watch watch(text.size() - from, m_timesGivenUp);
   pcre2_set_callout(m_compiler.matchContext(), lookAtWatch, &watch);
   const auto noLimit = std::numeric_limits<std::uint32_t>::max();
   const int result = run(m_timedCode.get(), noLimit, text, from);
   pcre2_set_callout(m_compiler.matchContext(), nullptr, nullptr);
+  if (result == PCRE2_ERROR_CALLOUT) m_timesGivenUp = std::min(m_timesGivenUp + 1, MostHalvings);
   return result;
 }
 

@@ -35,6 +35,7 @@ class CompiledPattern : public IPattern {
   std::uint32_t m_bits;
   Pcre2Code m_code;
   mutable Pcre2Code m_timedCode;  ///< Made when it is first needed; most patterns never do.
+  mutable unsigned m_timesGivenUp = 0;
   Pcre2MatchData m_data;
 };
 

@@ -12,7 +12,8 @@ namespace veldra::host {
 /// ends, "x" allows blanks and comments in the pattern. Another letter makes the pattern invalid.
 ///
 /// A match is given up when it needs too much memory, or after half a second plus a time in
-/// proportion to the text (a fifth of a second for ten megabytes).
+/// proportion to the text (a fifth of a second for ten megabytes). The half second
+/// shrinks for a pattern that is given up again and again.
 ///
 /// The engine keeps the thousand patterns that were asked for last; a pattern that has not been
 /// asked for while a thousand others were is gone. For one thread at a time.
