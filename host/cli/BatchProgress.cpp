@@ -8,11 +8,6 @@
 
 namespace veldra::host::cli {
 
-namespace {
-// Back to the beginning of the line, and clear it.
-constexpr char FreshLine[] = "\r\x1b[K";
-}  // namespace
-
 void BatchProgress::noteCommand(const std::string& command) {
   (m_isInUnit ? m_current.commands : m_otherCommands).push_back(command);
 }
@@ -22,12 +17,13 @@ void BatchProgress::unitStarted(const ProgressStep& step) {
   m_current = UnitTrace{.file = step.unit};
   (void)m_window.take();
   if (!m_console.showsProgress) return;
-  m_console.err << FreshLine << '[' << step.position << '/' << step.count << "] " << step.operation
-                << "  " << textForPeople(baseName(step.unit)) << std::flush;
+  m_console.clearProgress();
+  m_console.err << '[' << step.position << '/' << step.count << "] " << step.operation << "  "
+                << textForPeople(baseName(step.unit)) << std::flush;
 }
 
 void BatchProgress::unitEnded(const ProgressStep& /*step*/, UnitEnd end, const std::string& words) {
-  if (m_console.showsProgress) m_console.err << FreshLine << std::flush;
+  m_console.clearProgress();
   m_isInUnit = false;
   m_current.end = end;
   m_current.words = words;

@@ -16,7 +16,7 @@ struct UnitTrace {
   UnitEnd end = UnitEnd::Done;
   std::string words{};                  ///< What the tool said about a failure.
   std::vector<std::string> commands{};  ///< The command lines that were run for it.
-  std::string output{};  ///< What the output window got meanwhile, when it keeps that.
+  std::string output{};                 ///< What the output window got meanwhile.
 };
 
 /// Follows a batch: draws the progress on a terminal and remembers how each unit ended.

@@ -12,6 +12,11 @@ struct Console {
   std::ostream& err;           ///< Messages, questions and progress.
   bool asks = false;           ///< Questions can be answered: input and error output are terminals.
   bool showsProgress = false;  ///< The error output is a terminal.
+
+  /// Takes the progress away from the line that it stands on.
+  void clearProgress() {
+    if (showsProgress) err << "\r\x1b[K" << std::flush;
+  }
 };
 
 }  // namespace veldra::host::cli

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <ostream>
 #include <streambuf>
 #include <string>
@@ -8,19 +10,20 @@
 namespace veldra::host::cli {
 
 /// The CM output window of a run: what is written goes on to another stream, is kept to be taken,
-/// both or nowhere.
+/// as far as there is room, or both.
 class OutputWindow : private std::streambuf, public std::ostream {
  public:
-  /// `shown` may be null.
-  OutputWindow(std::ostream* shown, bool keeps)
-      : std::ostream(static_cast<std::streambuf*>(this)), m_shown(shown), m_keeps(keeps) {}
+  /// `shown` may be null; `room` is how many bytes are kept between two calls of `take`.
+  OutputWindow(std::ostream* shown, std::size_t room)
+      : std::ostream(static_cast<std::streambuf*>(this)), m_shown(shown), m_room(room) {}
 
-  /// What was written since the last call, when it is kept.
+  /// What was written since the last call.
   std::string take() { return std::exchange(m_kept, {}); }
 
  private:
   std::streamsize xsputn(const char* text, std::streamsize size) override {
-    if (m_keeps) m_kept.append(text, static_cast<std::size_t>(size));
+    const std::size_t count = std::min(static_cast<std::size_t>(size), m_room - m_kept.size());
+    m_kept.append(text, count);
     if (m_shown != nullptr) m_shown->write(text, size);
     return size;
   }
@@ -37,7 +40,7 @@ class OutputWindow : private std::streambuf, public std::ostream {
   }
 
   std::ostream* m_shown;
-  bool m_keeps;
+  std::size_t m_room;
   std::string m_kept;
 };
 

@@ -15,6 +15,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// Enough for the reason why a command could not be run.
+constexpr std::size_t KeptForFailures = std::size_t{64} << 10;
 // More than these are told only to who asks for everything.
 constexpr std::size_t ShownProblems = 10;
 
@@ -54,7 +56,7 @@ Session::Session(const Invocation& invocation, WindowUse window)
       m_console(invocation.console),
       m_door(invocation.console, invocation.options.force),
       m_window(shownWindow(invocation, window),
-               window == WindowUse::Result && invocation.options.json),
+               window == WindowUse::Result && m_options.json ? std::string::npos : KeptForFailures),
       m_progress(invocation.console, m_window),
       m_watch(invocation.options.dryRun ? nullptr : &m_processes,
               [this](const std::string& command) { m_progress.noteCommand(command); }),

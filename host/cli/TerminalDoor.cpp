@@ -15,6 +15,7 @@ constexpr int ButtonBits = 0xF;
 void TerminalDoor::show(const std::string& text) {
   if (!m_shown.insert(text).second) return;
   m_last = text;
+  m_console.clearProgress();
   m_console.err << linesForPeople(text) << '\n' << std::flush;
 }
 
@@ -63,6 +64,7 @@ char TerminalDoor::answerTo(const std::string& question, const char* choices) {
   static constexpr std::string_view Words[] = {"[y]es", "[n]o", "[a]ll", "[q]uit"};
   const std::string_view allowed = choices;
   std::string line;
+  m_console.clearProgress();
   for (;;) {
     m_console.err << linesForPeople(question) << '\n';
     for (const std::string_view word : Words) {

@@ -68,6 +68,8 @@ std::string toolWords(const std::string& words) {
 std::string failureOf(const UnitTrace& trace, const char* templateProperty) {
   if (trace.end == UnitEnd::Done) return {};
   std::string failure = toolWords(trace.words);
+  // Why nothing could be run was written to the output window alone.
+  if (trace.end == UnitEnd::NotRun) failure = toolWords(trace.output);
   if (failure.empty()) failure = wordsFor(trace.end, templateProperty);
   for (const std::string& command : trace.commands) failure += "\ncommand: " + command;
   return failure;
