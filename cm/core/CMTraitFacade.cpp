@@ -7,26 +7,38 @@
 #include "cm/host/IPN.h"
 #include "cm/host/IUnit.h"
 #include "cm/templates/CMProperty.h"
+#include "cm/templates/PropertyPattern.h"
 
 namespace veldra {
 
-namespace {
+struct CMHeaderReader::Patterns {
+  PropertyPattern version{IPN::CMHeaderItsVersion};
+  PropertyPattern locker{IPN::CMHeaderItsLocker};
+  bool echoes = isDebugEchoOn();
 
-std::string headerValue(const IUnit* unit, const char* propertyName, const char* label) {
-  std::string value;
-  const std::string header = unit != nullptr ? unit->getCMHeader() : std::string();
-  if (header.empty()) return value;
-  std::string extra;
-  int found = 0;
-  if (CMProperty::ExtractByProperty(propertyName, header, value, found, extra) == 1) {
-    debugEcho({label, ": '", value, "'\n"});
+  std::string read(const PropertyPattern& pattern, const IUnit* unit, const char* label) const {
+    std::string value;
+    const std::string header = unit != nullptr ? unit->getCMHeader() : std::string();
+    if (header.empty()) return value;
+    const bool found = pattern.extract(header, value).result == 1;
+    if (!found) value.clear();
+    if (echoes && found) writeDebugEcho({label, ": '", value, "'\n"});
+    if (echoes && !found) writeDebugEcho({"\n"});
     return value;
   }
-  debugEcho({extra, "\n"});
-  return {};
+};
+
+CMHeaderReader::CMHeaderReader() : m_patterns(std::make_unique<Patterns>()) {}
+
+CMHeaderReader::~CMHeaderReader() = default;
+
+std::string CMHeaderReader::getVersion(const IUnit* unit) const {
+  return m_patterns->read(m_patterns->version, unit, "version");
 }
 
-}  // namespace
+std::string CMHeaderReader::getLocker(const IUnit* unit) const {
+  return m_patterns->read(m_patterns->locker, unit, "Locker");
+}
 
 std::string CMTraitFacade::getDefaultHeader() {
   std::string setting;
@@ -40,11 +52,11 @@ std::string CMTraitFacade::getDefaultHeader() {
 }
 
 std::string CMTraitFacade::getVersion(const IUnit* unit) {
-  return headerValue(unit, IPN::CMHeaderItsVersion, "version");
+  return CMHeaderReader().getVersion(unit);
 }
 
 std::string CMTraitFacade::getLocker(const IUnit* unit) {
-  return headerValue(unit, IPN::CMHeaderItsLocker, "Locker");
+  return CMHeaderReader().getLocker(unit);
 }
 
 }  // namespace veldra

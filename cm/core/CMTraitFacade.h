@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "cm/host/Export.h"
@@ -7,6 +8,24 @@
 namespace veldra {
 
 class IUnit;
+
+/// Reads version and locker of any number of units; the patterns are looked up once, when it is
+/// made.
+class VELDRA_CM_EXPORT CMHeaderReader {
+ public:
+  CMHeaderReader();
+  CMHeaderReader(const CMHeaderReader&) = delete;
+  CMHeaderReader& operator=(const CMHeaderReader&) = delete;
+  ~CMHeaderReader();
+
+  /// As the functions of `CMTraitFacade`.
+  std::string getVersion(const IUnit* unit) const;
+  std::string getLocker(const IUnit* unit) const;
+
+ private:
+  struct Patterns;
+  std::unique_ptr<Patterns> m_patterns;
+};
 
 /// Reads what a CM tool's keyword expansion wrote into a unit's CM header, and supplies the header
 /// of new units.

@@ -8,6 +8,7 @@
 namespace veldra {
 
 CMUnitValidator::~CMUnitValidator() {
+  if (m_index.empty()) return;
   try {
     guardFaults([this] { reset(); });
   } catch (const std::exception&) {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "cm/core/CMTraitFacade.h"
 #include "host/model/PathNames.h"
 #include "host/model/UnitCore.h"
 
@@ -38,13 +37,13 @@ std::string projectPath(IUnit& unit) {
   return path;
 }
 
-UnitRecord describeUnit(IUnit& unit) {
+UnitRecord describeUnit(IUnit& unit, const CMHeaderReader& headers) {
   return {.path = projectPath(unit),
           .name = unit.getName(),
           .type = unit.getTypeName(),
-          .version = CMTraitFacade::getVersion(&unit),
+          .version = headers.getVersion(&unit),
           .mode = modeOf(unit),
-          .locker = CMTraitFacade::getLocker(&unit)};
+          .locker = headers.getLocker(&unit)};
 }
 
 UnitRecord describeItem(const CMArchiveItem& item) {

@@ -3,13 +3,14 @@
 #include <string>
 
 #include "cm/core/CMArchiveItem.h"
+#include "cm/core/CMTraitFacade.h"
 #include "cm/host/IUnit.h"
 #include "host/cli/UnitRecord.h"
 
 namespace veldra::host::cli {
 
 /// The unit as the workspace has it, with version and locker of its CM header.
-UnitRecord describeUnit(IUnit& unit);
+UnitRecord describeUnit(IUnit& unit, const CMHeaderReader& headers);
 
 /// The item as the archive listed it, its path relative to the project.
 UnitRecord describeItem(const CMArchiveItem& item);

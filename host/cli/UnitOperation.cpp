@@ -134,10 +134,11 @@ class UnitBatch {
 
   /// Units may be other objects than before, so they are looked up by their files.
   void describe() {
+    const CMHeaderReader headers;
     for (const auto& [file, index] : m_indexOf) {
       UnitCore* const unit = m_session.project().unitByFile(file);
       if (unit == nullptr) continue;
-      UnitRecord described = describeUnit(unit->unit());
+      UnitRecord described = describeUnit(unit->unit(), headers);
       UnitRecord& record = m_records[index];
       described.result = record.result;
       described.message = std::move(record.message);

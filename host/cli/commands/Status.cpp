@@ -14,8 +14,11 @@ namespace veldra::host::cli {
 namespace {
 
 std::vector<UnitRecord> describeWorkspace() {
+  const CMHeaderReader headers;
+  const UnitList units = selectAll(AllUnits::Every).units;
   std::vector<UnitRecord> records;
-  for (IUnit* unit : selectAll(AllUnits::Every).units) records.push_back(describeUnit(*unit));
+  records.reserve(units.size());
+  for (IUnit* unit : units) records.push_back(describeUnit(*unit, headers));
   return records;
 }
 

@@ -25,6 +25,12 @@ Row rowOf(const UnitRecord& unit) {
           textForPeople(unit.path)};
 }
 
+/// How many columns a text takes on a terminal: a character takes one, however many bytes it has.
+std::size_t widthOf(std::string_view text) {
+  return static_cast<std::size_t>(std::ranges::count_if(
+      text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+}
+
 /// The first line with a mark, the others below it.
 void printIndented(std::string_view mark, std::string_view text, std::ostream& out) {
   for (std::size_t from = 0; from < text.size();) {
@@ -42,13 +48,13 @@ void printListing(const std::vector<UnitRecord>& units, std::ostream& out) {
   for (const UnitRecord& unit : units) rows.push_back(rowOf(unit));
   std::array<std::size_t, ColumnCount> widths{};
   for (const Row& row : rows) {
-    for (std::size_t i = 0; i < ColumnCount; ++i) widths[i] = std::max(widths[i], row[i].size());
+    for (std::size_t i = 0; i < ColumnCount; ++i) widths[i] = std::max(widths[i], widthOf(row[i]));
   }
   std::string text;
   for (const Row& row : rows) {
     for (std::size_t i = 0; i + 1 < ColumnCount; ++i) {
       text += row[i];
-      text.append(widths[i] - row[i].size() + 2, ' ');
+      text.append(widths[i] - widthOf(row[i]) + 2, ' ');
     }
     text += row.back() + '\n';
   }

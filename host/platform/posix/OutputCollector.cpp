@@ -81,6 +81,8 @@ int OutputCollector::pollTimeout() const {
 
 void OutputCollector::noticeEnd() {
   m_ended = true;
+  m_output.releaseChildEnd();
+  m_errors.releaseChildEnd();
   // What the child itself has printed is in the pipes, and the next round takes all of it, before
   // it looks at the time.
   if (m_phase == Phase::Running) enter(Phase::Lingering);

@@ -24,13 +24,14 @@ constexpr std::size_t LargeRoom = std::size_t{4} * 1024 * 1024;
 
 }  // namespace
 
-FileDescriptor OutputPipe::open() {
+int OutputPipe::open() {
   std::array<int, 2> ends{};
-  if (::pipe2(ends.data(), O_CLOEXEC) != 0) return FileDescriptor();
+  if (::pipe2(ends.data(), O_CLOEXEC) != 0) return -1;
   m_reader.reset(ends[0]);
   // Only our end: most tools cannot write to a pipe that does not block.
   ::fcntl(m_reader.get(), F_SETFL, O_NONBLOCK);
-  return aboveStandard(FileDescriptor(ends[1]));
+  m_childEnd = aboveStandard(FileDescriptor(ends[1]));
+  return m_childEnd.get();
 }
 
 /// A flood would otherwise fault its memory in by the hundred thousand small pages.

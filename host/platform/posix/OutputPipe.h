@@ -13,8 +13,12 @@ class OutputPipe {
  public:
   explicit OutputPipe(LineList& lines) : m_lines(lines) {}
 
-  /// Makes the pipe and returns the child's end of it; no descriptor when the system has none left.
-  FileDescriptor open();
+  /// Makes the pipe and returns the child's end of it; -1 when the system has no descriptor left.
+  /// That end stays open here too until `releaseChildEnd`: the end of a child that says nothing
+  /// then wakes its reader once, not once per pipe and once more for the child.
+  int open();
+  /// To be called when the child has ended. Only then can the pipe come to its end.
+  void releaseChildEnd() { m_childEnd.reset(); }
   /// Takes all that was there when it was called, and closes the pipe at its end. The bytes taken.
   /// `events` is what `poll` has said of the descriptor, and not 0.
   std::size_t take(short events);
@@ -31,6 +35,7 @@ class OutputPipe {
 
   LineList& m_lines;
   FileDescriptor m_reader;
+  FileDescriptor m_childEnd;
   bool m_enlarged = false;
   bool m_insideLine = false;
   const char* m_advisedEnd = nullptr;

@@ -98,17 +98,19 @@ std::string ProcessRunner::start(ChildProcess& child, OutputPipe& output, Output
   const auto program = findProgram(m_name);
   if (!program) return program.error();
 
-  FileDescriptor opened;
-  if (m_output == Output::Kept) opened = output.open();
+  FileDescriptor nowhere;
+  int childOutput = -1;
+  if (m_output == Output::Kept) childOutput = output.open();
+  if (m_output == Output::File) childOutput = m_file->descriptor();
   if (m_output == Output::Nowhere) {
-    opened = aboveStandard(FileDescriptor(::open("/dev/null", O_WRONLY | O_CLOEXEC)));
+    nowhere = aboveStandard(FileDescriptor(::open("/dev/null", O_WRONLY | O_CLOEXEC)));
+    childOutput = nowhere.get();
   }
-  const int childOutput = m_output == Output::File ? m_file->descriptor() : opened.get();
   if (childOutput < 0) return startError(errno);
-  const FileDescriptor childErrors = errors.open();
-  if (!childErrors) return startError(errno);
+  const int childErrors = errors.open();
+  if (childErrors < 0) return startError(errno);
   const int error =
-      child.start(*program, *arguments, m_settings.environment, childOutput, childErrors.get());
+      child.start(*program, *arguments, m_settings.environment, childOutput, childErrors);
   return error == 0 ? std::string() : startError(error);
 }
 
