@@ -12,8 +12,9 @@ std::ostream*& CMOutputer::operator()() {
   Host* const host = installedHost();
   IAbstractCMManager* const manager = host != nullptr ? host->cmManager() : nullptr;
   // A stream that the host planted through the facade stays; otherwise the window's is followed.
-  if (manager != nullptr && state.outputStream == nullptr) {
-    state.outputStream = manager->getOutputStream();
+  if (state.outputStream == state.windowStream) {
+    state.windowStream = manager != nullptr ? manager->getOutputStream() : nullptr;
+    state.outputStream = state.windowStream;
   }
   return state.outputStream;
 }

@@ -39,6 +39,7 @@ struct ModuleState {
   CMTxnGlobalState notices;
   CMOutputer mainOutputer;
   std::ostream* outputStream = nullptr;
+  std::ostream* windowStream = nullptr;  ///< The host's window, as it was last seen.
 
   BackEndSelection backEnd;
   std::string sccToolName;

@@ -84,14 +84,14 @@ void setProperty(IDObject& object, const char* metaclass, const char* name, cons
 int main() {
   MinimalHost host;
   host.files.makeDirectory("/start");
-  test::MemoryProject& project = host.units.openProject("/work", "Plant.vdy");
+  test::MemoryProject& project = host.units.openProject("/plan", "Plant.vdy");
   setProperty(project, IPN::General, IPN::CMTool, "Pencil");
   setProperty(project, "Pencil", IPN::CMCheckIn, "pencil ci -m $log $UnitPath");
 
   // The tool of this model expands the header of the file that it is given.
   test::MemoryUnit& engine = host.units.addUnit("drive/Engine.vcl");
   host.tools.answer("pencil ci", {.output = "revision 1.2\n", .effect = [&] {
-                                    host.files.write("/work/drive/Engine.vcl", "$Id: 1.2 ada $");
+                                    host.files.write("/plan/drive/Engine.vcl", "$Id: 1.2 ada $");
                                   }});
   installHost(&host);
 
@@ -108,6 +108,6 @@ int main() {
 
   const bool ranOnce = host.tools.commands() == std::vector<std::string>{
                                                     "pencil ci -m \"longer stroke\" "
-                                                    "/work/drive/Engine.vcl"};
+                                                    "/plan/drive/Engine.vcl"};
   return result != 0 && ranOnce && engine.getCMHeader() == "$Id: 1.2 ada $" ? 0 : 1;
 }

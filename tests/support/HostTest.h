@@ -13,7 +13,7 @@ namespace veldra::test {
 
 using Lines = std::vector<std::string>;
 
-/// A fresh in-memory host with an open project "Plant.vdy" in "/work" whose command-line tool is
+/// A fresh in-memory host with an open project "Plant.vdy" in "/plan" whose command-line tool is
 /// "Tool". Packages and classes are added by the tests.
 class HostTest : public ::testing::Test {
  protected:
@@ -37,7 +37,7 @@ class HostTest : public ::testing::Test {
 
   MemoryHost m_host;
   MemoryModel& m_model = m_host.memoryModel;
-  MemoryProject& m_project = m_model.openProject("/work", "Plant.vdy");
+  MemoryProject& m_project = m_model.openProject("/plan", "Plant.vdy");
 };
 
 }  // namespace veldra::test

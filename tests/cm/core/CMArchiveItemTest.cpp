@@ -81,10 +81,10 @@ TEST_F(CMArchiveItemTest, ShortPathByTheWorkingDirectory) {
   for (const bool provider : {false, true}) {
     if (provider) useProvider();
     set("Repository", provider ? "/arc$SubDirs/RCS/$FileName" : "");
-    EXPECT_EQ(shortPath("/WORK/sub/f.x"), "sub/f.x");
+    EXPECT_EQ(shortPath("/PLAN/sub/f.x"), "sub/f.x");
     EXPECT_EQ(shortPath("/elsewhere/f.x"), "/elsewhere/f.x");
     EXPECT_EQ(shortPath("f.x"), "f.x");
-    EXPECT_EQ(shortPath("/work"), "");
+    EXPECT_EQ(shortPath("/plan"), "");
   }
 }
 
@@ -103,13 +103,13 @@ TEST_F(CMArchiveItemTest, LocalPlaceOfTheFile) {
     const char* localPath;
     const char* fullName;
   };
-  m_project.unitDirectory = "/work/units";
+  m_project.unitDirectory = "/plan/units";
   for (const Row& row :
-       std::vector<Row>{{"sub/f.x", "/work/units/sub", "/work/units/sub/f.x"},
-                        {"f.x", "/work/units", "/work/units/f.x"},
-                        {"/work/units/sub\\f.x", "/work/units/sub", "/work/units/sub/f.x"},
+       std::vector<Row>{{"sub/f.x", "/plan/units/sub", "/plan/units/sub/f.x"},
+                        {"f.x", "/plan/units", "/plan/units/f.x"},
+                        {"/plan/units/sub\\f.x", "/plan/units/sub", "/plan/units/sub/f.x"},
                         // The project's own file lies beside the units, not below them.
-                        {"any/PLANT.vdy", "/work", "/work/PLANT.vdy"}}) {
+                        {"any/PLANT.vdy", "/plan", "/plan/PLANT.vdy"}}) {
     SCOPED_TRACE(row.path);
     EXPECT_EQ(itemOf(row.path).getLocalPath(), row.localPath);
     EXPECT_EQ(itemOf(row.path).getFullUnitFileName(), row.fullName);
@@ -120,7 +120,7 @@ TEST_F(CMArchiveItemTest, LocalPlaceOfTheFile) {
 
 TEST_F(CMArchiveItemTest, ExternalUnitsKeepTheirName) {
   MemoryUnit& unit = m_model.addUnit("sub/f.x");
-  EXPECT_EQ(itemOf("sub/f.x").getFullUnitFileName(), "/work/sub/f.x");
+  EXPECT_EQ(itemOf("sub/f.x").getFullUnitFileName(), "/plan/sub/f.x");
   unit.record.external = true;
   EXPECT_EQ(itemOf("sub/f.x").getFullUnitFileName(), "sub/f.x");
 }
@@ -128,9 +128,9 @@ TEST_F(CMArchiveItemTest, ExternalUnitsKeepTheirName) {
 TEST_F(CMArchiveItemTest, RepositoryFileNames) {
   EXPECT_EQ(itemOf("sub/f.x").getFileNameForRepFiles(), "f.x");
   m_model.fullPathRepFiles = true;
-  EXPECT_EQ(itemOf("sub/f.x").getFileNameForRepFiles(), "/work/sub/f.x");
+  EXPECT_EQ(itemOf("sub/f.x").getFileNameForRepFiles(), "/plan/sub/f.x");
   EXPECT_EQ(itemOf("/arc/f.x").getFileNameForRepFiles(), "/arc/f.x");
-  EXPECT_EQ(itemOf("./f.x").getFileNameForRepFiles(), "/work/./f.x");
+  EXPECT_EQ(itemOf("./f.x").getFileNameForRepFiles(), "/plan/./f.x");
   m_model.setActiveProject(nullptr);
   EXPECT_EQ(itemOf("sub/f.x").getFileNameForRepFiles(), "sub/f.x");
 }

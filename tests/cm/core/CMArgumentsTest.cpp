@@ -194,8 +194,8 @@ TEST_F(CMUnitTest, NoFile) {
 
 TEST_F(CMUnitTest, UnitBelowTheWorkingDirectory) {
   CMUnit unit(&m_model.addUnit("drive/Engine.vcl"));
-  EXPECT_THAT(all(unit), ElementsAre("Engine.vcl", "/work/drive/Engine.vcl", "/work/drive",
-                                     "/drive", "/work/drive/Engine.vcl", "/work/drive"));
+  EXPECT_THAT(all(unit), ElementsAre("Engine.vcl", "/plan/drive/Engine.vcl", "/plan/drive",
+                                     "/drive", "/plan/drive/Engine.vcl", "/plan/drive"));
 }
 
 TEST_F(CMUnitTest, ArchivePlaceFollowsTheRepositoryTemplate) {
@@ -206,9 +206,9 @@ TEST_F(CMUnitTest, ArchivePlaceFollowsTheRepositoryTemplate) {
   };
   MemoryUnit& engine = m_model.addUnit("drive/Engine.vcl");
   for (const Row& row :
-       std::vector<Row>{{"$ArchivePath/x", "/work/drive/Engine.vcl", "$ArchivePath/x"},
+       std::vector<Row>{{"$ArchivePath/x", "/plan/drive/Engine.vcl", "$ArchivePath/x"},
                         {"/arc$SubDirs", "/arc/drive/Engine.vcl", "/arc/drive"},
-                        {"", "/work/drive/Engine.vcl", "/work/drive"},
+                        {"", "/plan/drive/Engine.vcl", "/plan/drive"},
                         {"$archive$SubDirs", "/main/drive/Engine.vcl", "/main/drive"}}) {
     SCOPED_TRACE(row.repository);
     set(IPN::CMArchive, "/main");
@@ -222,7 +222,7 @@ TEST_F(CMUnitTest, ArchivePlaceFollowsTheRepositoryTemplate) {
 TEST_F(CMUnitTest, ArchiveItem) {
   CMArchiveItem item("drive/Engine.vcl", "1.1", CMArchiveItem::ReadOnly, "", "");
   CMUnit unit(&item);
-  EXPECT_THAT(all(unit), ElementsAre("Engine.vcl", "/work/drive/Engine.vcl", "/work/drive",
+  EXPECT_THAT(all(unit), ElementsAre("Engine.vcl", "/plan/drive/Engine.vcl", "/plan/drive",
                                      "/drive", "drive/Engine.vcl", "drive"));
   // The dot is looked for in the whole path first, so a name without one is cut short.
   CMArchiveItem odd("pkg.dir\\unit", "", CMArchiveItem::ReadOnly, "", "");
@@ -235,16 +235,16 @@ TEST_F(CMUnitTest, DirectoryIsRelativeToTheWorkingDirectory) {
     const char* relative;
   };
   MemoryUnit& unit = m_model.addUnit("Engine.vcl");
-  for (const Row& row : std::vector<Row>{{"/work", ""},
-                                         {"/work/a/b", "/a/b"},
+  for (const Row& row : std::vector<Row>{{"/plan", ""},
+                                         {"/plan/a/b", "/a/b"},
                                          {"/elsewhere/a", ""},
-                                         {"/WORK/a", ""},
-                                         {"/work/", ""}}) {
+                                         {"/PLAN/a", ""},
+                                         {"/plan/", ""}}) {
     SCOPED_TRACE(row.directory);
     unit.record.directory = row.directory;
     EXPECT_EQ(CMUnit(&unit).substitute("UnitDirectory"), row.relative);
   }
-  unit.record.directory = "/work/a";
+  unit.record.directory = "/plan/a";
   m_model.setActiveProject(nullptr);
   EXPECT_EQ(CMUnit(&unit).substitute("UnitDirectory"), "");
 }

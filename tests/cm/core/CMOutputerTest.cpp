@@ -33,6 +33,14 @@ TEST_F(CMOutputerTest, MainStreamIsTheWindowAndTheFacadeShowsTheSameSlot) {
   installHost(&m_host);
 }
 
+TEST_F(CMOutputerTest, AWindowThatClosesIsNotWrittenToAnyMore) {
+  EXPECT_EQ(getMainCMOutputer()(), &m_host.manager.window);
+  m_host.manager.hasStream = false;
+  EXPECT_EQ(getMainCMOutputer()(), nullptr);
+  m_host.manager.hasStream = true;
+  EXPECT_EQ(getMainCMOutputer()(), &m_host.manager.window);
+}
+
 TEST_F(CMOutputerTest, LoadingErrorsGoWhereTheSettingSays) {
   struct Row {
     const char* setting;

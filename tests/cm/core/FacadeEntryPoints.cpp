@@ -60,12 +60,12 @@ static std::vector<EntryRow> otherRows() {
        onItems(F::HistoryArcView)},
       {"Uncheckout of items", 9, "tool.uncheckoutItems", "tool.uncheckoutItems", false, false,
        onItems(F::Uncheckout)},
-      {"AddDirectory", 7, "", "provider.addDirectory /work/new", false, false,
-       [](Caller& c) { return F::AddDirectory("/work/new", c.arguments, c.diagnostics); }},
-      {"DeleteDirectory", 13, "tool.deleteDirectory /work/old", "tool.deleteDirectory /work/old",
+      {"AddDirectory", 7, "", "provider.addDirectory /plan/new", false, false,
+       [](Caller& c) { return F::AddDirectory("/plan/new", c.arguments, c.diagnostics); }},
+      {"DeleteDirectory", 13, "tool.deleteDirectory /plan/old", "tool.deleteDirectory /plan/old",
        false, false,
        [](Caller& c) {
-         return F::DeleteDirectory("/work/old", c.arguments, c.diagnostics, true, nullptr);
+         return F::DeleteDirectory("/plan/old", c.arguments, c.diagnostics, true, nullptr);
        }},
       {"movePackageContent", 8, "tool.movePackageContent", "tool.movePackageContent", false, false,
        [](Caller& c) {
@@ -74,7 +74,7 @@ static std::vector<EntryRow> otherRows() {
        }},
       {"RenameMember", 14, "tool.renameMember", "provider.renameMember", false, false,
        [](Caller& c) {
-         return F::RenameMember(nullptr, "/work/a.vcl", "/work/b.vcl", c.diagnostics);
+         return F::RenameMember(nullptr, "/plan/a.vcl", "/plan/b.vcl", c.diagnostics);
        }},
   };
 }

@@ -14,13 +14,13 @@ struct Row {
 };
 
 TEST_F(CMPathMapperTest, SubDirectoriesBelowTheWorkingDirectory) {
-  for (const Row& row : std::vector<Row>{{"/work/a/b/", "a/b"},
-                                         {"  /work/a  ", "a"},
-                                         {"/work//a//", "a"},
-                                         {"/work", ""},
-                                         {"/work/", ""},
+  for (const Row& row : std::vector<Row>{{"/plan/a/b/", "a/b"},
+                                         {"  /plan/a  ", "a"},
+                                         {"/plan//a//", "a"},
+                                         {"/plan", ""},
+                                         {"/plan/", ""},
                                          {"/elsewhere/a", ""},
-                                         {"/WORK/a", ""},
+                                         {"/PLAN/a", ""},
                                          {"", ""}}) {
     EXPECT_EQ(CMPathMapper::getArchiveSubDirFromLocalPath(row.path), row.mapped) << row.path;
   }
@@ -39,19 +39,19 @@ TEST_F(CMPathMapperTest, LocalToArchive) {
     const char* archive;
   };
   for (const Case& row :
-       std::vector<Case>{{"/arc$SubDirs/$FileName", "/work/a/b", "/arc/a/b/$FileName"},
-                         {"$archive$SubDirs", "/work/a", "/main/a"},
-                         {"/arc$SubDirs/RCS", "/work", "/arc/RCS"},
+       std::vector<Case>{{"/arc$SubDirs/$FileName", "/plan/a/b", "/arc/a/b/$FileName"},
+                         {"$archive$SubDirs", "/plan/a", "/main/a"},
+                         {"/arc$SubDirs/RCS", "/plan", "/arc/RCS"},
                          {"/arc$SubDirs/RCS", "/elsewhere/a", "/arc/RCS"},
-                         {"/x$SubDirs/y$SubDirs", "/work/a", "/x/a/y/a"},
-                         {"$ArchivePath$SubDirs", " /work/a ", " /work/a "},
-                         {"", "/work/a", "/work/a"}}) {
+                         {"/x$SubDirs/y$SubDirs", "/plan/a", "/x/a/y/a"},
+                         {"$ArchivePath$SubDirs", " /plan/a ", " /plan/a "},
+                         {"", "/plan/a", "/plan/a"}}) {
     SCOPED_TRACE(row.repository);
     set("Repository", row.repository);
     EXPECT_EQ(CMPathMapper::getArchivePathFromLocalPath(row.local), row.archive);
   }
   unset("Repository");
-  EXPECT_EQ(CMPathMapper::getArchivePathFromLocalPath("/work/a"), "/work/a");
+  EXPECT_EQ(CMPathMapper::getArchivePathFromLocalPath("/plan/a"), "/plan/a");
 }
 
 TEST_F(CMPathMapperTest, ArchiveToLocal) {
@@ -61,14 +61,14 @@ TEST_F(CMPathMapperTest, ArchiveToLocal) {
     const char* local;
   };
   for (const Case& row :
-       std::vector<Case>{{"/arc", "/arc/a/b/", "/work/a/b"},
-                         {"/arc", " /arc/a ", "/work/a"},
-                         {"/arc", "/arc", "/work/"},
+       std::vector<Case>{{"/arc", "/arc/a/b/", "/plan/a/b"},
+                         {"/arc", " /arc/a ", "/plan/a"},
+                         {"/arc", "/arc", "/plan/"},
                          {"/arc", "", ""},
                          {"/arc", "  ", ""},
                          // A path that does not hold the text maps to the text itself.
-                         {"/arc", "/other/a", "/work//arc"},
-                         {"/arc", "/ARC/a", "/work//arc"},
+                         {"/arc", "/other/a", "/plan//arc"},
+                         {"/arc", "/ARC/a", "/plan//arc"},
                          {"$ArchivePath/x", " /arc/a ", "/arc/a"},
                          {"", " /arc/a ", "/arc/a"}}) {
     SCOPED_TRACE(std::string(row.repository) + " " + row.archive);

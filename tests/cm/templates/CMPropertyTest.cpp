@@ -183,13 +183,13 @@ TEST_F(CMPropertyTest, SingleSettings) {
 }
 
 TEST_F(CMPropertyTest, WorkingDirectoryOfOldAndNewProjects) {
-  m_project.unitDirectory = "/work/units";
-  EXPECT_EQ(CMProperty::getWorkingDir(), "/work/units");
+  m_project.unitDirectory = "/plan/units";
+  EXPECT_EQ(CMProperty::getWorkingDir(), "/plan/units");
   set("SupportTreeRepository", "");
   EXPECT_FALSE(CMProperty::isPre40Compatible());
   set("SupportTreeRepository", "Yes");
   EXPECT_TRUE(CMProperty::isPre40Compatible());
-  EXPECT_EQ(CMProperty::getWorkingDir(), "/work");
+  EXPECT_EQ(CMProperty::getWorkingDir(), "/plan");
 }
 
 TEST_F(CMPropertyTest, ArchivesOfUnitsFallBackToTheProject) {

@@ -22,6 +22,13 @@ TEST_F(ExpansionBoundsTest, ACommentThatNamesItself) {
   EXPECT_TRUE(boundNames("$log"));
 }
 
+TEST_F(ExpansionBoundsTest, NothingMakesAPassedBoundGood) {
+  m_log = std::make_unique<CMLog>("$log");
+  EXPECT_EQ(expand("ci -m$log $OMROOT"), 0);
+  EXPECT_EQ(expand("(a?$log)"), 0);
+  EXPECT_EQ(expand("($log?a:b)"), 0);
+}
+
 TEST_F(ExpansionBoundsTest, APropertyThatIsItself) {
   set("A", "$A");
   EXPECT_EQ(expand("$A"), 0);

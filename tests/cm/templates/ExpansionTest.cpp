@@ -24,12 +24,12 @@ TEST_F(ExpansionTest, References) {
            {"-m$log", 1, "-m\"two words\""},
            {"$LABEL ${Label} $lAbEl", 1, "1.3 1.3 1.3"},
            // One keyword begins with the other: each replacement touches its own reference.
-           {"$Unit of $UnitPath", 1, "Engine.vcl of /work/drive/Engine.vcl"},
-           {"$UnitPath of $Unit", 1, "/work/drive/Engine.vcl of Engine.vcl"},
-           {"$unit of $UNITPATH", 1, "Engine.vcl of /work/drive/Engine.vcl"},
-           {"$UNITPATH of $unit", 1, "/work/drive/Engine.vcl of Engine.vcl"},
+           {"$Unit of $UnitPath", 1, "Engine.vcl of /plan/drive/Engine.vcl"},
+           {"$UnitPath of $Unit", 1, "/plan/drive/Engine.vcl of Engine.vcl"},
+           {"$unit of $UNITPATH", 1, "Engine.vcl of /plan/drive/Engine.vcl"},
+           {"$UNITPATH of $unit", 1, "/plan/drive/Engine.vcl of Engine.vcl"},
            {"${Unit}Path", 1, "Engine.vclPath"},
-           {"$UnitDirPath/$UnitDirectory", 1, "/work/drive//drive"},
+           {"$UnitDirPath/$UnitDirectory", 1, "/plan/drive//drive"},
            // Dollar signs that begin no reference.
            {"$", 1, "$"},
            {"$$", 1, "$$"},
@@ -113,7 +113,7 @@ TEST_F(ExpansionTest, PredefinedKeywords) {
                               {"$OMROOT}", 1, "/opt/veldra}"},
                               {"$ProjectName", 1, "Plant.vdy"},
                               {"$currentDirectory", 1, "/start"},
-                              {"$vdrdirectory", 1, "/work"},
+                              {"$vdrdirectory", 1, "/plan"},
                               {"$projectunitdirname", 1, "Plant_units"},
                               {"$temp", 1, "/tmp"}})
     checkRow(row.text, row.result, row.out);

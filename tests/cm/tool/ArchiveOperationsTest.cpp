@@ -187,10 +187,10 @@ TEST_F(CheckOutFromArchiveTest, ALoadedUnitIsReloadedAndANewFileAdded) {
   answer("co", {.output = "answer"});
   EXPECT_EQ(callOnItems<CMCheckOutFromArchive>(), 1);
   EXPECT_THAT(m_host.journal.lines(),
-              ElementsAre("before", "handler-prepare 1 /work/A.vcl", "run co A.vcl",
-                          "handler-complete /work/A.vcl", "reload A.vcl",
-                          "handler-prepare 1 /work/sub/New.vcl", "run co sub/New.vcl",
-                          "handler-complete /work/sub/New.vcl", "add New.vcl at /work/sub",
+              ElementsAre("before", "handler-prepare 1 /plan/A.vcl", "run co A.vcl",
+                          "handler-complete /plan/A.vcl", "reload A.vcl",
+                          "handler-prepare 1 /plan/sub/New.vcl", "run co sub/New.vcl",
+                          "handler-complete /plan/sub/New.vcl", "add New.vcl at /plan/sub",
                           "saved-list New.vcl", "after"));
   EXPECT_THAT(m_host.traceLog.texts(),
               ElementsAre("Executing the following command to check out the file from the archive: "
@@ -207,7 +207,7 @@ TEST_F(CheckOutFromArchiveTest, AUnitOfThatFileElsewhereIsNotReloaded) {
   m_model.addUnit("A.vcl");
   addItem("sub/A.vcl");
   callOnItems<CMCheckOutFromArchive>();
-  EXPECT_THAT(m_host.journal.only({"reload", "add"}), ElementsAre("add A.vcl at /work/sub"));
+  EXPECT_THAT(m_host.journal.only({"reload", "add"}), ElementsAre("add A.vcl at /plan/sub"));
 }
 
 TEST_F(CheckOutFromArchiveTest, FilesOfUnknownTypeAreNotLoaded) {
@@ -221,7 +221,7 @@ TEST_F(CheckOutFromArchiveTest, TheHandlerNamesAModelFile) {
   m_model.unitTypes[".vdr"] = ".VDR";
   addItem("Old.vdr");
   callOnItems<CMCheckOutFromArchive>();
-  EXPECT_THAT(m_host.journal.only({"add"}), ElementsAre("add /work/Old.vdy at /work"));
+  EXPECT_THAT(m_host.journal.only({"add"}), ElementsAre("add /plan/Old.vdy at /plan"));
 }
 
 TEST_F(CheckOutFromArchiveTest, AFileThatCannotBeLoadedIsReported) {
@@ -229,17 +229,17 @@ TEST_F(CheckOutFromArchiveTest, AFileThatCannotBeLoadedIsReported) {
   m_host.reloads.addToModel = Outcome::Lose;
   addItem("sub/New.vcl");
   EXPECT_EQ(callOnItems<CMCheckOutFromArchive>(), 0);
-  EXPECT_THAT(window(), HasSubstr("\nERROR : 47640: /work/sub/New.vcl\n"));
+  EXPECT_THAT(window(), HasSubstr("\nERROR : 47640: /plan/sub/New.vcl\n"));
 }
 
 TEST_F(CheckOutFromArchiveTest, AWritableLoadedFileIsAskedAbout) {
   m_model.addUnit("A.vcl");
-  m_host.files.find("/work/A.vcl")->writable = true;
-  m_host.files.write("/work/New.vcl", "", true);  // Writable too, but no unit is loaded from it.
+  m_host.files.find("/plan/A.vcl")->writable = true;
+  m_host.files.write("/plan/New.vcl", "", true);  // Writable too, but no unit is loaded from it.
   addItem("A.vcl");
   addItem("New.vcl");
   EXPECT_EQ(callOnItems<CMCheckOutFromArchive>(), 1);
-  EXPECT_THAT(m_host.memoryMessages.overwriteQuestions, ElementsAre("953: A.vcl /work/A.vcl"));
+  EXPECT_THAT(m_host.memoryMessages.overwriteQuestions, ElementsAre("953: A.vcl /plan/A.vcl"));
   EXPECT_THAT(commands(), ElementsAre("co New.vcl"));
 }
 
@@ -323,7 +323,7 @@ TEST_F(ConnectTest, AConnectionThatCouldNotRunIsFollowedByNothing) {
   set("PostConnectToCMRepository", "post");
   m_project.unitDirectory = "/gone";
   EXPECT_EQ(connect(), 0);
-  m_project.unitDirectory = "/work";
+  m_project.unitDirectory = "/plan";
   unset(IPN::CMConnectToCMRepository);
   EXPECT_EQ(connect(), 0);
   EXPECT_THAT(commands(), IsEmpty());

@@ -50,14 +50,14 @@ TEST_F(CMAddMemberTest, ControlledFilesMayHaveATemplateOfTheirOwn) {
 
 TEST_F(CMAddMemberTest, OldProjectsAddOnlyWhatLiesInTheWorkingDirectory) {
   set("SupportTreeRepository", "Yes");
-  m_project.record.directory = "/work";
+  m_project.record.directory = "/plan";
   MemoryUnit& outside = m_model.addUnit("sub/Out.vcl");
   MemoryUnit& inside = m_model.addUnit("In.vcl");
   m_units = {&inside, &outside};
   EXPECT_EQ(add(), 1) << "a skipped unit leaves the result of the one before";
   EXPECT_THAT(commands(), ElementsAre("add In.vcl"));
   ASSERT_THAT(m_host.memoryMessages.asked, SizeIs(1));
-  EXPECT_THAT(m_host.memoryMessages.asked[0].text, HasSubstr("949: Out.vcl /work "));
+  EXPECT_THAT(m_host.memoryMessages.asked[0].text, HasSubstr("949: Out.vcl /plan "));
   EXPECT_EQ(m_host.memoryMessages.asked[0].flags, MessageBox::IconWarning);
   EXPECT_THAT(windowLines("949: Out.vcl"), SizeIs(1));
   EXPECT_THAT(m_diagnostics, IsEmpty());
@@ -92,20 +92,20 @@ class AddByDirectoryTest : public CMAddMemberTest {
 
 TEST_F(AddByDirectoryTest, EachDirectoryIsCheckedOutOnceAndBackIn) {
   MemoryUnit& moved = m_model.addUnit("b/Moved.vcl");
-  moved.record.persistAsDirectory = "/work/a";
+  moved.record.persistAsDirectory = "/plan/a";
   m_units = {&m_model.addUnit("a/A.vcl"), &moved};
   EXPECT_EQ(add(), 1);
-  EXPECT_THAT(commands(), ElementsAre("co /work/a", "mk /work/a/A.vcl", "mk /work/b/Moved.vcl",
-                                      "ci -nc /work/a /work/a $unitpath"));
+  EXPECT_THAT(commands(), ElementsAre("co /plan/a", "mk /plan/a/A.vcl", "mk /plan/b/Moved.vcl",
+                                      "ci -nc /plan/a /plan/a $unitpath"));
   EXPECT_THAT(m_host.traceLog.texts(),
-              ElementsAre("Executing the following command to check out the directory: co /work/a",
+              ElementsAre("Executing the following command to check out the directory: co /plan/a",
                           "Check out directory command returned the following: ",
-                          "Executing the following command to add the filemk /work/a/A.vcl",
+                          "Executing the following command to add the filemk /plan/a/A.vcl",
                           "Add member command returned the following: ",
-                          "Executing the following command to add the filemk /work/b/Moved.vcl",
+                          "Executing the following command to add the filemk /plan/b/Moved.vcl",
                           "Add member command returned the following: ",
                           "Executing the following command to check in the directory: "
-                          "ci -nc /work/a /work/a $unitpath",
+                          "ci -nc /plan/a /plan/a $unitpath",
                           "Check in directory command returned the following: "));
 }
 
@@ -119,7 +119,7 @@ TEST_F(AddByDirectoryTest, AFailedCheckOutKeepsTheFilesBackButTheDirectoryIsChec
   set("CheckOut", "");
   m_units = {&m_model.addUnit("a/A.vcl")};
   EXPECT_EQ(add(), 1);
-  EXPECT_THAT(commands(), ElementsAre("ci -nc /work/a /work/a $unitpath"));
+  EXPECT_THAT(commands(), ElementsAre("ci -nc /plan/a /plan/a $unitpath"));
   set("CheckIn", "");
   EXPECT_EQ(add(), 0);
 }

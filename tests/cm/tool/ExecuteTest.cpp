@@ -27,14 +27,14 @@ class ExecuteTest : public ToolTest {
 };
 
 TEST_F(ExecuteTest, RunsInTheWorkingDirectoryAndComesBack) {
-  m_project.unitDirectory = "/work/units";
-  m_host.files.makeDirectory("/work/units");
+  m_project.unitDirectory = "/plan/units";
+  m_host.files.makeDirectory("/plan/units");
   EXPECT_EQ(execute("tool x"), 1);
-  EXPECT_EQ(lastRun().directory, "/work/units");
+  EXPECT_EQ(lastRun().directory, "/plan/units");
   EXPECT_EQ(m_host.memoryEnvironment.currentDirectory, "/start");
   m_project.unitDirectory = "";
   EXPECT_EQ(execute("tool x"), 1);
-  EXPECT_EQ(lastRun().directory, "/work");
+  EXPECT_EQ(lastRun().directory, "/plan");
 }
 
 TEST_F(ExecuteTest, WhereTextGoes) {
@@ -184,7 +184,7 @@ TEST_F(ExecuteTest, DirectoriesThatCannotBeHadOrEntered) {
   EXPECT_EQ(m_host.memoryEnvironment.currentDirectory, "/start");
   EXPECT_THAT(commands(), IsEmpty());
 
-  m_project.unitDirectory = "/work";
+  m_project.unitDirectory = "/plan";
   answer("tool", {.output = "done",
                   .effect = [this] { m_host.memoryEnvironment.unenterableDirectory = "/start"; }});
   EXPECT_EQ(execute("tool"), 0);
@@ -260,7 +260,7 @@ TEST_F(ExecuteTest, AHostWithoutARunnerIsNoSuccess) {
     IProcesses* processes() override { return nullptr; }
   } host;
   host.files.makeDirectory("/start");
-  host.memoryModel.openProject("/work", "Plant.vdy");
+  host.memoryModel.openProject("/plan", "Plant.vdy");
   installHost(&host);
   const int result = execute("tool");
   EXPECT_TRUE(result == 0 || theCMToolShellInterface().lastCommandEnd().failed);

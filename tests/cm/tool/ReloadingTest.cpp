@@ -35,7 +35,7 @@ TEST_F(ReloadingTest, CheckOutAsksBeforeOverwritingAWritableFile) {
     unset("AskOnCheckoutReadWrite");
     if (c.setting != std::string("(missing)")) set("AskOnCheckoutReadWrite", c.setting);
     MemoryUnit& unit = m_model.addUnit("A.vcl");
-    m_host.files.find("/work/A.vcl")->writable = c.writable;
+    m_host.files.find("/plan/A.vcl")->writable = c.writable;
     m_host.memoryMessages.overwriteQuestions.clear();
     m_host.memoryMessages.overwriteAnswers = {c.says};
     m_units = {&unit};
@@ -43,7 +43,7 @@ TEST_F(ReloadingTest, CheckOutAsksBeforeOverwritingAWritableFile) {
     EXPECT_EQ(call("check out"), c.runs ? 1 : 0);
     EXPECT_THAT(commands(), SizeIs(c.runs ? 1 : 0));
     EXPECT_EQ(m_host.memoryMessages.overwriteQuestions,
-              c.asks ? Lines{"953: A.vcl /work/A.vcl"} : Lines{});
+              c.asks ? Lines{"953: A.vcl /plan/A.vcl"} : Lines{});
     EXPECT_THAT(m_units, SizeIs(1)) << "a declined unit stays in the list";
     m_model.destroy(m_units[0]);
   }
@@ -52,10 +52,10 @@ TEST_F(ReloadingTest, CheckOutAsksBeforeOverwritingAWritableFile) {
 TEST_F(ReloadingTest, ADeclinedUnitLeavesTheStatusOfTheOneBefore) {
   CMAskOnCheckoutGuard guard;
   m_units = {&m_model.addUnit("A.vcl"), &m_model.addUnit("B.vcl"), &m_model.addUnit("C.vcl")};
-  for (const char* file : {"/work/B.vcl", "/work/C.vcl"}) m_host.files.find(file)->writable = true;
+  for (const char* file : {"/plan/B.vcl", "/plan/C.vcl"}) m_host.files.find(file)->writable = true;
   m_host.memoryMessages.overwriteAnswers = {"notoall"};
   EXPECT_EQ(call("check out"), 1);
-  EXPECT_THAT(commands(), ElementsAre("do /work/A.vcl"));
+  EXPECT_THAT(commands(), ElementsAre("do /plan/A.vcl"));
   EXPECT_THAT(m_host.memoryMessages.overwriteQuestions, SizeIs(1));
 }
 
@@ -85,7 +85,7 @@ TEST_F(ReloadingTest, AUnitThatAReloadDestroyedIsSkipped) {
     m_units = {&first, second, third};
     forgetEvents();
     EXPECT_EQ(call(name), 1);
-    EXPECT_THAT(commands(), ElementsAre("do /work/A.vcl", "do /work/C.vcl"));
+    EXPECT_THAT(commands(), ElementsAre("do /plan/A.vcl", "do /plan/C.vcl"));
     EXPECT_THAT(m_units, UnorderedElementsAre(&first, third));
     m_model.destroy(&first);
     m_model.destroy(third);
@@ -115,7 +115,7 @@ TEST_F(ReloadingTest, WaysOfReloadingAfterACheckOut) {
            {"same object", 1, true, {"refresh A.vcl"}},
            {"same object wins over reload", 1, false, {"refresh A.vcl"}},
            {"in place", 0, true, {"reload A.vcl"}},
-           {"added again", 0, false, {"add /work/A.vcl at A.vcl", "saved-list A.vcl"}}}) {
+           {"added again", 0, false, {"add /plan/A.vcl at A.vcl", "saved-list A.vcl"}}}) {
     SCOPED_TRACE(c.name);
     m_host.reloads.compareAnswer = c.compare;
     m_host.reloads.canReload = c.canReload;
@@ -152,7 +152,7 @@ TEST_F(ReloadingTest, AUnitThatCannotBeReloadedIsReported) {
     forgetEvents();
     EXPECT_EQ(call(c.name), 0);
     ASSERT_THAT(m_host.memoryMessages.asked, SizeIs(1));
-    EXPECT_EQ(m_host.memoryMessages.asked[0].text, "47640: /work/A.vcl");
+    EXPECT_EQ(m_host.memoryMessages.asked[0].text, "47640: /plan/A.vcl");
     EXPECT_THAT(m_host.journal.only({"header", "mode"}), IsEmpty());
     m_model.destroy(&unit);
   }

@@ -17,8 +17,8 @@ namespace veldra::test {
 
 std::vector<UnitOperationsTest::Row> UnitOperationsTest::rows() {
   using T = UnitOperationsTest;
-  const std::string run = "run do /work/Engine.vcl";
-  const std::string file = "/work/Engine.vcl";
+  const std::string run = "run do /plan/Engine.vcl";
+  const std::string file = "/plan/Engine.vcl";
   const Lines updates{"Updating CM Header for unit " + file, "Updating Mode for unit " + file};
   const std::string reload = "Performing ATM for the file " + file;
   return {
@@ -184,7 +184,7 @@ TEST_F(UnitOperationsTest, BareCommentsDoNotTakeThePlaceOfFiles) {
   m_arguments = {&log};
   m_units = {&m_model.addUnit("A.vcl")};
   call("check in");
-  EXPECT_THAT(commands(), ElementsAre("ci -mwhy /work/A.vcl"));
+  EXPECT_THAT(commands(), ElementsAre("ci -mwhy /plan/A.vcl"));
 }
 
 TEST_F(UnitOperationsTest, TheUnitsArchiveBecomesTheMainOneUnlessTheUserChooses) {
@@ -242,9 +242,9 @@ TEST_F(UnitOperationsTest, FilesWhoseNamesNoCommandCanCarryAreRefusedBeforeAnyRu
     for (const char* name : {"check in", "lock", "fetch"}) {
       forgetEvents();
       EXPECT_EQ(call(name), 1);
-      EXPECT_THAT(commands(), ElementsAre("do /work/A.vcl", "do /work/C d.vcl"));
+      EXPECT_THAT(commands(), ElementsAre("do /plan/A.vcl", "do /plan/C d.vcl"));
       ASSERT_THAT(m_diagnostics, SizeIs(1));
-      EXPECT_THAT(m_diagnostics[0].getMessage(), HasSubstr(std::string("60006: /work/") + bad));
+      EXPECT_THAT(m_diagnostics[0].getMessage(), HasSubstr(std::string("60006: /plan/") + bad));
       EXPECT_EQ(m_diagnostics[0].getStatus(), 0);
     }
     for (IUnit* unit : m_units) m_model.destroy(unit);
@@ -261,7 +261,7 @@ TEST_F(UnitOperationsTest, ProgressTellsPositionAndEndOfEveryUnit) {
   EXPECT_EQ(started[1].operation, "Check In");
   EXPECT_EQ(started[1].position, 2U);
   EXPECT_EQ(started[1].count, 3U);
-  EXPECT_EQ(started[1].unit, "/work/B.vcl");
+  EXPECT_EQ(started[1].unit, "/plan/B.vcl");
   ASSERT_THAT(ended, SizeIs(3));
   EXPECT_EQ(ended[0].end, UnitEnd::Done);
   EXPECT_EQ(ended[1].end, UnitEnd::ToolFailed);
@@ -293,7 +293,7 @@ TEST_F(UnitOperationsTest, AHostWithNothingOptionalDoesNotFall) {
     BareHost() { offersOptionalFacilities = false; }
     IProcesses* processes() override { return &scriptedProcesses; }
   } host;
-  MemoryProject& project = host.memoryModel.openProject("/work", "Plant.vdy");
+  MemoryProject& project = host.memoryModel.openProject("/plan", "Plant.vdy");
   host.files.makeDirectory("/start");
   for (const Row& row : rows())
     project.attachProperty(IPN::CM, IPN::General,
