@@ -2,16 +2,12 @@
 
 #include <algorithm>
 #include <map>
-#include <optional>
 #include <utility>
 #include <vector>
 
 #include "cm/core/TextTools.h"
 #include "cm/host/IEnvironment.h"
-#include "cm/host/IUserMessages.h"
-#include "cm/host/MessageIds.h"
 #include "cm/templates/CMProperty.h"
-#include "cm/tool/CommandText.h"
 #include "cm/tool/ToolFrame.h"
 
 namespace veldra {
@@ -78,15 +74,7 @@ std::vector<Group> groupUnitsByPersistAs(const UnitList& units) {
 UnitList carriable(const UnitList& units, DiagnosticList& diagnostics) {
   UnitList result;
   for (IUnit* unit : units) {
-    if (unit == nullptr) continue;
-    const std::string file = unit->getFullFileName();
-    const std::optional<std::string> reason = unsafeInCommand(file);
-    if (reason) {
-      diagnostics.emplace_back(CMDiagnostic::Failed,
-                               formatMessage(MessageId::UnsafeFileName, {file, *reason}), unit);
-    } else {
-      result.push_back(unit);
-    }
+    if (unit != nullptr && !refuseUnsafeName(*unit, diagnostics)) result.push_back(unit);
   }
   return result;
 }

@@ -1,5 +1,6 @@
 #include "cm/tool/ToolFrame.h"
 
+#include <optional>
 #include <utility>
 
 #include "cm/core/CCMSyncQuestionDlg.h"
@@ -11,6 +12,7 @@
 #include "cm/host/MessageIds.h"
 #include "cm/templates/CMProperty.h"
 #include "cm/tool/CMToolShellInterface.h"
+#include "cm/tool/CommandText.h"
 
 namespace veldra {
 
@@ -72,6 +74,15 @@ bool hasCMTool(CMOperation& operation, DiagnosticList& diagnostics, bool hybrid)
   if (operation.isCMTool(message, nullptr, hybrid) != 0) return true;
   diagnostics.emplace_back(CMDiagnostic::Failed, message, nullptr);
   return false;
+}
+
+bool refuseUnsafeName(const IUnit& unit, DiagnosticList& diagnostics) {
+  const std::string file = unit.getFullFileName();
+  const std::optional<std::string> reason = unsafeInCommand(file);
+  if (!reason) return false;
+  diagnostics.emplace_back(CMDiagnostic::Failed,
+                           formatMessage(MessageId::UnsafeFileName, {file, *reason}), &unit);
+  return true;
 }
 
 void saveModel(SaveRule rule, bool isListEmpty) {

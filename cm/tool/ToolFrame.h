@@ -80,6 +80,9 @@ class UnitProgress {
 /// false.
 bool hasCMTool(CMOperation& operation, DiagnosticList& diagnostics, bool hybrid = false);
 
+/// Refuses a unit whose file name no command can carry: true, and a diagnostic that says why.
+bool refuseUnsafeName(const IUnit& unit, DiagnosticList& diagnostics);
+
 /// Calls the facade's save callback as the rule demands; nothing for an empty list.
 void saveModel(SaveRule rule, bool isListEmpty);
 

@@ -1,16 +1,13 @@
 #include "cm/tool/UnitCommand.h"
 
-#include <optional>
 #include <utility>
 
 #include "cm/core/CMArchive.h"
 #include "cm/core/CMFacade.h"
 #include "cm/core/CMUnit.h"
 #include "cm/host/Host.h"
-#include "cm/host/MessageIds.h"
 #include "cm/templates/CMProperty.h"
 #include "cm/tool/CMToolShellInterface.h"
-#include "cm/tool/CommandText.h"
 
 namespace veldra {
 
@@ -47,12 +44,8 @@ std::unordered_set<const IUnit*> UnitCommand::refused(const UnitList& units,
                                                       DiagnosticList& diagnostics) const {
   std::unordered_set<const IUnit*> result;
   for (const IUnit* unit : units) {
-    if (unit == nullptr) continue;
-    const std::string file = unit->getFullFileName();
-    const std::optional<std::string> reason = unsafeInCommand(file);
-    if (!reason || !result.insert(unit).second) continue;
-    diagnostics.emplace_back(CMDiagnostic::Failed,
-                             formatMessage(MessageId::UnsafeFileName, {file, *reason}), unit);
+    if (unit == nullptr || result.contains(unit)) continue;
+    if (refuseUnsafeName(*unit, diagnostics)) result.insert(unit);
   }
   return result;
 }
