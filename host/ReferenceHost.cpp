@@ -109,6 +109,10 @@ void ReferenceHost::close() {
   m_parts->model.close();
 }
 
+void ReferenceHost::closeForExit() {
+  m_parts->model.leaveToSystem();
+}
+
 Project* ReferenceHost::project() {
   return m_parts->model.project();
 }

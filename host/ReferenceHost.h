@@ -43,6 +43,8 @@ class ReferenceHost : public Host {
   /// Nothing on success; otherwise what is wrong and the way out.
   [[nodiscard]] std::optional<std::string> open(const std::string& directoryOrFile);
   void close();
+  /// The same for a program that ends next, and much faster.
+  void closeForExit();
   /// The open project, or null.
   Project* project();
   PropertyLayers& properties();

@@ -72,6 +72,8 @@ Session::Session(const Invocation& invocation, WindowUse window)
 
 Session::~Session() {
   installHost(nullptr);
+  // A program of one command.
+  m_host.closeForExit();
 }
 
 HostOptions Session::hostOptions() {

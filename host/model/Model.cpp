@@ -1,5 +1,7 @@
 #include "host/model/Model.h"
 
+#include <vector>
+
 #include "host/model/ProjectLoader.h"
 
 namespace veldra::host {
@@ -37,6 +39,12 @@ std::optional<std::string> Model::open(const std::string& directoryOrFile) {
 void Model::close() {
   m_workspace.reset();
   m_project.reset();
+}
+
+void Model::leaveToSystem() {
+  static std::vector<Project*> left;
+  m_workspace.reset();
+  if (m_project) left.push_back(m_project.release());
 }
 
 IUnit* Model::unitByFile(const std::string& fileName) {

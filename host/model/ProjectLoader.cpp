@@ -5,6 +5,7 @@
 #include <system_error>
 #include <utility>
 
+#include "host/model/HeadCache.h"
 #include "host/model/ModelFileHandler.h"
 #include "host/model/PathNames.h"
 #include "host/model/UnitLoader.h"
@@ -78,7 +79,7 @@ std::unique_ptr<Project> loadProject(const std::string& projectFile, PropertyLay
     project->addProblem(problem);
   }
   if (std::optional<Problem> left = leftBehindCopy(projectFile)) project->addProblem(*left);
-  loadUnits(*project);
+  loadUnits(*project, headCacheFile(layers.files().cacheDirectory, projectFile));
   return project;
 }
 

@@ -21,15 +21,22 @@ std::string variable(const char* name) {
   return value ? value : "";
 }
 
-std::string userFile() {
-  if (std::string file = variable("VELDRA_USER"); !file.empty()) return file;
-  std::string configuration = variable("XDG_CONFIG_HOME");
-  if (configuration.empty()) {
+/// The program's own folder below the one that a variable names, or that the user's home has for
+/// it.
+std::string ownFolder(const char* variableName, const char* inHome) {
+  std::string parent = variable(variableName);
+  if (parent.empty()) {
     const std::string home = variable("HOME");
     if (home.empty()) return {};
-    configuration = joinPath(home, ".config");
+    parent = joinPath(home, inHome);
   }
-  return joinPath(joinPath(configuration, "veldra-cm"), "user.toml");
+  return joinPath(parent, "veldra-cm");
+}
+
+std::string userFile() {
+  if (std::string file = variable("VELDRA_USER"); !file.empty()) return file;
+  const std::string folder = ownFolder("XDG_CONFIG_HOME", ".config");
+  return folder.empty() ? folder : joinPath(folder, "user.toml");
 }
 
 std::vector<std::string> packFiles(const std::string& directory) {
@@ -64,6 +71,7 @@ SettingsFiles standardSettingsFiles(const std::string& installationRoot) {
   files.siteFile = variable("VELDRA_SITE");
   if (files.siteFile.empty()) files.siteFile = "/etc/veldra-cm/site.toml";
   files.userFile = userFile();
+  files.cacheDirectory = ownFolder("XDG_CACHE_HOME", ".cache");
   return files;
 }
 

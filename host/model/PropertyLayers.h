@@ -15,16 +15,17 @@
 
 namespace veldra::host {
 
-/// Where the layers above the project come from.
+/// Where the layers above the project come from, and what the user's other files are.
 struct SettingsFiles {
   std::string packDirectory;  ///< Its files "*.toml" are the shipped tool packs.
   std::string siteFile;
   std::string userFile;
+  std::string cacheDirectory;  ///< What lies there only saves time; empty for none.
 };
 
 /// The files for an installation root: its packs; the site's file /etc/veldra-cm/site.toml or
 /// VELDRA_SITE; the user's file veldra-cm/user.toml below XDG_CONFIG_HOME or ~/.config, or
-/// VELDRA_USER.
+/// VELDRA_USER. The caches lie in veldra-cm below XDG_CACHE_HOME or ~/.cache.
 SettingsFiles standardSettingsFiles(const std::string& installationRoot);
 
 /// One property for a listing.

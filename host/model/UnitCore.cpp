@@ -133,10 +133,7 @@ void UnitCore::updateMode(const std::string& mode) {
     m_record.mode = *told;
     return;
   }
-  const FileHead head = readFileHead(fullFileName(), {});
-  m_record.mode = head.state == FileHead::State::Missing ? FileMode::Unknown
-                  : head.ownerMayWrite                   ? FileMode::ReadWrite
-                                                         : FileMode::ReadOnly;
+  m_record.mode = modeOf(readFileFacts(fullFileName()));
 }
 
 bool UnitCore::batchArchive(std::string& archive) const {

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "host/model/CMHeader.h"
+#include "host/model/HeadCache.h"
 #include "host/model/ModelText.h"
 #include "host/model/PathNames.h"
 #include "host/platform/AtomicFile.h"
@@ -18,12 +19,9 @@ namespace {
 constexpr std::size_t HeadSize = 16384;
 static_assert(HeadSize >= HeaderSearchSize);
 
-// Below this number a second thread costs more than it saves.
-constexpr std::size_t WorthAThread = 256;
-
 constexpr char FetchAgain[] = "Fetch the file again from the archive.";
 
-std::optional<Problem> problemOf(const FileHead& head, const std::string& path) {
+std::optional<Problem> problemOf(const FileFacts& head, const std::string& path) {
   switch (head.state) {
     case FileHead::State::Readable:
       return std::nullopt;
@@ -77,14 +75,13 @@ void takeOwnFile(UnitHead& unit, const FileHead& head, const std::string& path) 
 
 UnitHead readWith(const std::string& path, const FileType* type, std::span<char> buffer) {
   UnitHead unit;
-  const bool isOwn = type && type->own;
-  const FileHead head = readFileHead(path, isOwn ? buffer : buffer.first(HeaderSearchSize));
-  unit.identity = head.identity;
-  unit.exists = head.state != FileHead::State::Missing;
+  unit.isOwn = type && type->own;
+  const FileHead head = readFileHead(path, unit.isOwn ? buffer : buffer.first(HeaderSearchSize));
+  unit.facts = head;
   unit.problem = problemOf(head, path);
-  if (unit.exists) unit.mode = head.ownerMayWrite ? FileMode::ReadWrite : FileMode::ReadOnly;
+  unit.mode = modeOf(head);
   if (unit.problem) return unit;
-  if (isOwn) {
+  if (unit.isOwn) {
     takeOwnFile(unit, head, path);
   } else {
     unit.header = keywordLines(head.bytes);
@@ -92,33 +89,43 @@ UnitHead readWith(const std::string& path, const FileType* type, std::span<char>
   return unit;
 }
 
-void readRange(std::span<const HeadRequest> requests, std::span<UnitHead> heads) {
+void readRange(std::span<const HeadRequest> requests, std::span<UnitHead> heads,
+               const HeadCache& cache) {
   std::vector<char> buffer(HeadSize);
   std::string path;
   for (std::size_t at = 0; at < requests.size(); ++at) {
     path.assign(requests[at].directory).append(1, HostSeparator).append(requests[at].fileName);
-    heads[at] = readWith(path, requests[at].type, buffer);
+    const bool isOwn = requests[at].type && requests[at].type->own;
+    const bool known = !cache.isEmpty() && cache.fill(heads[at], readFileFacts(path), isOwn);
+    if (!known) heads[at] = readWith(path, requests[at].type, buffer);
   }
 }
 
 }  // namespace
+
+FileMode modeOf(const FileFacts& facts) {
+  if (facts.state == FileFacts::State::Missing) return FileMode::Unknown;
+  return facts.ownerMayWrite ? FileMode::ReadWrite : FileMode::ReadOnly;
+}
 
 UnitHead readUnitHead(const std::string& path, const FileType* type) {
   std::array<char, HeadSize> buffer;
   return readWith(path, type, buffer);
 }
 
-std::vector<UnitHead> readUnitHeads(const std::vector<HeadRequest>& requests) {
+std::vector<UnitHead> readUnitHeads(const std::vector<HeadRequest>& requests,
+                                    const HeadCache& cache) {
   std::vector<UnitHead> heads(requests.size());
   const std::span<const HeadRequest> all(requests);
   const std::span<UnitHead> answers(heads);
-  if (requests.size() < WorthAThread || std::thread::hardware_concurrency() < 2) {
-    readRange(all, answers);
+  if (requests.size() < ManyHeads || std::thread::hardware_concurrency() < 2) {
+    readRange(all, answers, cache);
     return heads;
   }
   const std::size_t half = requests.size() / 2;
-  std::future<void> first = std::async([&] { readRange(all.first(half), answers.first(half)); });
-  readRange(all.subspan(half), answers.subspan(half));
+  std::future<void> first =
+      std::async([&] { readRange(all.first(half), answers.first(half), cache); });
+  readRange(all.subspan(half), answers.subspan(half), cache);
   first.get();
   return heads;
 }

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "host/model/FolderScan.h"
+#include "host/model/HeadCache.h"
 #include "host/model/PathNames.h"
 
 namespace veldra::host {
@@ -21,7 +22,8 @@ std::size_t depthOf(std::string_view relative) {
 /// Fills a project with the units that its folder, its lists and its references name.
 class UnitLoader {
  public:
-  explicit UnitLoader(Project& project) : m_project(project) {}
+  UnitLoader(Project& project, std::string headCache)
+      : m_project(project), m_headCache(std::move(headCache)) {}
 
   void run() {
     const std::vector<std::string>& controlled = m_project.file().controlled;
@@ -84,7 +86,9 @@ class UnitLoader {
       files.push_back(&file);
       requests.push_back({folders[file.folder]->path, file.name, file.type});
     }
-    std::vector<UnitHead> heads = readUnitHeads(requests);
+    HeadCache cache(requests.size() < ManyHeads ? std::string() : m_headCache);
+    std::vector<UnitHead> heads = readUnitHeads(requests, cache);
+    cache.update(heads);
     dropRepeated(files, heads, folders);
     addFolderByFolder(files, heads, folders);
   }
@@ -95,9 +99,10 @@ class UnitLoader {
     std::vector<bool> repeated(files.size(), false);
     for (const bool links : {false, true}) {
       for (std::size_t at = 0; at < files.size(); ++at) {
-        if (!heads[at].exists || files[at]->isLink != links) continue;
+        if (heads[at].facts.state == FileFacts::State::Missing || files[at]->isLink != links)
+          continue;
         const std::string path = joinPath(folders[files[at]->folder]->path, files[at]->name);
-        const auto [known, isNew] = m_identities.try_emplace(heads[at].identity, path);
+        const auto [known, isNew] = m_identities.try_emplace(heads[at].facts.identity, path);
         if (isNew) continue;
         repeated[at] = true;
         report(path, "It is the same file as " + known->second + ".",
@@ -261,6 +266,7 @@ class UnitLoader {
   };
 
   Project& m_project;
+  std::string m_headCache;
   bool m_everyOther = false;
   std::map<std::string, bool> m_stubs;  ///< By relative name; whether the folder has the file.
   std::map<FileIdentity, std::string, IdentityOrder> m_identities;
@@ -269,8 +275,8 @@ class UnitLoader {
 
 }  // namespace
 
-void loadUnits(Project& project) {
-  UnitLoader(project).run();
+void loadUnits(Project& project, const std::string& headCache) {
+  UnitLoader(project, headCache).run();
 }
 
 UnitRecord recordOf(Folder& folder, std::string fileName, const FileType* type, UnitHead& head) {

@@ -42,6 +42,7 @@ Sandbox::Sandbox() : m_root(newRoot()) {
   m_environment = {{"CM", VELDRA_CM_PROGRAM},
                    {"HOME", path("home")},
                    {"TMPDIR", path("tmp")},
+                   {"XDG_CACHE_HOME", path("home/.cache")},
                    {"XDG_CONFIG_HOME", path("home/.config")},
                    {"XDG_STATE_HOME", path("home/.state")},
                    {"VELDRA_SITE", path("home/site.toml")},

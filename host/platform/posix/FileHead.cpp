@@ -17,16 +17,17 @@ FileHead::State stateOfError(int number) {
   return FileHead::State::Unreadable;
 }
 
-void fail(FileHead& head, int number) {
+void fail(FileFacts& head, int number) {
   head.state = stateOfError(number);
   head.error = systemErrorText(number);
 }
 
-void takeFacts(FileHead& head, const struct stat& facts) {
+void takeFacts(FileFacts& head, const struct stat& facts) {
   head.ownerMayWrite = (facts.st_mode & S_IWUSR) != 0;
   head.size = static_cast<std::uint64_t>(facts.st_size);
   head.identity = {static_cast<std::uint64_t>(facts.st_dev),
                    static_cast<std::uint64_t>(facts.st_ino)};
+  head.changed = std::int64_t{facts.st_ctim.tv_sec} * 1'000'000'000 + facts.st_ctim.tv_nsec;
   head.state = S_ISREG(facts.st_mode) ? FileHead::State::Readable : FileHead::State::NotAFile;
 }
 
@@ -57,6 +58,17 @@ void readOpenFile(FileHead& head, int file, std::span<char> buffer) {
 }
 
 }  // namespace
+
+FileFacts readFileFacts(const std::string& path) {
+  FileFacts result;
+  struct stat facts {};
+  if (::stat(path.c_str(), &facts) == 0) {
+    takeFacts(result, facts);
+  } else {
+    fail(result, errno);
+  }
+  return result;
+}
 
 FileHead readFileHead(const std::string& path, std::span<char> buffer) {
   FileHead head;

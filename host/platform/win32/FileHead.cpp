@@ -9,7 +9,7 @@
 namespace veldra::host {
 namespace {
 
-void fail(FileHead& head, DWORD number) {
+void fail(FileFacts& head, DWORD number) {
   if (number == ERROR_FILE_NOT_FOUND || number == ERROR_PATH_NOT_FOUND) {
     head.state = FileHead::State::Missing;
   } else if (number == ERROR_ACCESS_DENIED) {
@@ -35,6 +35,10 @@ void readOpenFile(FileHead& head, HANDLE file, std::span<char> buffer) {
 }
 
 }  // namespace
+
+FileFacts readFileFacts(const std::string& path) {
+  return readFileHead(path, {});
+}
 
 FileHead readFileHead(const std::string& path, std::span<char> buffer) {
   FileHead head;
