@@ -8,8 +8,8 @@ namespace {
 class PlannedRun : public RunThread {
  public:
   std::uint32_t getStatus(std::uint32_t /*timeout*/) override { return 0; }
-  const LineList& errorLines() const override { return m_nothing; }
-  const LineList& outputLines() const override { return m_nothing; }
+  LineList& errorLines() override { return m_nothing; }
+  LineList& outputLines() override { return m_nothing; }
   ProcessEnd end() const override { return ProcessEnd::Exited; }
   int endCode() const override { return 0; }
 

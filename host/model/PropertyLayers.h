@@ -20,7 +20,7 @@ struct SettingsFiles {
   std::string packDirectory;  ///< Its files "*.toml" are the shipped tool packs.
   std::string siteFile;
   std::string userFile;
-  std::string cacheDirectory;  ///< What lies there only saves time; empty for none.
+  std::string cacheDirectory{};  ///< What lies there only saves time; empty for none.
 };
 
 /// The files for an installation root: its packs; the site's file /etc/veldra-cm/site.toml or
