@@ -1,5 +1,6 @@
 #include "tests/live/Tool.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <sstream>
 
@@ -96,6 +97,41 @@ class Rcs : public Tool {
   }
 };
 
+class Git : public Tool {
+ public:
+  using Tool::Tool;
+
+  std::set<std::string> files() const override {
+    std::istringstream names(git({"ls-tree", "-r", "-z", "--name-only", "HEAD"}));
+    std::set<std::string> result;
+    for (std::string name; std::getline(names, name, '\0');) result.insert(name);
+    return result;
+  }
+
+  std::string newestText(const std::string& file) const override {
+    return git({"cat-file", "blob", "HEAD:" + file});
+  }
+
+  std::string newestComment(const std::string& file) const override {
+    std::string commit = git({"rev-list", "-1", "HEAD", "--", file});
+    if (!commit.empty()) commit.pop_back();
+    const std::string text = git({"cat-file", "commit", commit});
+    return text.substr(std::min(text.size(), text.find("\n\n") + 2));
+  }
+
+  std::string holder(const std::string& /*file*/) const override { return {}; }
+
+  void makeWorkingCopy(const std::string& /*from*/, const std::string& to) const override {
+    outputOf({"git", "clone", "-q", archive(), sandbox().path(to)});
+  }
+
+ private:
+  std::string git(std::vector<std::string> arguments) const {
+    arguments.insert(arguments.begin(), {"git", "--literal-pathspecs", "-C", archive()});
+    return outputOf(arguments);
+  }
+};
+
 }  // namespace
 
 std::string Tool::outputOf(const std::vector<std::string>& command) const {
@@ -104,10 +140,12 @@ std::string Tool::outputOf(const std::vector<std::string>& command) const {
 
 std::unique_ptr<Tool> makeTool(const std::string& pack, const Sandbox& sandbox) {
   if (pack == "RCS") return std::make_unique<Rcs>(sandbox, "archive");
+  if (pack == "Git") return std::make_unique<Git>(sandbox, "archive");
   return std::make_unique<Subversion>(sandbox, "archive");
 }
 
 std::string programOf(const std::string& pack) {
+  if (pack == "Git") return "git";
   return pack == "RCS" ? "rlog" : "svn";
 }
 

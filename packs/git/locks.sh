@@ -1,0 +1,38 @@
+# Sourced by the helpers that lock. Git itself has no locks; LFS has them where the server offers
+# them, which connect.sh has found out. Elsewhere a file is just made writable.
+
+has_locks() {
+  [ "$(git config --type=bool veldra.locks || :)" = true ]
+}
+
+# holders: a line a lock: path from the top of the repository, tab, holder.
+holders() {
+  git lfs locks --json </dev/null |
+    sed 's/},{"id"/}\n{"id"/g' |
+    sed -n 's/.*"path":"\(\([^"\\]\|\\.\)*\)".*"owner":{"name":"\([^"]*\)".*/\1\t\3/p'
+}
+
+# take_locks UNITS
+take_locks() {
+  has_locks || return 0
+  each "$1" | tr '\000' '\n' | while read -r file; do
+    run git lfs lock -- "$file" && continue
+    top=$(git rev-parse --show-prefix)
+    holder=$(holders | awk -F '\t' -v path="$top$(below "$file")" '$1 == path { print $2 }')
+    [ "$holder" != "$(git config user.name)" ] || continue
+    [ -z "$holder" ] || fail "'$file' is locked by '$holder'."
+    give_up
+  done
+}
+
+# give_locks UNITS: a file that nobody has locked is fine.
+give_locks() {
+  has_locks || return 0
+  each "$1" | tr '\000' '\n' | while read -r file; do
+    run git lfs unlock -- "$file" && continue
+    case $answer in
+      *'no matching locks found'* | *'Unable to get lock ID'*) ;;
+      *) give_up ;;
+    esac
+  done
+}
