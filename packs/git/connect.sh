@@ -8,11 +8,6 @@ archive=$1
 cd -- "$2"
 here=$(pwd -P)
 
-# real PLACE: a local place without links; an address stays.
-real() {
-  (cd -- "$1" 2>/dev/null && pwd -P) || printf '%s\n' "$1"
-}
-
 # is_clone_of ARCHIVE
 is_clone_of() {
   top=$(git rev-parse --show-toplevel 2>/dev/null) || return

@@ -9,25 +9,19 @@ units=$1 wanted=${2:-}
 content_of() {
   case $(git cat-file -t "$wanted" 2>/dev/null) in
     blob) git rev-parse -q --verify "$wanted" ;;
-    commit | tag) git rev-parse -q --verify "$wanted:./$(below "$1")" ||
+    commit | tag) git rev-parse -q --verify "$wanted:./$(relative "$1")" ||
       fail "'$1' is not in '$wanted'." ;;
     *) fail "There is no label or revision '$wanted' in the archive." ;;
   esac
 }
 
-# replace FILE: puts the wanted content in its place in one step.
-replace() {
+# fetch_label FILE
+fetch_label() {
   object=$(content_of "$1") || exit
   if [ -e "$1" ] && ! is_archived "$1"; then
     fail "'$1' has local changes; check it in, or undo them first."
   fi
-  mkdir -p "${1%/*}"
-  new=$(mktemp "${1%/*}/.veldra-fetch-XXXXXX")
-  git cat-file --filters --path="$(below "$1")" "$object" >"$new" && chmod 444 "$new" &&
-    mv -f -- "$new" "$1" || {
-    rm -f "$new"
-    exit 1
-  }
+  replace "$1" git cat-file --filters --path="$(relative "$1")" "$object"
 }
 
 open_repository
@@ -38,5 +32,5 @@ if [ -z "$wanted" ]; then
   restore "$units"
 else
   [ -z "$remote" ] || run git fetch -q --tags "$remote" || give_up
-  each "$units" | tr '\000' '\n' | while read -r file; do replace "$file"; done
+  lines "$units" | while read -r unit; do fetch_label "$unit"; done
 fi

@@ -15,10 +15,10 @@ holders() {
 # take_locks UNITS
 take_locks() {
   has_locks || return 0
-  each "$1" | tr '\000' '\n' | while read -r file; do
+  lines "$1" | while read -r file; do
     run git lfs lock -- "$file" && continue
     top=$(git rev-parse --show-prefix)
-    holder=$(holders | awk -F '\t' -v path="$top$(below "$file")" '$1 == path { print $2 }')
+    holder=$(holders | awk -F '\t' -v path="$top$(relative "$file")" '$1 == path { print $2 }')
     [ "$holder" != "$(git config user.name)" ] || continue
     [ -z "$holder" ] || fail "'$file' is locked by '$holder'."
     give_up
@@ -28,7 +28,7 @@ take_locks() {
 # give_locks UNITS: a file that nobody has locked is fine.
 give_locks() {
   has_locks || return 0
-  each "$1" | tr '\000' '\n' | while read -r file; do
+  lines "$1" | while read -r file; do
     run git lfs unlock -- "$file" && continue
     case $answer in
       *'no matching locks found'* | *'Unable to get lock ID'*) ;;

@@ -1,4 +1,21 @@
 # Sourced by the helpers that bring a folder up to date.
+. "${0%/*}/../shared/newest.sh"
+
+content() {
+  git show "$1:./$2"
+}
+
+merge_texts() {
+  git merge-file -q -p "$@"
+}
+
+arriving() {
+  git diff --relative --name-only --no-renames -z HEAD "$tip"
+}
+
+changed() {
+  git diff --relative --name-only --no-renames -z HEAD
+}
 
 # settle: brings what is missing, and makes read-only what has the content of the archive. Files that
 # lie there already are kept as they are.
@@ -10,7 +27,7 @@ settle() {
 }
 
 # bring_newest: moves the whole folder on to $tip. Local changes are merged in, or everything stays
-# as it is. Files keep the mode that they had; new ones are read-only.
+# as it is.
 bring_newest() {
   is_behind || return 0
   if ! git rev-parse -q --verify HEAD >/dev/null; then
@@ -21,35 +38,14 @@ bring_newest() {
   git merge-base --is-ancestor HEAD "$tip" ||
     fail "This folder has commits that the archive lacks, and the archive has newer ones. \
 Bring both together with git rebase or git merge."
-  work=$(mktemp -d)
-  trap 'rm -rf "$work"' EXIT
-  git diff --relative --name-only --no-renames -z HEAD "$tip" >"$work/arriving"
-  git diff --relative --name-only --no-renames -z HEAD >"$work/changed"
-  cat "$work/arriving" "$work/changed" >"$work/touched"
-  writable <"$work/touched" >"$work/writable"
-  stash=--no-autostash
-  changed_on_both_sides || stash=--autostash
-  name_user >"$work/note"
+  base=HEAD
+  begin_update
+  # A stash is a commit, so that nothing is lost even when this is interrupted.
+  name_user >/dev/null
+  stash=--autostash
+  [ -s "$work/both" ] || stash=--no-autostash
   run git merge -q --ff-only "$stash" "$tip" || give_up
-  xargs -0 -r chmod -f a-w -- <"$work/touched" || :
-  xargs -0 -r chmod -f u+w -- <"$work/writable" || :
-}
-
-# changed_on_both_sides: true when no file is. Fails when one is and cannot be merged.
-changed_on_both_sides() {
-  sort -z "$work/arriving" >"$work/arriving.sorted"
-  sort -z "$work/changed" | comm -z -12 - "$work/arriving.sorted" >"$work/both"
-  [ -s "$work/both" ] || return 0
-  # No name that the module knows has a line end.
-  tr '\000' '\n' <"$work/both" >"$work/both.lines"
-  while read -r file; do
-    git show "HEAD:./$file" >"$work/base" 2>/dev/null &&
-      git show "$tip:./$file" >"$work/theirs" 2>/dev/null &&
-      git merge-file -q -p "./$file" "$work/base" "$work/theirs" >/dev/null 2>&1 ||
-      fail "'$file' has changes here and in the archive that cannot be merged. Nothing is fetched. \
-Keep a copy of the file, undo it, fetch, and make the changes again."
-  done <"$work/both.lines"
-  return 1
+  end_update
 }
 
 # restore UNITS: brings back files that are missing, and read-only ones with an older content of the
