@@ -27,5 +27,7 @@ inline constexpr int PatternGivenUp = 60008;        ///< Pattern.
 inline constexpr int CommentNotWritten = 60009;     ///< Directory.
 inline constexpr int NoProcessRunner = 60010;
 inline constexpr int InternalError = 60011;  ///< Operation, what happened.
+inline constexpr int NoMoveTarget = 60020;
+inline constexpr int NoNewName = 60021;
 
 }  // namespace veldra::MessageId

@@ -34,6 +34,7 @@ TEST(MessageCatalogue, hasAClearTextForEveryNumberWithItsValues) {
                           49488, 49494, 49762, 49763, 49764, 49765, 49982, 50055};
   for (int id = 48318; id <= 48359; ++id) ids.push_back(id);
   for (int id = 60001; id <= 60011; ++id) ids.push_back(id);
+  ids.insert(ids.end(), {60020, 60021});
   constexpr int EmptyTrailer = 48351;
   for (const int id : ids) {
     const std::string text = catalogue.text(id);
