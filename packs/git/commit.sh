@@ -2,6 +2,8 @@
 
 moved_on="The archive has newer commits than this folder. Fetch first, then do it again."
 
+unsaved="A file has local changes; check it in, or undo them first."
+
 # begin_commit: refuses what would fail in the end. Sets $old, the commit to go back to.
 begin_commit() {
   open_repository

@@ -19,9 +19,23 @@ take_locks() {
     run git lfs lock -- "$file" && continue
     top=$(git rev-parse --show-prefix)
     holder=$(holders | awk -F '\t' -v path="$top$(relative "$file")" '$1 == path { print $2 }')
-    [ "$holder" != "$(git config user.name)" ] || continue
+    [ "$holder" != "$(git config user.name || login)" ] || continue
     [ -z "$holder" ] || fail "'$file' is locked by '$holder'."
     give_up
+  done
+}
+
+# refuse_locked UNITS: fails when somebody else has locked one of them, or something below it.
+refuse_locked() {
+  has_locks || return 0
+  me=$(git config user.name || login)
+  top=$(git rev-parse --show-prefix)
+  holders | grep -v "	$me\$" | while IFS='	' read -r path holder; do
+    relative "$1" | while read -r unit; do
+      case $path in
+        "$top$unit" | "$top$unit"/*) fail "'$path' is locked by '$holder'." ;;
+      esac
+    done
   done
 }
 

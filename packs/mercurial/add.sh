@@ -10,7 +10,9 @@ present=$(on "$units" files 2>/dev/null || :)
 [ -z "$present" ] || fail "'${present%%"$newline"*}' is in the archive already."
 run on "$units" add -q || give_up
 commit "$units" "$comment" || {
-  on "$units" forget -q
+  reason=$answer
+  take_back
+  answer=$reason
   give_up
 }
 publish

@@ -35,20 +35,30 @@ commit() {
   return $result
 }
 
-# publish: brings new commits and the label to the archive, or takes them back; the files stay as
-# they are.
-publish() {
-  tag_and_push && return
-  rejection=$answer
+# take_back: undoes what has been committed and scheduled; the files stay as they are.
+take_back() {
   [ "$(hg log -r . -T '{node}')" = "$base" ] ||
     hg --config extensions.strip= strip -q --keep --no-backup -r "children($base) and ::."
-  answer=$rejection
+  hg debugrebuilddirstate
+}
+
+refuse_push() {
   case $answer in
     *'new remote head'*) fail "$moved_on" ;;
     *) give_up ;;
   esac
 }
 
+# publish: as `tag_and_push`; takes the commits back when that fails.
+publish() {
+  tag_and_push && return
+  reason=$answer
+  take_back
+  answer=$reason
+  refuse_push
+}
+
+# tag_and_push: brings new commits and the label to the archive.
 tag_and_push() {
   [ -z "$label" ] || run hg tag -q -f -m "Label $label" -- "$label" || return
   [ -n "$remote" ] || return 0
