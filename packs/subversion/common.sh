@@ -56,14 +56,58 @@ give_up() {
   exit 1
 }
 
-# svn_commit ENCODING COMMENTFILE TARGET...
+# read_options [--label=LABEL] [COMMENTFILE]: sets $label and $comment.
+read_options() {
+  label=
+  case ${1:-} in
+    --label=*)
+      label=${1#--label=}
+      shift
+      ;;
+  esac
+  comment=${1:-}
+  # Where keywords are not replaced, the comment's stands for none.
+  [ -f "$comment" ] || comment=
+}
+
+# name_targets UNITS: sets $targets to a file with the paths as svn wants them, a line a path. UNITS is
+# the path of one file, or "@" and the path of a list. $work goes with the helper.
+name_targets() {
+  work=$(mktemp -d) || exit
+  trap 'rm -rf "$work"' EXIT
+  targets=$work/targets
+  case $1 in
+    @*) sed 's/$/@/' "${1#@}" ;;
+    *) printf '%s@\n' "$1" ;;
+  esac >"$targets"
+}
+
+# held: those of $targets that this folder holds a lock of; the sixth column of a status tells.
+held() {
+  tr '\n' '\000' <"$targets" | xargs -0 svn --non-interactive status --depth empty -- |
+    sed -n 's/^.....K. \(.*\)/\1@/p'
+}
+
+# give_locks: those that this folder holds. One that somebody has broken is no failure.
+give_locks() {
+  held >"$work/held"
+  [ -s "$work/held" ] || return 0
+  run svn unlock --targets "$work/held" && return
+  case $answer in
+    # svn has forgotten the broken lock by now.
+    *W160040:* | *E200009:*W160040:*) answer='A lock had been broken by somebody else.' ;;
+    *) return 1 ;;
+  esac
+}
+
+# svn_commit ENCODING COMMENTFILE OPTION...
 svn_commit() {
   encoding=$1 file=$2
   shift 2
-  svn commit --depth empty --force-log --encoding "$encoding" --file "$file" -- "$@"
+  svn commit --force-log --encoding "$encoding" --file "$file" "$@"
 }
 
-# commit COMMENTFILE TARGET...: as `run`; an empty COMMENTFILE stands for no comment.
+# commit COMMENTFILE OPTION...: as `run`; an empty COMMENTFILE stands for no comment.
 #
 # A comment in the repository is UTF-8 with single line feeds. One that is not is refused, so the
 # second try makes it so: any line end becomes a line feed, and bytes that are no UTF-8 are read as
