@@ -3,26 +3,15 @@
 # "plain" for those whose bytes stay.
 . "${0%/*}/common.sh"
 . "${0%/*}/commit.sh"
+. "${0%/*}/folders.sh"
 
 kind=$1 units=$2
 shift 2
 read_options "$@"
 
-# add_folder DIRECTORY
-add_folder() {
-  [ ! -d "$1/CVS" ] || return 0
-  add_folder "$(dirname -- "$1")"
-  (cd -- "$(dirname -- "$1")" && command cvs -f -Q add -- "${1##*/}")
-}
-
 # Bytes that look like a keyword may be anything in a binary file.
 binary() {
   relative "$units" | tr '\n' '\000' | LC_ALL=C xargs -0 grep -L -I -e '' -- || :
-}
-
-# schedule OPTION: adds the files of the input.
-schedule() {
-  tr '\n' '\000' | xargs -0 -r cvs -f -Q add "$1" --
 }
 
 # An added file that is not committed is no longer scheduled; the file stays.
@@ -39,12 +28,10 @@ relative "$units" | while read -r file; do
   ! entries "$(dirname -- "$file")" | grep -q -F "/${file##*/}/" ||
     fail "'$file' is in the archive already."
 done
-relative "$units" | sed -n 's|/[^/]*$||p' | sort -u | while read -r folder; do
-  add_folder "$folder"
-done
+relative "$units" | add_folders
 [ "$kind" = text ] && binary >"$work/plain" || relative "$units" >"$work/plain"
 {
-  relative "$units" | grep -v -x -F -f "$work/plain" | schedule -kkv && schedule -kb <"$work/plain" &&
+  relative "$units" | grep -v -x -F -f "$work/plain" | add_files -kkv && add_files -kb <"$work/plain" &&
     commit "$units" "$comment"
 } || {
   take_back

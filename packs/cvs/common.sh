@@ -76,19 +76,25 @@ bring_newest() {
   show
 }
 
+# other_editor UNITS: a file and who edits it beside the user, with a tab between; for the first one.
+other_editor() {
+  on "$1" editors -- 2>/dev/null | awk -F '\t' -v me="$(login)" '
+    $1 != "" { file = $1 }
+    $2 != me && !told { print file FS $2; told = 1 }'
+}
+
+# refuse_edited UNITS
+refuse_edited() {
+  other=$(other_editor "$1")
+  [ -z "$other" ] || fail "'${other%%"	"*}' is being edited by '${other#*"	"}'."
+}
+
 # take UNITS: registers the user as editor, which makes the files writable, unless there is another.
 take() {
   run on "$1" edit -c -- && return
-  me=$(login)
-  other=$(on "$1" editors -- | awk -F '\t' -v me="$me" '
-    $1 != "" { file = $1 }
-    $2 != me { print file FS $2; exit }')
-  [ -n "$other" ] || {
-    # The user holds it already, perhaps from another folder.
-    on "$1" edit -f --
-    return
-  }
-  fail "'${other%%"	"*}' is being edited by '${other#*"	"}'."
+  refuse_edited "$1"
+  # The user edits it already, perhaps in another folder.
+  on "$1" edit -f --
 }
 
 # give UNITS: takes the user from the editors; what has been changed goes back to what it was when it
