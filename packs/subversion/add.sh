@@ -41,7 +41,7 @@ add_and_commit() {
     [ -s "$work/binary" ]; then
     svn propdel --quiet svn:keywords --targets "$work/binary" || exit
   fi
-  commit "$comment" --depth empty --targets "$work/new" && return
+  commit "$comment" --targets "$work/new" && return
   reason=$answer
   # The files stay.
   svn revert --quiet --recursive --targets "$work/new"

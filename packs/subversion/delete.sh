@@ -1,15 +1,13 @@
-# delete.sh UNITS|DIRECTORY [COMMENTFILE]: takes files, or all below a directory, out of the archive and
-# of this folder. Changed files are refused.
+# delete.sh PATH [COMMENTFILE]: removes a file, or a directory with everything in it, from the
+# archive. What is changed, or not in the archive, is never removed.
 . "${0%/*}/common.sh"
+. "${0%/*}/tree.sh"
 
-name_targets "$1"
-shift
-read_options "$@"
-# Directories follow at their newest revision only.
-tr '\n' '\000' <"$targets" | xargs -0 svn --non-interactive update --quiet -- || exit
-svn delete --quiet --targets "$targets" || exit
-commit "$comment" --targets "$targets" && show && exit
-reason=$answer
-svn revert --quiet --recursive --targets "$targets"
-answer=$reason
+target=$1@ comment=$2
+
+[ ! -d "$1" ] || make_current "$1"
+svn delete --quiet -- "$target" || exit
+depth=infinity
+commit "$comment" -- "$target" && show && exit
+svn revert --quiet --recursive -- "$target"
 give_up
