@@ -21,7 +21,7 @@ fi
 
 run svn lock --targets "$targets" && show && exit
 # Of several files some may be locked now.
-printf '%s\n' "$answer" | sed -n "s/^'\(.*\)' locked by user '.*'\.\$/done: \1/p" >"$work/done"
+held | sed 's/^/done: /; s/@$//' >"$work/done"
 case $answer in
   # The working copy is behind the archive, or does not have the file yet.
   *W160042:* | *E160042:* | *E155010:* | *E155007:*)
