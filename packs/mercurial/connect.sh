@@ -41,7 +41,8 @@ settings="paths.default=$(hg config paths.default || :)"
 open_repository
 receive || give_up
 case $base in
-  *[!0]*) ;;
+  *[!0]*) [ -e "$top/.hg/veldra-connected" ] || set_modes ;;
   *) [ -z "$tip" ] || settle ;;
 esac
+: >"$top/.hg/veldra-connected"
 printf 'Archive Path: %s\n' "$archive"

@@ -17,11 +17,14 @@ changed() {
   hg status -mn0 -- "$PWD"
 }
 
-# settle: brings what is missing, and makes read-only what has the content of the archive. Files that
-# lie there already are kept as they are.
+# settle: takes $tip for the state of a folder without one. Files that lie there already are kept.
 settle() {
-  hg debugsetparents "$tip" && hg debugrebuilddirstate && bring_missing || return
-  hg files -0 | xargs -0 -r chmod -f a-w -- || :
+  hg debugsetparents "$tip" && hg debugrebuilddirstate && bring_missing && set_modes
+}
+
+# set_modes: what has the content of the archive becomes read-only.
+set_modes() {
+  hg files -0 -- "$PWD" 2>/dev/null | xargs -0 -r chmod -f a-w -- || :
   changed | xargs -0 -r chmod -f u+w -- || :
 }
 
