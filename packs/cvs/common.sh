@@ -91,9 +91,11 @@ refuse_edited() {
 
 # take UNITS: registers the user as editor, which makes the files writable, unless there is another.
 take() {
-  run on "$1" edit -c -- && return
   refuse_edited "$1"
-  # The user edits it already, perhaps in another folder.
+  # cvs is content when it could serve the last of several files.
+  run on "$1" edit -c -- && [ "${answer#*existing editors}" = "$answer" ] && return
+  # Somebody else was quicker, or the user edits it already, perhaps in another folder.
+  refuse_edited "$1"
   on "$1" edit -f --
 }
 

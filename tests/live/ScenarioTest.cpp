@@ -40,7 +40,9 @@ class ScenarioTest : public testing::TestWithParam<const char*> {
     std::cout << std::endl;
   }
 
-  void done(const char* step) { m_done += (m_done.empty() ? "" : ", ") + std::string(step); }
+  void done(const char* step) {
+    if (!HasFailure()) m_done += (m_done.empty() ? "" : ", ") + std::string(step);
+  }
 
   /// Leaves a step out for a reason that lies in the tool; true when it is.
   bool leftOut(const char* step, const char* reason) {
@@ -163,8 +165,8 @@ void ScenarioTest::locks() {
   EXPECT_TRUE(m_job.isWritable(Unit));
   if (!leftOut("lock, and unlock by another", tool().traits().noLocks)) {
     EXPECT_EQ(tool().holder(Unit), "alice");
-    tool().makeWorkingCopy(tool().archive(), "second");
     m_job.become("bob", "second");
+    tool().makeWorkingCopy(tool().archive(), "second");
     m_job.cm({"connect"});
     const Ended refused = m_job.tryCm({"checkout", Unit, "Milk/Milk.vpkg"});
     EXPECT_EQ(refused.code, 1) << refused.err;

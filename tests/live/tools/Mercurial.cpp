@@ -40,7 +40,7 @@ class Mercurial : public Tool {
   }
 
   std::string newestComment(const std::string& file) const override {
-    return hg({"log", "-l", "1", "-T", "{desc}", "path:" + file});
+    return hg({"log", "-r", "last(file('path:" + file + "'))", "-T", "{desc}"});
   }
 
   std::string kept(const std::string& comment) const override {
