@@ -6,7 +6,7 @@ name_targets "$1"
 shift
 read_options "$@"
 check_label
-commit "$comment" --targets "$targets" || give_up
+commit "$comment" --targets "$targets" || refuse_commit
 show
 # A commit leaves the lock of what it has not sent.
 answer=

@@ -22,6 +22,16 @@ svn() {
   command svn --non-interactive "$@"
 }
 
+# refuse_commit: as `give_up`, with the reason first where svn tells it late.
+refuse_commit() {
+  case $answer in
+    *E155011:* | *E160028:* | *E160024:*)
+      answer="subversion: The archive has a newer revision. Fetch first, then do it again.$newline$answer"
+      ;;
+  esac
+  give_up
+}
+
 # absolute_path PATH
 absolute_path() {
   case $1 in

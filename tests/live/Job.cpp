@@ -30,7 +30,7 @@ Ended Job::tryCm(std::vector<std::string> arguments, const std::string& input) {
 
 Ended Job::cm(std::vector<std::string> arguments, const std::string& input) {
   Ended ended = tryCm(arguments, input);
-  EXPECT_EQ(ended.code, 0) << testing::PrintToString(arguments) << ended.err;
+  EXPECT_EQ(ended.code, 0) << testing::PrintToString(arguments) << ended.err.substr(0, 2000);
   return ended;
 }
 

@@ -16,7 +16,7 @@ class Subversion : public Tool {
                                        .noLocks = nullptr,
                                        .noKeywords = nullptr,
                                        .noTrail = nullptr,
-                                       .outOfDate = "out of date"};
+                                       .outOfDate = "Fetch first"};
     return traits;
   }
 
