@@ -10,7 +10,10 @@
 #include "host/platform/FaultGuard.h"
 #include "host/platform/PatternEngine.h"
 #include "host/platform/Processes.h"
+#include "host/platform/Secrets.h"
 #include "host/platform/TraceLog.h"
+#include "host/resources/MessageNumbers.h"
+#include "host/trust/GuardedProcesses.h"
 
 namespace veldra::host {
 namespace {
@@ -71,11 +74,26 @@ struct ReferenceHost::Parts {
         undo(model),
         trace(options.traceLog),
         progress(options.progress),
-        givenProcesses(options.processes) {
+        trustedCommands(layers, trustFileBeside(layers.files().userFile)),
+        onlyPlans(options.onlyPlans),
+        guarded(options.processes ? *options.processes : processes,
+                [this](const std::string& command) { return objectionTo(command); }) {
     processes.setChildEnvironment(options.childEnvironment);
     if (!trace.error().empty()) {
       problems.push_back({options.traceLog, trace.error(), "No trace log is written."});
     }
+  }
+
+  std::string adviceForTrust() {
+    const Project* open = model.project();
+    return catalogue.format(MessageNumber::CommandsNotTrusted,
+                            {open ? open->getFullFileName() : std::string()});
+  }
+  std::optional<std::string> objectionTo(const std::string& command) {
+    if (onlyPlans) return std::nullopt;
+    if (!trustedCommands.isTrusted()) return adviceForTrust();
+    if (holdsSecret(command)) return catalogue.text(MessageNumber::PasswordInCommand);
+    return std::nullopt;
   }
 
   Problems problems;
@@ -93,7 +111,9 @@ struct ReferenceHost::Parts {
   FaultGuard faultGuard;
   QuickReload quickReload;
   IProgress* progress;
-  IProcesses* givenProcesses;
+  CommandTrust trustedCommands;
+  bool onlyPlans;
+  GuardedProcesses guarded;
 };
 
 ReferenceHost::ReferenceHost(const HostOptions& options)
@@ -130,6 +150,14 @@ const std::string& ReferenceHost::installationRoot() const {
   return m_parts->root;
 }
 
+CommandTrust& ReferenceHost::trust() {
+  return m_parts->trustedCommands;
+}
+
+std::string ReferenceHost::trustAdvice() {
+  return m_parts->adviceForTrust();
+}
+
 void ReferenceHost::requestCancel() noexcept {
   m_parts->processes.requestCancel();
 }
@@ -148,7 +176,7 @@ IPatternEngine& ReferenceHost::patterns() {
 }
 
 IProcesses* ReferenceHost::processes() {
-  return m_parts->givenProcesses ? m_parts->givenProcesses : &m_parts->processes;
+  return &m_parts->guarded;
 }
 
 IAbstractCMManager* ReferenceHost::cmManager() {

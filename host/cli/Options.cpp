@@ -45,6 +45,9 @@ std::span<const OptionRow> optionTable() {
 
       {Pack, "action", "list|show", "What to do", &Options::action, true},
       {Pack, "name", "NAME", "The pack", &Options::key},
+
+      {Trust, "--list", "", "Show the commands and do nothing", &Options::list},
+      {Trust, "--yes", "", "Trust them without a question", &Options::yes},
   };
   return rows;
 }

@@ -38,6 +38,9 @@ struct Options {
   std::optional<std::string> key;
   std::optional<std::string> value;
   bool forUser = false;
+
+  bool list = false;
+  bool yes = false;
 };
 
 /// Sets of options; a command takes one or several of them.
@@ -53,6 +56,7 @@ inline constexpr unsigned Archive = 0x80;
 inline constexpr unsigned Expansion = 0x100;
 inline constexpr unsigned Property = 0x200;
 inline constexpr unsigned Pack = 0x400;
+inline constexpr unsigned Trust = 0x800;
 }  // namespace OptionSet
 
 /// One option or positional argument.

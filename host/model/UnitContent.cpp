@@ -142,6 +142,11 @@ IProperty* UnitCore::findProperty(const PropertyKeyView& key, bool localOnly) {
   for (UnitCore* unit = this; unit && unit != &m_project; unit = unit->m_owner) {
     if (!unit->m_propertiesRead) unit->readOwnProperties();
     Property* found = unit->m_properties ? unit->m_properties->find(key) : nullptr;
+    // What was set since is the user's own.
+    if (found && !found->source().empty()) {
+      m_project.properties().noteUnitProperty(
+          {std::string(key.subject), std::string(key.metaclass), std::string(key.name)}, *found);
+    }
     if (found || localOnly) return found;
   }
   return localOnly ? m_project.properties().findIn(Origin::Project, key)

@@ -39,7 +39,11 @@ void takeFromArchive(const std::vector<UnitRecord>& files, std::vector<UnitRecor
 ExitCode runStatus(const Invocation& invocation) {
   Console& console = invocation.console;
   Session session(invocation);
-  session.openProject();
+  if (invocation.options.update) {
+    session.openProject();
+  } else {
+    session.openToLook();
+  }
   Report report{.command = invocation.command.name, .units = describeWorkspace()};
   if (invocation.options.update) {
     const ArchiveContent content = listArchive(session);
