@@ -1,5 +1,6 @@
 #include "host/ReferenceHost.h"
 
+#include <charconv>
 #include <utility>
 
 #include "host/UserMessages.h"
@@ -56,6 +57,20 @@ PropertyLayers loadedLayers(const HostOptions& options, const std::string& root,
   return layers;
 }
 
+/// A whole number of the section "General", or what holds without it.
+std::uint64_t numberOf(const PropertyLayers& layers, const char* name, std::uint64_t otherwise) {
+  const std::string text = layers.setting("General", name).value_or("");
+  std::uint64_t number = otherwise;
+  std::from_chars(text.data(), text.data() + text.size(), number);
+  return number;
+}
+
+KeptLimits keptLimits(const PropertyLayers& layers) {
+  const KeptLimits standard;
+  return {numberOf(layers, "KeptCopiesMegabytes", standard.bytes >> 20U) << 20U,
+          static_cast<unsigned>(numberOf(layers, "KeptCopiesDays", standard.days))};
+}
+
 }  // namespace
 
 struct ReferenceHost::Parts {
@@ -75,6 +90,12 @@ struct ReferenceHost::Parts {
         trace(options.traceLog),
         progress(options.progress),
         trustedCommands(layers, trustFileBeside(layers.files().userFile)),
+        kept(
+            [this] {
+              const Project* open = model.project();
+              return open ? open->getProjectDirectory() : std::string();
+            },
+            keptLimits(layers)),
         onlyPlans(options.onlyPlans),
         guarded(options.processes ? *options.processes : processes,
                 [this](const std::string& command) { return objectionTo(command); }) {
@@ -112,6 +133,7 @@ struct ReferenceHost::Parts {
   QuickReload quickReload;
   IProgress* progress;
   CommandTrust trustedCommands;
+  KeptCopies kept;
   bool onlyPlans;
   GuardedProcesses guarded;
 };
@@ -154,6 +176,10 @@ CommandTrust& ReferenceHost::trust() {
   return m_parts->trustedCommands;
 }
 
+KeptCopies& ReferenceHost::kept() {
+  return m_parts->kept;
+}
+
 std::string ReferenceHost::trustAdvice() {
   return m_parts->adviceForTrust();
 }
@@ -193,6 +219,9 @@ CSignal2Exception* ReferenceHost::faultGuard() {
 }
 IProgress* ReferenceHost::progress() {
   return m_parts->progress;
+}
+IKeptCopies* ReferenceHost::keptCopies() {
+  return m_parts->onlyPlans ? nullptr : &m_parts->kept;
 }
 QuickATMFacade* ReferenceHost::quickReload() {
   return &m_parts->quickReload;

@@ -8,6 +8,7 @@
 
 #include "cm/host/Host.h"
 #include "host/UserDoor.h"
+#include "host/kept/KeptCopies.h"
 #include "host/model/Problem.h"
 #include "host/model/Project.h"
 #include "host/model/PropertyLayers.h"
@@ -57,6 +58,8 @@ class ReferenceHost : public Host {
   /// What the open project brings to be run, and whether the user has trusted it. As long as he has
   /// not, `processes` starts nothing and says so.
   CommandTrust& trust();
+  /// The copies of files of the open project that commands have overwritten.
+  KeptCopies& kept();
   /// The sentence for commands that are not trusted, with the way out.
   std::string trustAdvice();
   /// Ends the running child process and lets no other start; may be called from a signal handler.
@@ -74,6 +77,7 @@ class ReferenceHost : public Host {
   LogTrace* trace() override;
   CSignal2Exception* faultGuard() override;
   IProgress* progress() override;
+  IKeptCopies* keptCopies() override;
   QuickATMFacade* quickReload() override;
   std::unique_ptr<ATMFacade> createATMFacade(IUnit* owner) override;
   std::unique_ptr<ATMFacade> createATMFacade(const std::string& directory) override;

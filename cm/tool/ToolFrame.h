@@ -8,6 +8,7 @@
 #include "cm/core/CMOperation.h"
 #include "cm/host/CMVDYHandler.h"
 #include "cm/host/IProgress.h"
+#include "cm/tool/KeptCopy.h"
 
 namespace veldra {
 
@@ -23,8 +24,9 @@ struct OperationRow {
   SaveRule save = SaveRule::Never;
   bool tracksUnits = false;  ///< Brackets the batch with the reload callbacks and validates units.
   bool asksOverwrite = false;
-  bool choosesArchive = false;  ///< Makes the unit's archive the main one.
-  int handlerKind = 0;          ///< Of `CMVDYHandler::Kind`; 0 without a handler.
+  bool choosesArchive = false;         ///< Makes the unit's archive the main one.
+  KeepRule keeps = KeepRule::Nothing;  ///< What it may overwrite.
+  int handlerKind = 0;                 ///< Of `CMVDYHandler::Kind`; 0 without a handler.
 };
 
 /// An argument on the end of a list, for as long as this lives.

@@ -104,6 +104,11 @@ void UnitCommand::runUnit(UnitRun& run, ArgumentList& arguments, UnitProgress& p
     progress.endsAs(UnitEnd::Refused);
     return;
   }
+  const KeptCopy kept(row().keeps, run.unit->getFullFileName(), row().name);
+  if (!kept.objection().empty()) {
+    progress.endsAs(UnitEnd::Refused, kept.objection());
+    return;
+  }
   CMUnit argument(run.unit);
   const PushedArgument pushed(arguments, argument);
 

@@ -45,6 +45,7 @@ ExitCode runHistory(const Invocation& invocation);
 ExitCode runProperty(const Invocation& invocation);
 ExitCode runExpand(const Invocation& invocation);
 ExitCode runPack(const Invocation& invocation);
+ExitCode runKept(const Invocation& invocation);
 ExitCode runTrust(const Invocation& invocation);
 
 }  // namespace veldra::host::cli

@@ -17,8 +17,10 @@ std::span<const OptionRow> optionTable() {
       {Comment, "-m,--message", "TEXT", "The comment", &Options::message},
       {Comment, "-F,--file", "FILE", "A file that holds the comment; - is the standard input",
        &Options::messageFile},
+      {Comment, "--last-comment", "", "Take the comment of the last command that failed",
+       &Options::lastComment},
       {Label, "-l,--label", "LABEL", "A revision or label of the tool", &Options::label},
-      {Overwrite, "--force", "", "Overwrite writable files without asking", &Options::force},
+      {Overwrite | Kept, "--force", "", "Overwrite without asking", &Options::force},
       {Update, "-u,--update", "", "Ask the archive for versions and for who holds what",
        &Options::update},
 
@@ -45,6 +47,10 @@ std::span<const OptionRow> optionTable() {
 
       {Pack, "action", "list|show", "What to do", &Options::action, true},
       {Pack, "name", "NAME", "The pack", &Options::key},
+
+      {Kept, "action", "list|show|restore", "What to do", &Options::action, true},
+      {Kept, "copy", "COPY", "The copy by its name, or a file, whose newest copy is meant",
+       &Options::key},
 
       {Trust, "--list", "", "Show the commands and do nothing", &Options::list},
       {Trust, "--yes", "", "Trust them without a question", &Options::yes},

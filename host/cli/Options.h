@@ -19,6 +19,7 @@ struct Options {
   bool all = false;
   std::optional<std::string> message;
   std::optional<std::string> messageFile;
+  bool lastComment = false;
   std::string label;
   bool force = false;
   bool update = false;
@@ -57,6 +58,7 @@ inline constexpr unsigned Expansion = 0x100;
 inline constexpr unsigned Property = 0x200;
 inline constexpr unsigned Pack = 0x400;
 inline constexpr unsigned Trust = 0x800;
+inline constexpr unsigned Kept = 0x1000;
 }  // namespace OptionSet
 
 /// One option or positional argument.

@@ -181,9 +181,10 @@ void print(const Report& report, const UnitOperation& operation, const Invocatio
 
 ExitCode runUnitOperation(const Invocation& invocation, const UnitOperation& operation) {
   checkUsage(invocation.options);
-  const std::string comment = readComment(invocation.options, invocation.console.in);
+  std::string comment = readComment(invocation.options, invocation.console.in);
   Session session(invocation, operation.outputIsResult ? WindowUse::Result : WindowUse::Quiet);
   session.openProject();
+  if ((invocation.command.options & OptionSet::Comment) != 0) offerLastComment(session, comment);
   checkComment(comment);
   UnitBatch batch(session, operation, comment);
   batch.select();
@@ -196,7 +197,9 @@ ExitCode runUnitOperation(const Invocation& invocation, const UnitOperation& ope
     invocation.console.err << "There is no unit to " << operation.action << ".\n";
     return ExitCode::AllDone;
   }
-  return wasInterrupted() ? ExitCode::Interrupted : exitCodeOf(report.units);
+  const ExitCode code = wasInterrupted() ? ExitCode::Interrupted : exitCodeOf(report.units);
+  keepComment(session, comment, code);
+  return code;
 }
 
 }  // namespace veldra::host::cli

@@ -6,7 +6,6 @@ namespace veldra::host::MessageNumber {
 
 inline constexpr int CommandsNotTrusted = 60100;  ///< Project file.
 inline constexpr int PasswordInCommand = 60101;
-inline constexpr int CopyNotKept = 60102;  ///< File, reason.
 
 // What to do about the known failures of tools; see `KnownFailures`.
 inline constexpr int ToolMissing = 60110;

@@ -1,5 +1,7 @@
 #include "host/platform/Program.h"
 
+#include <errno.h>
+#include <signal.h>
 #include <stdlib.h>
 #include <unistd.h>
 
@@ -19,6 +21,14 @@ bool isTerminal(StandardStream stream) {
 
 void setVariable(const char* name, const char* value) {
   setenv(name, value, 1);
+}
+
+long processNumber() {
+  return getpid();
+}
+
+bool isProcessAlive(long number) {
+  return kill(static_cast<pid_t>(number), 0) == 0 || errno != ESRCH;
 }
 
 }  // namespace veldra::host
