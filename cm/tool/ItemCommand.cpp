@@ -45,6 +45,12 @@ bool mayOverwrite(const CMArchiveItem& item, const OverwriteQuestion& question) 
 
 }  // namespace
 
+void completeHandler(const ItemRun& run) {
+  if (run.handler != nullptr && !theCMToolShellInterface().lastCommandEnd().failed) {
+    run.handler->complete();
+  }
+}
+
 void ItemCommand::after(ItemRun& /*run*/) const {}
 
 int ItemCommand::operator()(CMArchiveItemList& items, ArgumentList& arguments,

@@ -2,17 +2,9 @@
 # that are not yet. KIND is "text" for a file whose keywords are expanded, "plain" for one whose
 # bytes stay.
 . "${0%/*}/common.sh"
+. "${0%/*}/schedule.sh"
 
 kind=$1 target=$2 comment=$3
-properties='svn:needs-lock=*'
-[ "$kind" = plain ] || properties="$properties;svn:keywords=Id Revision"
-
-# One line a path that is new, the path from column 11 on. Properties come with the add: setting
-# them by commands of their own would double the number of processes.
-schedule() {
-  svn add --force --parents --config-option config:miscellany:enable-auto-props=yes \
-    --config-option "config:auto-props:*=$properties" -- "$target"
-}
 
 # The same lines for what an interrupted add left behind.
 scheduled_before() {
@@ -28,7 +20,7 @@ IFS='
 '
 # add_and_commit: as `commit`; after a failure nothing is left scheduled.
 add_and_commit() {
-  added=$(schedule) || exit
+  added=$(schedule "$kind" -- "$target") || exit
   [ -n "$added" ] || added=$(scheduled_before)
   [ -n "$added" ] || fail "'${target%@}' is in the archive already."
   set --
@@ -37,7 +29,7 @@ add_and_commit() {
     # Bytes that look like a keyword may be anything in a binary file.
     text*'A  (bin)'*) svn propdel --quiet svn:keywords -- "$target" || exit ;;
   esac
-  commit "$comment" "$@" && return
+  commit "$comment" -- "$@" && return
   new_directories=$(($# - 1))
   # From the topmost new directory down; the files stay.
   svn revert --quiet --recursive -- "$1"

@@ -2,7 +2,7 @@
 . "${0%/*}/common.sh"
 
 target=$1
-commit "$2" "$target" || give_up
+commit "$2" -- "$target" || give_up
 if [ -n "$answer" ]; then
   show
   exit

@@ -6,6 +6,9 @@ LC_ALL=C.UTF-8
 LANGUAGE=
 export LC_ALL LANGUAGE
 
+newline='
+'
+
 fail() {
   printf 'subversion: %s\n' "$1" >&2
   exit 1
@@ -56,20 +59,23 @@ give_up() {
   exit 1
 }
 
-# svn_commit ENCODING COMMENTFILE TARGET...
+# svn_commit ENCODING COMMENTFILE TARGET...: the targets as svn takes them, "-- FILE@..." or
+# "--targets LIST".
 svn_commit() {
   encoding=$1 file=$2
   shift 2
-  svn commit --depth empty --force-log --encoding "$encoding" --file "$file" -- "$@"
+  svn commit --depth "${depth:-empty}" --force-log --encoding "$encoding" --file "$file" "$@"
 }
 
-# commit COMMENTFILE TARGET...: as `run`; an empty COMMENTFILE stands for no comment.
+# commit COMMENTFILE TARGET...: as `run`; a COMMENTFILE that is no file stands for no comment.
+# $depth is how far it goes down from each target, just the target itself without it.
 #
 # A comment in the repository is UTF-8 with single line feeds. One that is not is refused, so the
 # second try makes it so: any line end becomes a line feed, and bytes that are no UTF-8 are read as
 # ISO 8859-1, which gives every byte a character of the same number.
 commit() {
-  message=${1:-/dev/null}
+  message=$1
+  [ -f "$message" ] || message=/dev/null
   shift
   run svn_commit UTF-8 "$message" "$@" && return
   case $answer in

@@ -36,8 +36,8 @@ TEST(MessageCatalogue, hasAClearTextForEveryNumberWithItsValues) {
   for (int id = 48318; id <= 48359; ++id) ids.push_back(id);
   for (int id = 60001; id <= 60011; ++id) ids.push_back(id);
   for (int id = 60100; id <= 60101; ++id) ids.push_back(id);
-  ids.push_back(60030);
   for (int id = 60110; id <= 60122; ++id) ids.push_back(id);
+  ids.insert(ids.end(), {60020, 60021, 60030});
   constexpr int EmptyTrailer = 48351;
   for (const int id : ids) {
     const std::string text = catalogue.text(id);
