@@ -12,6 +12,7 @@
 #include "host/platform/PatternEngine.h"
 #include "host/platform/Processes.h"
 #include "host/platform/Secrets.h"
+#include "host/platform/StaleFiles.h"
 #include "host/platform/TraceLog.h"
 #include "host/resources/MessageNumbers.h"
 #include "host/trust/GuardedProcesses.h"
@@ -100,6 +101,7 @@ struct ReferenceHost::Parts {
         guarded(options.processes ? *options.processes : processes,
                 [this](const std::string& command) { return objectionTo(command); }) {
     processes.setChildEnvironment(options.childEnvironment);
+    removeStaleTempFiles(environment.omGetTempDir());
     if (!trace.error().empty()) {
       problems.push_back({options.traceLog, trace.error(), "No trace log is written."});
     }

@@ -19,7 +19,7 @@ std::span<const Command> commandTable() {
       {"history", "Show the revisions of units", Units | Label, runHistory},
       {"property", "Show and change settings", Property, runProperty},
       {"expand", "Show what a command template becomes", Expansion, runExpand},
-      {"pack", "Show the tool packs", Pack, runPack},
+      {"pack", "Show the tool packs, and check them", Pack, runPack},
       {"kept", "Show and restore copies of files that commands have overwritten", Kept, runKept},
       {"trust", "Show the commands that the project brings, and trust them", Trust, runTrust},
   };

@@ -45,8 +45,8 @@ std::span<const OptionRow> optionTable() {
       {Property, "value", "VALUE", "The new value", &Options::value},
       {Property, "--user", "", "Store it for the user instead of the project", &Options::forUser},
 
-      {Pack, "action", "list|show", "What to do", &Options::action, true},
-      {Pack, "name", "NAME", "The pack", &Options::key},
+      {Pack, "action", "list|show|check", "What to do", &Options::action, true},
+      {Pack, "name", "NAME", "The pack; for check also a file that ends with .toml", &Options::key},
 
       {Kept, "action", "list|show|restore", "What to do", &Options::action, true},
       {Kept, "copy", "COPY", "The copy by its name, or a file, whose newest copy is meant",

@@ -35,6 +35,7 @@ struct UnitRecord {
   std::string version{};
   std::string mode{};  ///< "RO", "RW" or "U" for unknown.
   std::string locker{};
+  std::string state{};  ///< Where it stands, in words; empty where nobody asked.
   UnitResult result = UnitResult::Done;
   std::string message{};
   UnitPlan plan{};

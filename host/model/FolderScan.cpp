@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "host/model/PathNames.h"
+#include "host/platform/AtomicFile.h"
 #include "host/platform/FolderList.h"
 
 namespace veldra::host {
@@ -33,6 +34,12 @@ bool isRecordFolder(const std::string& name) {
 bool isRecordFile(const std::string& name) {
   return name.starts_with(WorkingFilePrefix) || name.ends_with(",v") || name == ".git" ||
          name == ".svn";
+}
+
+/// A file that is being written, or that a killed program left half written.
+bool isTemporary(const Entry& entry) {
+  return !entry.isFolder && entry.name.starts_with(WorkingFilePrefix) &&
+         entry.name.ends_with(".tmp");
 }
 
 class Walk {
@@ -62,6 +69,7 @@ class Walk {
       m_scan.folders.pop_back();
       return;
     }
+    if (std::ranges::any_of(entries, isTemporary)) removeStaleTemporaries(pathOf(relative));
     for (const Entry& entry : entries) {
       if (!entry.isFolder) addFile(folder, relative, entry);
     }

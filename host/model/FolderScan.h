@@ -32,6 +32,8 @@ inline constexpr int MaximumFolderDepth = 64;
 
 /// Walks a folder for unit files, and for all other files when `otherFiles` is set.
 ///
+/// Half-written files of a program that was killed are removed on the way.
+///
 /// Left out without a word: hidden folders and those in which CM tools keep their own records, and
 /// Veldra's own working files. Reported and left out: links to folders, links that lead out of the
 /// root, folders that cannot be read, folders nested too deep, and folders that are projects of

@@ -5,7 +5,7 @@
 . "${0%/*}/schedule.sh"
 
 kind=$1 list=$2 comment=$3
-work=$(mktemp -d) || exit
+work=$(mktemp -d "${TMPDIR:-/tmp}/veldra-cm-$$-XXXXXX") || exit
 trap 'rm -rf "$work"' EXIT
 
 # Takes back what is scheduled; the reason is printed already.

@@ -3,7 +3,7 @@
 . "${0%/*}/common.sh"
 
 list=$1 comment=$2
-work=$(mktemp -d) || exit
+work=$(mktemp -d "${TMPDIR:-/tmp}/veldra-cm-$$-XXXXXX") || exit
 trap 'rm -rf "$work"' EXIT
 
 sed 's/$/@/' "$list" >"$work/targets"

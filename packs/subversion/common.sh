@@ -18,8 +18,39 @@ for program in svn svnadmin; do
   command -v "$program" >/dev/null || fail "The program '$program' is not installed or not in PATH."
 done
 
+# in_use WORKINGCOPY: whether some process has its records open, so that it is not ours to repair.
+in_use() {
+  for open in /proc/[0-9]*/fd/*; do
+    case $(readlink "$open" 2>/dev/null) in
+      "$1"/.svn/*) return 0 ;;
+    esac
+  done
+  return 1
+}
+
+# repair: makes good what a killed svn left behind. True when it is worth another try.
+repair() {
+  [ -d /proc/self/fd ] || return
+  top=$(command svn info --non-interactive --show-item wc-root --no-newline . 2>/dev/null) || return
+  ! in_use "$top" && command svn cleanup --non-interactive "$top" >/dev/null 2>&1
+}
+
+# svn ARGUMENT...: a former command may have been killed in the middle; then its records are put in
+# order, and the same is tried once more. What svn complains about is kept aside for that.
 svn() {
-  command svn --non-interactive "$@"
+  { complaint=$(command svn --non-interactive "$@" 2>&1 >&3 3>&-); } 3>&1
+  svn_end=$?
+  case $svn_end$complaint in
+    0*) ;;
+    *E155004:* | *E155037:* | *E155009:*)
+      if repair; then
+        command svn --non-interactive "$@"
+        return
+      fi
+      ;;
+  esac
+  [ -z "$complaint" ] || printf '%s\n' "$complaint" >&2
+  return "$svn_end"
 }
 
 # absolute_path PATH
@@ -43,6 +74,11 @@ archive_url() {
         sed 's/%/%25/g; s/#/%23/g; s/?/%3F/g; s/ /%20/g; s/\$/%24/g; s/(/%28/g; s/)/%29/g'
       ;;
   esac
+}
+
+# temporary_file: makes one; when this script is killed, the next run of the program removes it.
+temporary_file() {
+  mktemp "${TMPDIR:-/tmp}/veldra-cm-$$-XXXXXX"
 }
 
 # run COMMAND...: keeps all that it prints in $answer, so that the caller can look before it shows.
@@ -84,7 +120,7 @@ commit() {
   esac
   encoding=UTF-8
   iconv -f UTF-8 -t UTF-8 "$message" >/dev/null 2>&1 || encoding=ISO-8859-1
-  clean=$(mktemp) || return
+  clean=$(temporary_file) || return
   LC_ALL=C sed "s/$(printf '\r')\$//" "$message" | LC_ALL=C tr '\r' '\n' >"$clean"
   run svn_commit "$encoding" "$clean" "$@"
   result=$?

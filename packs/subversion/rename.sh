@@ -6,7 +6,7 @@
 old=$1 new=$2 comment=$3
 
 [ ! -e "$new" ] || fail "'$new' exists already."
-kept=$(mktemp -d) || exit
+kept=$(mktemp -d "${TMPDIR:-/tmp}/veldra-cm-$$-XXXXXX") || exit
 trap 'rm -rf "$kept"' EXIT
 cp -p -- "$old" "$kept/file" || exit
 

@@ -5,6 +5,9 @@
 #include <stdlib.h>
 #include <unistd.h>
 
+#include <fstream>
+#include <string>
+
 namespace veldra::host {
 
 bool isTerminal(StandardStream stream) {
@@ -28,7 +31,13 @@ long processNumber() {
 }
 
 bool isProcessAlive(long number) {
-  return kill(static_cast<pid_t>(number), 0) == 0 || errno != ESRCH;
+  if (kill(static_cast<pid_t>(number), 0) != 0) return errno != ESRCH;
+  // One that has ended keeps its number until its parent asks; some containers never do.
+  std::ifstream status("/proc/" + std::to_string(number) + "/stat");
+  std::string line;
+  std::getline(status, line);
+  const std::size_t name = line.rfind(')');
+  return name == std::string::npos || line.compare(name, 3, ") Z") != 0;
 }
 
 }  // namespace veldra::host
