@@ -17,6 +17,7 @@ struct Options {
 
   std::vector<std::string> units;
   bool all = false;
+  bool recursive = false;
   std::optional<std::string> message;
   std::optional<std::string> messageFile;
   std::string label;
@@ -53,6 +54,9 @@ inline constexpr unsigned Archive = 0x80;
 inline constexpr unsigned Expansion = 0x100;
 inline constexpr unsigned Property = 0x200;
 inline constexpr unsigned Pack = 0x400;
+inline constexpr unsigned Recursive = 0x10000;
+inline constexpr unsigned NamedUnits = 0x20000;  ///< Units that have to be named one by one.
+inline constexpr unsigned NewName = 0x40000;
 }  // namespace OptionSet
 
 /// One option or positional argument.
