@@ -28,6 +28,10 @@ void BatchProgress::unitEnded(const ProgressStep& /*step*/, UnitEnd end, const s
   m_isInUnit = false;
   m_current.end = end;
   m_current.words = withoutSecrets(words);
+  // One command has done several units before their turns.
+  if (m_current.commands.empty() && end == UnitEnd::Done && !m_otherCommands.empty()) {
+    m_current.commands.push_back(m_otherCommands.back());
+  }
   m_current.output = m_window.take();
   m_traces.push_back(std::move(m_current));
   if (m_listener) m_listener(m_traces.back());

@@ -14,6 +14,10 @@ std::span<const OptionRow> optionTable() {
 
       {Units, "units", "UNIT", "Files, or names such as Package::Unit", &Options::units},
       {Units, "--all", "", "Every unit that the command can apply to", &Options::all},
+      {Recursive, "-r,--recursive", "", "Take what is in packages, too", &Options::recursive},
+      {NamedUnits, "units", "UNIT", "Files, or names such as Package::Unit", &Options::units, true},
+      {NewName, "unit", "UNIT", "A file, or a name such as Package::Unit", &Options::unit, true},
+      {NewName, "name", "NEWNAME", "Its new name", &Options::name, true},
       {Comment, "-m,--message", "TEXT", "The comment", &Options::message},
       {Comment, "-F,--file", "FILE", "A file that holds the comment; - is the standard input",
        &Options::messageFile},

@@ -17,6 +17,7 @@ struct Options {
 
   std::vector<std::string> units;
   bool all = false;
+  bool recursive = false;
   std::optional<std::string> message;
   std::optional<std::string> messageFile;
   bool lastComment = false;
@@ -59,6 +60,9 @@ inline constexpr unsigned Property = 0x200;
 inline constexpr unsigned Pack = 0x400;
 inline constexpr unsigned Trust = 0x800;
 inline constexpr unsigned Kept = 0x1000;
+inline constexpr unsigned Recursive = 0x10000;
+inline constexpr unsigned NamedUnits = 0x20000;  ///< Units that have to be named one by one.
+inline constexpr unsigned NewName = 0x40000;
 }  // namespace OptionSet
 
 /// One option or positional argument.

@@ -125,6 +125,7 @@ std::vector<std::string> plannedArguments(const std::string& command) {
   Result<std::vector<std::string>> split = splitCommandLine(command);
   std::vector<std::string> arguments = split ? *split : std::vector<std::string>{command};
   std::ranges::replace(arguments, std::string(PlannedCommentFile), std::string("<comment>"));
+  std::ranges::replace(arguments, std::string(PlannedUnitList), std::string("<units>"));
   return arguments;
 }
 

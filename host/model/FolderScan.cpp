@@ -25,11 +25,6 @@ struct Entry {
   bool operator<(const Entry& other) const { return name < other.name; }
 };
 
-bool isRecordFolder(const std::string& name) {
-  return name.starts_with('.') ||
-         std::find(RecordFolders.begin(), RecordFolders.end(), name) != RecordFolders.end();
-}
-
 /// Files that belong to a CM tool or to Veldra itself.
 bool isRecordFile(const std::string& name) {
   return name.starts_with(WorkingFilePrefix) || name.ends_with(",v") || name == ".git" ||
@@ -174,6 +169,11 @@ class Walk {
 };
 
 }  // namespace
+
+bool isRecordFolder(std::string_view name) {
+  return name.starts_with('.') ||
+         std::find(RecordFolders.begin(), RecordFolders.end(), name) != RecordFolders.end();
+}
 
 FolderScan scanFolder(const std::string& root, const FileTypes& types, bool otherFiles,
                       Problems& problems) {

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/model/FileTypes.h"
@@ -40,6 +41,9 @@ inline constexpr int MaximumFolderDepth = 64;
 /// their own. Links to files inside the root are listed.
 FolderScan scanFolder(const std::string& root, const FileTypes& types, bool otherFiles,
                       Problems& problems);
+
+/// Whether it is the name of a folder in which CM tools keep their own records, or of a hidden one.
+bool isRecordFolder(std::string_view name);
 
 /// What the names of Veldra's own working files begin with.
 inline constexpr char WorkingFilePrefix[] = ".veldra";

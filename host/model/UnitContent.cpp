@@ -65,6 +65,12 @@ bool UnitCore::setAttribute(const std::string& attribute, const std::string& val
   return true;
 }
 
+void UnitCore::forgetContent(const std::string& name) {
+  m_text.reset();
+  m_record.name = name;
+  m_modified = false;
+}
+
 void UnitCore::restoreBody(const Json& body) {
   Problem problem;
   ModelText* restored = content(problem);

@@ -29,4 +29,7 @@ if commit "$comment" -- "$old@" "$new@" $new_parents; then
   exit
 fi
 take_back
+case $answer in
+  *E195022:*) not_held "$old" ;;
+esac
 give_up

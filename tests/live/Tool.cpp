@@ -63,6 +63,7 @@ class Rcs : public Tool {
     for (const auto& entry : fs::recursive_directory_iterator(archive())) {
       std::string name = fs::relative(entry.path(), archive()).string();
       if (!entry.is_regular_file() || !name.ends_with(",v")) continue;
+      if (name.find("RCS/Attic/") != std::string::npos) continue;
       name.erase(name.rfind("RCS/"), 4);
       result.insert(name.substr(0, name.size() - 2));
     }
