@@ -18,6 +18,7 @@ const OperationRow& CMCheckOutFromArchive::row() const {
       .save = SaveRule::IfSaveOnCheckOut,
       .tracksUnits = true,
       .asksOverwrite = true,
+      .keeps = KeepRule::WritableFiles,
       .handlerKind = CMVDYHandler::CheckOut};
   return row;
 }

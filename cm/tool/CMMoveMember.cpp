@@ -18,6 +18,7 @@ constexpr OperationRow MoveRow{
     .templateProperty = IPN::Rename,
     .traceBefore = "Executing the following command to move the file(s): ",
     .traceAfter = "Move command returned the following: ",
+    .keeps = KeepRule::WritableFiles,
     .isHybrid = true};
 
 /// Moves what lies below one path to another path.

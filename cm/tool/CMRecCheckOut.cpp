@@ -13,6 +13,7 @@ const OperationRow& CMRecCheckOut::row() const {
       .save = SaveRule::IfSaveOnCheckOut,
       .asksOverwrite = true,
       .choosesArchive = true,
+      .keeps = KeepRule::WritableFiles,
       .handlerKind = CMVDYHandler::CheckOut};
   return row;
 }

@@ -10,7 +10,8 @@ const OperationRow& CMRecUnCheckout::row() const {
       // As for single units, there is no template of its own.
       .templateProperty = IPN::CMUnLockItem,
       .traceBefore = "Executing the following command to recursively uncheck out the file(s): ",
-      .traceAfter = "Recursive uncheck out command returned the following: "};
+      .traceAfter = "Recursive uncheck out command returned the following: ",
+      .keeps = KeepRule::EveryFile};
   return row;
 }
 

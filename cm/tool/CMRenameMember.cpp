@@ -13,6 +13,7 @@ const OperationRow& CMRenameMember::row() const {
       .templateProperty = IPN::Rename,
       .traceBefore = "Executing the following command to rename the file: ",
       .traceAfter = "Rename command returned the following: ",
+      .keeps = KeepRule::WritableFiles,
       .isHybrid = true};
   return row;
 }

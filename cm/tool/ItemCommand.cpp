@@ -90,6 +90,11 @@ int ItemCommand::runAll(CMArchiveItemList& items, ArgumentList& arguments,
 }
 
 void ItemCommand::runItem(ItemRun& run, ArgumentList& arguments, UnitProgress& progress) const {
+  const KeptCopy kept(row().keeps, localFile(run.item), row().name);
+  if (!kept.objection().empty()) {
+    progress.endsAs(UnitEnd::Refused, kept.objection());
+    return;
+  }
   CMUnit argument(&run.item);
   const PushedArgument pushed(arguments, argument);
   std::string command;

@@ -8,6 +8,7 @@
 #include "cm/core/CMOperation.h"
 #include "cm/host/CMVDYHandler.h"
 #include "cm/host/IProgress.h"
+#include "cm/tool/KeptCopy.h"
 
 namespace veldra {
 
@@ -28,9 +29,10 @@ struct OperationRow {
   SaveRule save = SaveRule::Never;
   bool tracksUnits = false;  ///< Brackets the batch with the reload callbacks and validates units.
   bool asksOverwrite = false;
-  bool choosesArchive = false;  ///< Makes the unit's archive the main one.
-  int handlerKind = 0;          ///< Of `CMVDYHandler::Kind`; 0 without a handler.
-  bool isHybrid = false;        ///< Serves projects that select the provider, too.
+  bool choosesArchive = false;         ///< Makes the unit's archive the main one.
+  KeepRule keeps = KeepRule::Nothing;  ///< What it may overwrite.
+  int handlerKind = 0;                 ///< Of `CMVDYHandler::Kind`; 0 without a handler.
+  bool isHybrid = false;               ///< Serves projects that select the provider, too.
 };
 
 /// The template of a command, and where it is looked up when a provider is selected.

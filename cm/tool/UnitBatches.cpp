@@ -82,9 +82,16 @@ void UnitBatches::run(const std::function<UnitPreparation(IUnit&)>& prepare) {
   for (const Group& group : m_groups) {
     if (group.units.size() < 2 || UnitProgress::isCancelled()) continue;
     if (m_row.choosesArchive) chooseArchiveOf(group.units.front());
+    Group able{.single = group.single, .units = {}};
     Preparations preparations;
-    for (IUnit* unit : group.units) preparations.emplace(unit, prepare(*unit));
-    runGroup(group, std::move(preparations));
+    for (IUnit* unit : group.units) {
+      UnitPreparation preparation = prepare(*unit);
+      // It is refused when its own turn comes.
+      if (preparation.mustNotRun()) continue;
+      able.units.push_back(unit);
+      preparations.emplace(unit, std::move(preparation));
+    }
+    runGroup(able, std::move(preparations));
   }
 }
 

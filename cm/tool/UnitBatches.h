@@ -17,8 +17,11 @@ namespace veldra {
 
 /// What is made for a unit before its command runs.
 struct UnitPreparation {
+  std::unique_ptr<KeptCopy> kept;
   std::unique_ptr<CMVDYHandler> handler;
   std::unique_ptr<CCMFileCompare> compare;
+
+  bool mustNotRun() const { return kept != nullptr && !kept->objection().empty(); }
 };
 
 /// The units of one operation that the tool can do by one command.

@@ -83,6 +83,8 @@ void UnitCommand::runBatches(const UnitList& units, const UnitCallFrame& call,
 
 UnitPreparation UnitCommand::prepare(IUnit& unit) const {
   UnitPreparation preparation;
+  preparation.kept = std::make_unique<KeptCopy>(row().keeps, unit.getFullFileName(), row().name);
+  if (preparation.mustNotRun()) return preparation;
   if (row().handlerKind != 0 && installedHost() != nullptr) {
     preparation.handler = installedHost()->createModelFileHandler(unit.getFullFileName());
   }
@@ -142,6 +144,10 @@ void UnitCommand::runUnit(UnitRun& run, const UnitCallFrame& call, UnitProgress&
     return;
   }
   if (!isDone) preparation = prepare(*run.unit);
+  if (preparation->mustNotRun()) {
+    progress.endsAs(UnitEnd::Refused, preparation->kept->objection());
+    return;
+  }
   run.handler = preparation->handler.get();
   run.compare = preparation->compare.get();
   run.status = isDone ? 1 : runCommand(run, call, progress);

@@ -43,5 +43,5 @@ attach_label() {
   [ -z "$label" ] || run on "$1" tag -- "$label" || give_up
 }
 
-work=$(mktemp -d)
+work=$(scratch -d)
 trap 'rm -rf "$work"' EXIT

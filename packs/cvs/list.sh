@@ -4,7 +4,7 @@
 
 open_folder
 module=$(cat CVS/Repository)
-editors=$(mktemp)
+editors=$(scratch)
 trap 'rm -f "$editors"' EXIT
 cvs editors >"$editors" 2>/dev/null || :
 { cvs rls -e -R -- "$module" || printf '\001\n'; } |

@@ -29,7 +29,7 @@ commit() {
   units=$1
   # git takes no zero bytes in comments.
   tr -d '\000' <"${2:-/dev/null}" | {
-    message=$(mktemp)
+    message=$(scratch)
     trap 'rm -f "$message"' EXIT
     cat >"$message"
     on "$units" commit -q --only --allow-empty-message --cleanup=verbatim --file="$message" 2>&1

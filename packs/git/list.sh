@@ -7,7 +7,7 @@ open_repository
 receive || give_up
 [ -n "$tip" ] || exit 0
 if has_locks; then
-  list=$(mktemp)
+  list=$(scratch)
   trap 'rm -f "$list"' EXIT
   holders >"$list"
   git ls-tree -r -z --abbrev=12 "$tip" | tr '\n\000' '\001\n' |

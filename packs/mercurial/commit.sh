@@ -22,7 +22,7 @@ check_label() {
 # commit UNITS COMMENTFILE: commits exactly these files. hg wants a comment, as UTF-8; bytes that are
 # none are read as ISO 8859-1.
 commit() {
-  message=$(mktemp)
+  message=$(scratch)
   tr -d '\000' <"${2:-/dev/null}" >"$message"
   if ! iconv -f UTF-8 -t UTF-8 "$message" >/dev/null 2>&1; then
     iconv -f ISO-8859-1 -t UTF-8 "$message" >"$message.utf8"

@@ -18,7 +18,7 @@ IFS=$newline
 for file in $files; do not_held_by_others "$file"; done
 
 moved_file=$new/${old_file##*/}
-kept=$(mktemp -d) || exit
+kept=$(mktemp -d "${TMPDIR:-/tmp}/veldra-cm-$$-XXXXXX") || exit
 trap 'rm -rf "$kept"' EXIT
 [ ! -f "$old_file" ] || cp -p -- "$old_file" "$kept/file" || exit
 

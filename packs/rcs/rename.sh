@@ -13,7 +13,7 @@ new_archived=$(archived_of "$1" "$2" "$new")
 [ ! -e "$new_archived" ] || fail "'$new_archived' exists already."
 not_held_by_others "$old_archived"
 
-kept=$(mktemp -d) || exit
+kept=$(mktemp -d "${TMPDIR:-/tmp}/veldra-cm-$$-XXXXXX") || exit
 trap 'rm -rf "$kept"' EXIT
 [ ! -e "$old" ] || cp -p -- "$old" "$kept/file" || exit
 

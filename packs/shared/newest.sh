@@ -7,7 +7,7 @@
 # begin_update: looks at files before they are touched, in the folder $work. Fails when local changes
 # and those of the archive do not fit together.
 begin_update() {
-  work=$(mktemp -d)
+  work=$(scratch -d)
   trap 'rm -rf "$work"' EXIT
   mkdir "$work/merged"
   arriving | sort -z >"$work/arriving"

@@ -84,6 +84,12 @@ real() {
   (cd -- "$1" 2>/dev/null && pwd -P) || printf '%s\n' "$1"
 }
 
+# scratch [-d]: makes a file or a folder that goes with the helper. When the helper is killed, the next
+# run of the program removes it.
+scratch() {
+  mktemp "$@" "${TMPDIR:-/tmp}/veldra-cm-$$-XXXXXX"
+}
+
 # login: the name of who is at work, for tools that are told no other.
 login() {
   printf '%s\n' "${LOGNAME:-${USER:-$(id -un)}}"

@@ -7,7 +7,7 @@ mode=$1 revision=${3:-HEAD}
 name_targets "$2"
 
 update() {
-  tr '\n' '\000' <"$targets" | xargs -0 svn --non-interactive update --parents --revision "$1" --
+  tr '\n' '\000' <"$targets" | xargs -0 sh "${0%/*}/svn.sh" update --parents --revision "$1" --
 }
 
 if [ "$mode" = --unlocked ]; then

@@ -18,8 +18,39 @@ for program in svn svnadmin; do
   command -v "$program" >/dev/null || fail "The program '$program' is not installed or not in PATH."
 done
 
+# in_use WORKINGCOPY: whether some process has its records open, so that it is not ours to repair.
+in_use() {
+  for open in /proc/[0-9]*/fd/*; do
+    case $(readlink "$open" 2>/dev/null) in
+      "$1"/.svn/*) return 0 ;;
+    esac
+  done
+  return 1
+}
+
+# repair: makes good what a killed svn left behind. True when it is worth another try.
+repair() {
+  [ -d /proc/self/fd ] || return
+  top=$(command svn info --non-interactive --show-item wc-root --no-newline . 2>/dev/null) || return
+  ! in_use "$top" && command svn cleanup --non-interactive "$top" >/dev/null 2>&1
+}
+
+# svn ARGUMENT...: a former command may have been killed in the middle; then its records are put in
+# order, and the same is tried once more. What svn complains about is kept aside for that.
 svn() {
-  command svn --non-interactive "$@"
+  { complaint=$(command svn --non-interactive "$@" 2>&1 >&3 3>&-); } 3>&1
+  svn_end=$?
+  case $svn_end$complaint in
+    0*) ;;
+    *E155004:* | *E155037:* | *E155009:*)
+      if repair; then
+        command svn --non-interactive "$@"
+        return
+      fi
+      ;;
+  esac
+  [ -z "$complaint" ] || printf '%s\n' "$complaint" >&2
+  return "$svn_end"
 }
 
 # refuse_commit: as `give_up`, with the reason first where svn tells it late.
@@ -55,6 +86,11 @@ archive_url() {
   esac
 }
 
+# temporary_file [-d]: makes one, or a folder; when this script is killed, the next run of the program removes it.
+temporary_file() {
+  mktemp "$@" "${TMPDIR:-/tmp}/veldra-cm-$$-XXXXXX"
+}
+
 # run COMMAND...: keeps all that it prints in $answer, so that the caller can look before it shows.
 run() {
   answer=$("$@" 2>&1)
@@ -86,7 +122,7 @@ read_options() {
 # name_targets UNITS: sets $targets to a file with the paths as svn wants them, a line a path. UNITS is
 # the path of one file, or "@" and the path of a list. $work goes with the helper.
 name_targets() {
-  work=$(mktemp -d) || exit
+  work=$(temporary_file -d) || exit
   trap 'rm -rf "$work"' EXIT
   targets=$work/targets
   case $1 in
@@ -97,7 +133,7 @@ name_targets() {
 
 # held: those of $targets that this folder holds a lock of; the sixth column of a status tells.
 held() {
-  tr '\n' '\000' <"$targets" | xargs -0 svn --non-interactive status --depth empty -- |
+  tr '\n' '\000' <"$targets" | xargs -0 sh "${0%/*}/svn.sh" status --depth empty -- |
     sed -n 's/^.....K. \(.*\)/\1@/p'
 }
 
@@ -138,7 +174,7 @@ commit() {
   esac
   encoding=UTF-8
   iconv -f UTF-8 -t UTF-8 "$message" >/dev/null 2>&1 || encoding=ISO-8859-1
-  clean=$(mktemp) || return
+  clean=$(temporary_file) || return
   LC_ALL=C sed "s/$(printf '\r')\$//" "$message" | LC_ALL=C tr '\r' '\n' >"$clean"
   run svn_commit "$encoding" "$clean" "$@"
   result=$?

@@ -8,4 +8,4 @@ revision=${2:-HEAD}
 number=$(revision_of "$revision") && [ -n "$number" ] ||
   fail "There is no label or revision '$revision' in the archive."
 tr '\n' '\000' <"$targets" |
-  xargs -0 svn --non-interactive update --parents --revision "$number" --
+  xargs -0 sh "${0%/*}/svn.sh" update --parents --revision "$number" --

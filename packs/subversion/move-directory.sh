@@ -8,7 +8,7 @@ old=$1 new=$2 old_file=$3 new_file=$4 comment=$5
 
 [ ! -e "$new" ] || fail "'$new' exists already."
 make_current "$old" "$old_file"
-kept=$(mktemp -d) || exit
+kept=$(temporary_file -d) || exit
 trap 'rm -rf "$kept"' EXIT
 [ ! -f "$old_file" ] || cp -p -- "$old_file" "$kept/file" || exit
 

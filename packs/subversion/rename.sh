@@ -6,7 +6,7 @@
 old=$1 new=$2 comment=$3
 
 [ ! -e "$new" ] || fail "'$new' exists already."
-kept=$(mktemp -d) || exit
+kept=$(temporary_file -d) || exit
 trap 'rm -rf "$kept"' EXIT
 cp -p -- "$old" "$kept/file" || exit
 
@@ -29,4 +29,7 @@ if commit "$comment" -- "$old@" "$new@" $new_parents; then
   exit
 fi
 take_back
+case $answer in
+  *E195022:*) not_held "$old" ;;
+esac
 give_up

@@ -1,5 +1,11 @@
 # Sourced by the helpers that move or delete: whole directories, and ways back.
 
+# not_held FILE: fails, and names who holds the lock of the file in another place.
+not_held() {
+  holder=$(svn info -- "$(svn info --show-item url -- "$1@")@" | sed -n 's/^Lock Owner: //p')
+  [ -z "$holder" ] || fail "'$1' is locked by $holder in another place."
+}
+
 # make_current DIRECTORY [FILE]: brings the whole directory to one revision, which svn needs before
 # it moves or removes it. Changes of others are not taken over unseen; changes of the user that
 # would go into the archive by the way, FILE aside, are in the way, too.
@@ -7,6 +13,8 @@ make_current() {
   state=$(svn status --show-updates -- "$1@") || exit
   newer=$(printf '%s\n' "$state" | sed -n '/^........\*/ { s/^.\{21\}//p; q; }')
   [ -z "$newer" ] || fail "Somebody has changed '$newer' meanwhile; fetch it first."
+  held=$(printf '%s\n' "$state" | sed -n '/^.\{5\}[OT]/ { s/^.\{21\}//p; q; }')
+  [ -z "$held" ] || not_held "$held"
   changed=$(printf '%s\n' "$state" | sed -n '/^[ACDMR!~]/ s/^.\{21\}//p; /^ [CM]/ s/^.\{21\}//p' |
     grep -v -x -F -e "$2" | head -n 1)
   [ -z "$changed" ] || fail "'$changed' has changes; check it in, or undo them first."
