@@ -45,6 +45,7 @@ struct ModuleState {
   std::string sccToolName;
   bool providerLoaded = false;
   int showCMStatus = 0;
+  bool saveOnCheckoutDue = true;  ///< See `CMProperty::saveOnCheckout`.
 
   ExpansionUse expansion;
 

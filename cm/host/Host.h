@@ -8,6 +8,7 @@
 #include "cm/host/Export.h"
 #include "cm/host/IAbstractCMManager.h"
 #include "cm/host/IEnvironment.h"
+#include "cm/host/IKeptCopies.h"
 #include "cm/host/IModel.h"
 #include "cm/host/IProgress.h"
 #include "cm/host/IUserMessages.h"
@@ -36,6 +37,7 @@ class Host {
   virtual LogTrace* trace() { return nullptr; }
   virtual CSignal2Exception* faultGuard() { return nullptr; }
   virtual IProgress* progress() { return nullptr; }
+  virtual IKeptCopies* keptCopies() { return nullptr; }
 
   /// Reload services. Without them units keep what they had in memory, and a command that would
   /// need a reload reports the unit as not reloaded.

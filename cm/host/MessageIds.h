@@ -27,5 +27,8 @@ inline constexpr int PatternGivenUp = 60008;        ///< Pattern.
 inline constexpr int CommentNotWritten = 60009;     ///< Directory.
 inline constexpr int NoProcessRunner = 60010;
 inline constexpr int InternalError = 60011;  ///< Operation, what happened.
+inline constexpr int NoMoveTarget = 60020;
+inline constexpr int NoNewName = 60021;
+inline constexpr int CopyNotKept = 60030;  ///< File, reason.
 
 }  // namespace veldra::MessageId

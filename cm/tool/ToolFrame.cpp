@@ -4,7 +4,9 @@
 #include <utility>
 
 #include "cm/core/CCMSyncQuestionDlg.h"
+#include "cm/core/CMArchive.h"
 #include "cm/core/CMFacade.h"
+#include "cm/core/HybridRule.h"
 #include "cm/core/TextTools.h"
 #include "cm/host/Host.h"
 #include "cm/host/IPN.h"
@@ -69,6 +71,25 @@ bool UnitProgress::isCancelled() {
   return progress() != nullptr && progress()->isCancelled();
 }
 
+CommandTemplate templateForDirectory(IUnit& unit, const CommandTemplate& forDirectory,
+                                     const CommandTemplate& forFile) {
+  return isPackageWithDirectory(&unit) && hasValue(forDirectory) ? forDirectory : forFile;
+}
+
+bool hasValue(const CommandTemplate& command) {
+  std::string value;
+  return CMProperty::getToolPropertyValue(command.property, value, command.providerMetaclass) &&
+         !value.empty();
+}
+
+std::string argumentValue(const ArgumentList& arguments, const char* keyword) {
+  for (CMArgument* argument : arguments) {
+    if (argument != nullptr && argument->isNamed(keyword) != 0)
+      return argument->substitute(keyword);
+  }
+  return {};
+}
+
 bool hasCMTool(CMOperation& operation, DiagnosticList& diagnostics, bool hybrid) {
   std::string message;
   if (operation.isCMTool(message, nullptr, hybrid) != 0) return true;
@@ -77,21 +98,36 @@ bool hasCMTool(CMOperation& operation, DiagnosticList& diagnostics, bool hybrid)
 }
 
 bool refuseUnsafeName(const IUnit& unit, DiagnosticList& diagnostics) {
-  const std::string file = unit.getFullFileName();
-  const std::optional<std::string> reason = unsafeInCommand(file);
+  return refuseUnsafeName(&unit, unit.getFullFileName(), diagnostics);
+}
+
+bool refuseUnsafeName(const IUnit* unit, const std::string& name, DiagnosticList& diagnostics) {
+  const std::optional<std::string> reason = unsafeInCommand(name);
   if (!reason) return false;
   diagnostics.emplace_back(CMDiagnostic::Failed,
-                           formatMessage(MessageId::UnsafeFileName, {file, *reason}), &unit);
+                           formatMessage(MessageId::UnsafeFileName, {name, *reason}), unit);
   return true;
+}
+
+void chooseArchiveOf(const IUnit* unit) {
+  if (CMArchive::getArchiveSelection() == CMArchive::ArchiveUnset) return;
+  std::string archive;
+  CMProperty::getBatchArchiveRecursive(unit, archive);
+  CMArchive::setMainArchive(archive);
 }
 
 void saveModel(SaveRule rule, bool isListEmpty) {
   if (rule == SaveRule::Never || isListEmpty) return;
-  if (rule == SaveRule::IfSaveOnCheckOut) {
+  const bool isDueOnce = rule == SaveRule::IfSaveOnCheckOutIsDue;
+  if (isDueOnce || rule == SaveRule::IfSaveOnCheckOut) {
     const IProperty* const setting = CMProperty::getToolProperty(IPN::CMSaveOnCheckOut);
     if (setting == nullptr || !setting->getBool()) return;
   }
-  if (const CMFacade::SaveCallback& save = CMFacade::saveCallbackFunc()) save();
+  if (isDueOnce && CMProperty::saveOnCheckout(-1) == 0) return;
+  const CMFacade::SaveCallback& save = CMFacade::saveCallbackFunc();
+  if (!save) return;
+  save();
+  if (isDueOnce) CMProperty::saveOnCheckout(0);
 }
 
 int runTraced(const std::string& command, const char* traceBefore, const char* traceAfter,

@@ -8,11 +8,17 @@
 #include "cm/core/CMOperation.h"
 #include "cm/host/CMVDYHandler.h"
 #include "cm/host/IProgress.h"
+#include "cm/tool/KeptCopy.h"
 
 namespace veldra {
 
 /// When an operation saves the model before its first command.
-enum class SaveRule { Never, Always, IfSaveOnCheckOut };
+enum class SaveRule {
+  Never,
+  Always,
+  IfSaveOnCheckOut,
+  IfSaveOnCheckOutIsDue,  ///< As before, and only while `CMProperty::saveOnCheckout` says so.
+};
 
 /// What distinguishes one command-line operation from another.
 struct OperationRow {
@@ -23,8 +29,16 @@ struct OperationRow {
   SaveRule save = SaveRule::Never;
   bool tracksUnits = false;  ///< Brackets the batch with the reload callbacks and validates units.
   bool asksOverwrite = false;
-  bool choosesArchive = false;  ///< Makes the unit's archive the main one.
-  int handlerKind = 0;          ///< Of `CMVDYHandler::Kind`; 0 without a handler.
+  bool choosesArchive = false;         ///< Makes the unit's archive the main one.
+  KeepRule keeps = KeepRule::Nothing;  ///< What it may overwrite.
+  int handlerKind = 0;                 ///< Of `CMVDYHandler::Kind`; 0 without a handler.
+  bool isHybrid = false;               ///< Serves projects that select the provider, too.
+};
+
+/// The template of a command, and where it is looked up when a provider is selected.
+struct CommandTemplate {
+  const char* property;
+  bool providerMetaclass = false;
 };
 
 /// An argument on the end of a list, for as long as this lives.
@@ -76,12 +90,27 @@ class UnitProgress {
   std::string m_words;
 };
 
+/// Whether the tool has the template, and it is not empty.
+bool hasValue(const CommandTemplate& command);
+/// `forDirectory` for a package that has a directory of its own, when that template has a value;
+/// otherwise `forFile`.
+CommandTemplate templateForDirectory(IUnit& unit, const CommandTemplate& forDirectory,
+                                     const CommandTemplate& forFile);
+
+/// What the first argument that answers to the keyword says; empty when none does.
+std::string argumentValue(const ArgumentList& arguments, const char* keyword);
+
 /// Asks whether a CM tool is configured. When it is not, one diagnostic says why and the answer is
 /// false.
 bool hasCMTool(CMOperation& operation, DiagnosticList& diagnostics, bool hybrid = false);
 
 /// Refuses a unit whose file name no command can carry: true, and a diagnostic that says why.
 bool refuseUnsafeName(const IUnit& unit, DiagnosticList& diagnostics);
+/// The same for another name that its command carries; without a unit the diagnostic has none.
+bool refuseUnsafeName(const IUnit* unit, const std::string& name, DiagnosticList& diagnostics);
+
+/// Makes the unit's archive the main one, unless the user chooses the archive.
+void chooseArchiveOf(const IUnit* unit);
 
 /// Calls the facade's save callback as the rule demands; nothing for an empty list.
 void saveModel(SaveRule rule, bool isListEmpty);

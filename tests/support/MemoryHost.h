@@ -31,6 +31,7 @@ class MemoryHost : public Host {
   MemoryTrace traceLog;
   MemoryFaultGuard memoryFaultGuard;
   MemoryProgress memoryProgress;
+  MemoryKeptCopies memoryKeptCopies;
   ReloadScript reloads;
 
   /// Without them the host has only what every host must have.
@@ -47,6 +48,7 @@ class MemoryHost : public Host {
   LogTrace* trace() override { return offered(traceLog); }
   CSignal2Exception* faultGuard() override { return offered(memoryFaultGuard); }
   IProgress* progress() override { return offered(memoryProgress); }
+  IKeptCopies* keptCopies() override { return offered(memoryKeptCopies); }
   QuickATMFacade* quickReload() override { return offered(m_quickReload); }
   std::unique_ptr<ATMFacade> createATMFacade(IUnit* owner) override;
   std::unique_ptr<ATMFacade> createATMFacade(const std::string& directory) override;

@@ -22,12 +22,30 @@ std::vector<UnitRecord> describeWorkspace() {
   return records;
 }
 
+/// Where a unit stands by its file alone.
+std::string stateOf(const UnitRecord& unit) {
+  if (unit.mode == "RO") return "checked in";
+  if (unit.mode != "RW") return "unknown";
+  // A tool that expands no keywords leaves no version either, so this may be a file of such a tool.
+  return unit.version.empty() ? "writable" : "checked out";
+}
+
+/// The same by what the archive says; `file` is null for a unit that it does not hold.
+std::string stateOf(const UnitRecord& unit, const UnitRecord* file, const std::string& user) {
+  if (file == nullptr) return "not added";
+  if (unit.mode == "RW") return "checked out";
+  // A lock without a writable file: a command has been interrupted between the two.
+  return file->locker == user && !user.empty() ? "left over" : "checked in";
+}
+
 /// The archive knows better who holds a file and which revision is the newest.
-void takeFromArchive(const std::vector<UnitRecord>& files, std::vector<UnitRecord>& units) {
+void takeFromArchive(const std::vector<UnitRecord>& files, const std::string& user,
+                     std::vector<UnitRecord>& units) {
   std::unordered_map<std::string, const UnitRecord*> byPath;
   for (const UnitRecord& file : files) byPath.emplace(file.path, &file);
   for (UnitRecord& unit : units) {
     const auto at = byPath.find(unit.path);
+    unit.state = stateOf(unit, at != byPath.end() ? at->second : nullptr, user);
     if (at == byPath.end()) continue;
     unit.version = at->second->version;
     unit.locker = at->second->locker;
@@ -39,11 +57,18 @@ void takeFromArchive(const std::vector<UnitRecord>& files, std::vector<UnitRecor
 ExitCode runStatus(const Invocation& invocation) {
   Console& console = invocation.console;
   Session session(invocation);
-  session.openProject();
+  if (invocation.options.update) {
+    session.openProject();
+  } else {
+    session.openToLook();
+  }
   Report report{.command = invocation.command.name, .units = describeWorkspace()};
+  for (UnitRecord& unit : report.units) unit.state = stateOf(unit);
   if (invocation.options.update) {
     const ArchiveContent content = listArchive(session);
-    takeFromArchive(content.files, report.units);
+    if (content.failure.empty()) {
+      takeFromArchive(content.files, session.host().environment().omGetCurrentUser(), report.units);
+    }
     report.message = content.failure;
   }
   if (invocation.options.json) {
