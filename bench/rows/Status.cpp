@@ -1,4 +1,3 @@
-#include <cstdlib>
 #include <filesystem>
 
 #include "bench/BenchProject.h"
@@ -6,12 +5,6 @@
 #include "bench/SideBySide.h"
 
 namespace veldra::bench {
-
-namespace {
-void runQuietly(const std::string& command) {
-  if (std::system((command + " >/dev/null").c_str()) != 0) std::abort();
-}
-}  // namespace
 
 double statusAgainstSubversion() {
   const TempFolder folder;
@@ -23,10 +16,8 @@ double statusAgainstSubversion() {
   runQuietly("svnadmin create '" + (folder.path() / "archive").string() + "'");
   runQuietly("svn import -q -m model '" + model + "' '" + url + "'");
   runQuietly("svn checkout -q '" + url + "' '" + copy + "'");
-  const std::string program =
-      std::filesystem::path(ownProgram()).replace_filename("veldra-cm").string();
   return ratioOf(
-      7, [&] { runQuietly("'" + program + "' -p '" + copy + "' status"); },
+      7, [&] { runQuietly(commandLineProgram() + " -p '" + copy + "' status"); },
       [&] { runQuietly("svn status -v '" + copy + "'"); });
 }
 
