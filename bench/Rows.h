@@ -10,6 +10,8 @@ double listingAgainstPerl();
 double listingMemory();
 double checkoutGrowth();
 double statusAgainstSubversion();
+double checkinBatchAgainstSubversion();
+double addBatchAgainstSubversion();
 double floodAgainstCat();
 double floodMemory();
 

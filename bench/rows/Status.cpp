@@ -1,5 +1,4 @@
 #include <chrono>
-#include <cstdlib>
 #include <filesystem>
 #include <thread>
 
@@ -8,12 +7,6 @@
 #include "bench/SideBySide.h"
 
 namespace veldra::bench {
-
-namespace {
-void runQuietly(const std::string& command) {
-  if (std::system((command + " >/dev/null").c_str()) != 0) std::abort();
-}
-}  // namespace
 
 double statusAgainstSubversion() {
   const TempFolder folder;
@@ -25,6 +18,7 @@ double statusAgainstSubversion() {
   runQuietly("svnadmin create '" + (folder.path() / "archive").string() + "'");
   runQuietly("svn import -q -m model '" + model + "' '" + url + "'");
   runQuietly("svn checkout -q '" + url + "' '" + copy + "'");
+<<<<<<< HEAD
   const std::string program =
       std::filesystem::path(ownProgram()).replace_filename("veldra-cm").string();
   const std::string cache = "XDG_CACHE_HOME='" + (folder.path() / "cache").string() + "' ";
@@ -32,6 +26,10 @@ double statusAgainstSubversion() {
   std::this_thread::sleep_for(std::chrono::seconds(3));
   return ratioOf(
       15, [&] { runQuietly(cache + "'" + program + "' -p '" + copy + "' status"); },
+=======
+  return ratioOf(
+      7, [&] { runQuietly(commandLineProgram() + " -p '" + copy + "' status"); },
+>>>>>>> tool
       [&] { runQuietly("svn status -v '" + copy + "'"); });
 }
 
