@@ -25,10 +25,14 @@ struct Entry {
   bool operator<(const Entry& other) const { return name < other.name; }
 };
 
-/// Files that belong to a CM tool or to Veldra itself.
+// What the names of the files begin with that belong to a CM tool or to Veldra itself.
+constexpr std::array<std::string_view, 6> RecordFiles = {WorkingFilePrefix, ".git", ".hg", ".svn",
+                                                         ".cvs", ".#"};
+
 bool isRecordFile(const std::string& name) {
-  return name.starts_with(WorkingFilePrefix) || name.ends_with(",v") || name == ".git" ||
-         name == ".svn";
+  return name.ends_with(",v") || std::ranges::any_of(RecordFiles, [&](std::string_view prefix) {
+           return name.starts_with(prefix);
+         });
 }
 
 /// A file that is being written, or that a killed program left half written.

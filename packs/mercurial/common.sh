@@ -7,21 +7,12 @@ export HGPLAIN=1 HGENCODING=UTF-8 HGEDITOR=:
 unset HGPLAINEXCEPT
 
 needs hg
-settings=$(command hg config paths.default ui.ssh ui.username 2>/dev/null || :)
-
-# setting NAME: of the user's or the folder's configuration.
-setting() {
-  printf '%s\n' "$settings" | sed -n "s/^$1=//p"
-}
-
-# An ssh that may not ask fails at once instead of waiting.
-ssh=$(setting ui.ssh)
-ssh="${ssh:-ssh} -o BatchMode=yes"
 
 hg() {
-  command hg --config ui.interactive=no --config ui.ssh="$ssh" --config ui.merge=internal:fail \
-    --config phases.new-commit=draft "$@"
+  command hg --config ui.interactive=no --config ui.merge=internal:fail \
+    --config phases.new-commit=draft ${ssh:+--config "ui.ssh=$ssh"} "$@"
 }
+ssh=
 
 # find_top: sets $top to the folder of the repository that this folder is in; false without one.
 find_top() {
@@ -43,24 +34,35 @@ on() {
   hg "$@" -- "$files"
 }
 
+# remote_of REPOSITORY: where it was cloned from. Every start of hg costs time, so its file is read.
+remote_of() {
+  sed -n '/^\[paths\]/,/^\[/s/^default *= *//p' "$1/.hg/hgrc" 2>/dev/null
+}
+
 # open_repository: sets $remote; empty when the folder is the archive itself.
 open_repository() {
   find_top || fail "The folder is not connected to an archive; connect it first."
-  remote=$(setting paths.default)
+  remote=$(remote_of "$top")
+  case $remote in
+    # An ssh that may not ask fails at once instead of waiting.
+    ssh://*) ssh="$(hg config ui.ssh || echo ssh) -o BatchMode=yes" ;;
+  esac
 }
 
 # receive: learns what the archive holds; sets $base, the commit of this folder, and $tip, the newest
 # one of its branch in the archive, or nothing when the folder has that.
 receive() {
   [ -z "$remote" ] || run hg pull -q || return
-  base=$(hg log -r . -T '{node}')
+  commits=$(hg log -r '. + (max(heads(public() and branch(.))) - ::.)' -T '{node}\n')
+  base=${commits%%"$newline"*}
   tip=
-  [ -z "$remote" ] || tip=$(hg log -r 'max(heads(public() and branch(.))) - ::.' -T '{node}')
+  [ -z "$remote" ] || tip=${commits#"$base"}
+  tip=${tip#"$newline"}
 }
 
 # name_user: makes sure that a commit has an author.
 name_user() {
-  [ -z "${HGUSER:-}${EMAIL:-}$(setting ui.username)" ] || return 0
+  [ -z "${HGUSER:-}${EMAIL:-}" ] && ! hg config ui.username >/dev/null 2>&1 || return 0
   HGUSER=$(login)
   export HGUSER
   printf "hg knows no user name; commits name '%s'. [ui] username = NAME in ~/.hgrc sets one.\n" \

@@ -11,7 +11,7 @@ here=$(pwd -P)
 # is_clone: of the archive, or the archive itself.
 is_clone() {
   find_top || return
-  for place in "$top" "$(setting paths.default)"; do
+  for place in "$top" "$(remote_of "$top")"; do
     [ "$(real "$place")" != "$(real "$archive")" ] || return 0
   done
   return 1
@@ -30,14 +30,13 @@ if is_clone; then
   :
 elif [ -e "$here/.hg" ]; then
   fail "'$here' is already a repository of its own, connected to \
-'$(setting paths.default)'. Connect a fresh folder, or set the archive to that."
+'$(remote_of "$here")'. Connect a fresh folder, or set the archive to that."
 elif [ "$here" = "$(real "$archive")" ]; then
   hg init
 else
   clone
 fi
 
-settings="paths.default=$(hg config paths.default || :)"
 open_repository
 receive || give_up
 case $base in

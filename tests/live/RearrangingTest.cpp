@@ -14,7 +14,7 @@ using testing::HasSubstr;
 class RearrangingTest : public testing::TestWithParam<const char*> {
  protected:
   void SetUp() override {
-    if (!isInstalled(m_tool->traits().program)) GTEST_SKIP() << GetParam() << " is not installed";
+    if (!isInstalled(programOf(GetParam()))) GTEST_SKIP() << GetParam() << " is not installed";
     m_sandbox.copySample("model");
     cm(0, {"init", "model", "--name", "Machine", "--tool", GetParam(), "--archive", "archive"});
     cm(0, {"-p", "model", "add", "--all", "-m", "first"});
@@ -100,7 +100,7 @@ TEST_P(RearrangingTest, APackageIsDeletedWithEverythingInItUnlessThatIsChanged) 
 }
 
 TEST_P(RearrangingTest, WhatSomebodyElseHoldsStaysInItsPlace) {
-  m_tool->makeWorkingCopy(m_tool->archive(), "bobs");
+  m_tool->makeWorkingCopy("model", "bobs");
   m_sandbox.become("bob");
   cm(0, {"-p", "bobs", "checkout", "Milk/Steam Wand.vcmp"});
   m_sandbox.become("root");

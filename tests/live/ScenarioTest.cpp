@@ -166,7 +166,7 @@ void ScenarioTest::locks() {
   if (!leftOut("lock, and unlock by another", tool().traits().noLocks)) {
     EXPECT_EQ(tool().holder(Unit), "alice");
     m_job.become("bob", "second");
-    tool().makeWorkingCopy(tool().archive(), "second");
+    tool().checkOut(tool().archive(), "second");
     m_job.cm({"connect"});
     const Ended refused = m_job.tryCm({"checkout", Unit, "Milk/Milk.vpkg"});
     EXPECT_EQ(refused.code, 1) << refused.err;

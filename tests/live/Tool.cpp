@@ -13,6 +13,10 @@ std::unique_ptr<Tool> makeTool(const std::string& pack, const Sandbox& sandbox) 
   throw std::invalid_argument(pack);
 }
 
+std::string programOf(const std::string& pack) {
+  return makeTool(pack, Sandbox())->traits().program;
+}
+
 std::string between(const std::string& text, const std::string& before, const std::string& after) {
   const std::size_t found = text.find(before);
   if (found == std::string::npos) return {};

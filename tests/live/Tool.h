@@ -33,7 +33,10 @@ class Tool {
   /// Makes the archive, as an administrator does on a server.
   virtual void makeArchive() const = 0;
   /// Makes a second folder of the project, with the tool alone.
-  virtual void makeWorkingCopy(const std::string& address, const std::string& to) const = 0;
+  virtual void checkOut(const std::string& address, const std::string& to) const = 0;
+  void makeWorkingCopy(const std::string& /*from*/, const std::string& to) const {
+    checkOut(m_archive, to);
+  }
   /// The files of the archive, relative to it.
   virtual std::set<std::string> files() const = 0;
   virtual std::string newestText(const std::string& file) const = 0;
@@ -57,6 +60,9 @@ class Tool {
 
 /// One of the tools of the tests by the name of its pack.
 std::unique_ptr<Tool> makeTool(const std::string& pack, const Sandbox& sandbox);
+
+/// The program whose absence lets a test of the pack be skipped.
+std::string programOf(const std::string& pack);
 
 /// What stands between two texts; empty without the first.
 std::string between(const std::string& text, const std::string& before, const std::string& after);

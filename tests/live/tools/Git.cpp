@@ -22,7 +22,7 @@ class Git : public Tool {
 
   void makeArchive() const override { outputOf({"git", "init", "-q", "--bare", archive()}); }
 
-  void makeWorkingCopy(const std::string& address, const std::string& to) const override {
+  void checkOut(const std::string& address, const std::string& to) const override {
     outputOf({"git", "clone", "-q", address, to});
   }
 

@@ -22,7 +22,7 @@ class Mercurial : public Tool {
 
   void makeArchive() const override { outputOf({"hg", "init", archive()}); }
 
-  void makeWorkingCopy(const std::string& address, const std::string& to) const override {
+  void checkOut(const std::string& address, const std::string& to) const override {
     outputOf({"hg", "clone", "-q", address, to});
   }
 

@@ -61,7 +61,7 @@ class Rcs : public RevisionFiles {
 
   void makeArchive() const override { fs::create_directory(archive()); }
 
-  void makeWorkingCopy(const std::string& /*address*/, const std::string& to) const override {
+  void checkOut(const std::string& /*address*/, const std::string& to) const override {
     fs::copy(sandbox().path("model"), sandbox().path(to), fs::copy_options::recursive);
   }
 
@@ -107,7 +107,7 @@ class Cvs : public RevisionFiles {
     fs::create_directory(archive() + "/model");
   }
 
-  void makeWorkingCopy(const std::string& address, const std::string& to) const override {
+  void checkOut(const std::string& address, const std::string& to) const override {
     const std::size_t slashes = address.find("//");
     const std::string root = address.substr(0, slashes);
     outputOf({"cvs", "-d", root, "-Q", "checkout", "-d", to, "model"});

@@ -22,7 +22,7 @@ class Subversion : public Tool {
 
   void makeArchive() const override { outputOf({"svnadmin", "create", archive()}); }
 
-  void makeWorkingCopy(const std::string& address, const std::string& to) const override {
+  void checkOut(const std::string& address, const std::string& to) const override {
     outputOf(
         {"svn", "checkout", "-q", address.starts_with('/') ? "file://" + address : address, to});
   }
