@@ -95,6 +95,50 @@ give_up() {
   exit 1
 }
 
+# read_options [--label=LABEL] [COMMENTFILE]: sets $label and $comment.
+read_options() {
+  label=
+  case ${1:-} in
+    --label=*)
+      label=${1#--label=}
+      shift
+      ;;
+  esac
+  comment=${1:-}
+  # Where keywords are not replaced, the comment's stands for none.
+  [ -f "$comment" ] || comment=
+}
+
+# name_targets UNITS: sets $targets to a file with the paths as svn wants them, a line a path. UNITS is
+# the path of one file, or "@" and the path of a list. $work goes with the helper.
+name_targets() {
+  work=$(mktemp -d "${TMPDIR:-/tmp}/veldra-cm-$$-XXXXXX") || exit
+  trap 'rm -rf "$work"' EXIT
+  targets=$work/targets
+  case $1 in
+    @*) sed 's/$/@/' "${1#@}" ;;
+    *) printf '%s@\n' "$1" ;;
+  esac >"$targets"
+}
+
+# held: those of $targets that this folder holds a lock of; the sixth column of a status tells.
+held() {
+  tr '\n' '\000' <"$targets" | xargs -0 svn --non-interactive status --depth empty -- |
+    sed -n 's/^.....K. \(.*\)/\1@/p'
+}
+
+# give_locks: those that this folder holds. One that somebody has broken is no failure.
+give_locks() {
+  held >"$work/held"
+  [ -s "$work/held" ] || return 0
+  run svn unlock --targets "$work/held" && return
+  case $answer in
+    # svn has forgotten the broken lock by now.
+    *W160040:* | *E200009:*W160040:*) answer='A lock had been broken by somebody else.' ;;
+    *) return 1 ;;
+  esac
+}
+
 # svn_commit ENCODING COMMENTFILE TARGET...: the targets as svn takes them, "-- FILE@..." or
 # "--targets LIST".
 svn_commit() {
