@@ -18,18 +18,11 @@ double statusAgainstSubversion() {
   runQuietly("svnadmin create '" + (folder.path() / "archive").string() + "'");
   runQuietly("svn import -q -m model '" + model + "' '" + url + "'");
   runQuietly("svn checkout -q '" + url + "' '" + copy + "'");
-<<<<<<< HEAD
-  const std::string program =
-      std::filesystem::path(ownProgram()).replace_filename("veldra-cm").string();
   const std::string cache = "XDG_CACHE_HOME='" + (folder.path() / "cache").string() + "' ";
   // What was written a moment ago is not remembered, by neither of the two.
   std::this_thread::sleep_for(std::chrono::seconds(3));
   return ratioOf(
-      15, [&] { runQuietly(cache + "'" + program + "' -p '" + copy + "' status"); },
-=======
-  return ratioOf(
-      7, [&] { runQuietly(commandLineProgram() + " -p '" + copy + "' status"); },
->>>>>>> tool
+      15, [&] { runQuietly(cache + commandLineProgram() + " -p '" + copy + "' status"); },
       [&] { runQuietly("svn status -v '" + copy + "'"); });
 }
 
