@@ -14,6 +14,7 @@ namespace MessageBox {
 inline constexpr int Ok = 0x0;
 inline constexpr int YesNoCancel = 0x3;
 inline constexpr int YesNo = 0x4;
+inline constexpr int DefaultSecond = 0x100;  ///< The second button is the default.
 inline constexpr int IconError = 0x10;
 inline constexpr int IconQuestion = 0x20;
 inline constexpr int IconWarning = 0x30;
