@@ -1,5 +1,6 @@
 #include "cm/core/UnitReload.h"
 
+#include "cm/core/CMArchiveItem.h"
 #include "cm/host/Host.h"
 
 namespace veldra {
@@ -30,6 +31,19 @@ void updateHeaderAndMode(IUnit& unit) {
   unit.updateCMHeader();
   VELDRA_TRACE("Updating Mode for unit ", file);
   unit.updateMode("");
+}
+
+IUnit* loadItem(const CMArchiveItem& item, const std::string& name) {
+  Host* const host = installedHost();
+  IUnit* const known = IUnit::getByFile(name);
+  // A unit of the same file elsewhere must not be replaced by this one.
+  if (known != nullptr && known->getDirectory() == item.getLocalPath()) {
+    bool canReload = false;
+    IUnit* const reloaded = reloadInPlace(*known, canReload);
+    if (canReload) return reloaded;
+  }
+  return host != nullptr ? addToModel(host->createATMFacade(item.getLocalPath()).get(), name)
+                         : nullptr;
 }
 
 void renameToComputedName(IUnit* unit, const std::string& nameBefore, const std::string& nameNow) {

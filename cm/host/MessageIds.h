@@ -66,8 +66,11 @@ inline constexpr int ProviderLacks = 60103;      ///< Operation, entry point.
 inline constexpr int ActivityQuestion = 60104;
 inline constexpr int TaskQuestion = 60105;
 inline constexpr int AddedToArchive = 60106;  ///< Number of files.
-inline constexpr int NotFetchedYet = 60107;   ///< File, directory.
+inline constexpr int TargetMissing = 60107;   ///< File.
 inline constexpr int TargetExists = 60108;    ///< File.
-inline constexpr int ProviderSays = 60109;    ///< Entry point, code's text.
+inline constexpr int FileNotMoved = 60109;    ///< File.
+inline constexpr int NowhereToMove = 60110;   ///< File.
+inline constexpr int NameMissing = 60111;
+inline constexpr int ChangedAndStale = 60112;  ///< File.
 
 }  // namespace veldra::MessageId
