@@ -1,0 +1,98 @@
+#include "providers/subversion/status/StoreStatus.h"
+
+#include <svn_dirent_uri.h>
+#include <svn_error_codes.h>
+#include <svn_path.h>
+#include <svn_ra.h>
+
+#include <algorithm>
+#include <map>
+#include <vector>
+
+#include "providers/subversion/runtime/Failure.h"
+#include "providers/subversion/status/StoreChanges.h"
+
+namespace veldra::subversion {
+namespace {
+
+/// So many revisions are looked at one by one.
+constexpr svn_revnum_t FarBehind = 2000;
+
+using StatesOfStore = std::vector<FileState*>;
+
+std::string commonParent(const StatesOfStore& states) {
+  const Pool pool;
+  const char* common = svn_relpath_dirname(states.front()->pathInStore.c_str(), pool);
+  for (const FileState* state : states) {
+    common = svn_relpath_get_longest_ancestor(common, state->pathInStore.c_str(), pool);
+    if (*common == '\0') break;
+  }
+  return common;
+}
+
+svn_ra_session_t* openSession(Client& client, const std::string& root, const std::string& folder,
+                              apr_pool_t* pool) {
+  svn_ra_session_t* session = nullptr;
+  const char* url = svn_path_url_add_component2(root.c_str(), folder.c_str(), pool);
+  check(svn_client_open_ra_session2(&session, url, nullptr, client, pool, pool));
+  return session;
+}
+
+Holder holderFrom(const svn_lock_t& lock) {
+  return {lock.token, lock.owner ? lock.owner : "", lock.comment ? lock.comment : "",
+          lock.creation_date};
+}
+
+void addHolders(svn_ra_session_t* session, const StatesOfStore& states, apr_pool_t* pool) {
+  apr_hash_t* locks = nullptr;
+  check(svn_ra_get_locks2(session, &locks, "", svn_depth_infinity, pool));
+  if (apr_hash_count(locks) == 0) return;
+  std::string key = "/";
+  for (FileState* state : states) {
+    key.replace(1, std::string::npos, state->pathInStore);
+    if (const void* lock = apr_hash_get(locks, key.data(), static_cast<apr_ssize_t>(key.size())))
+      state->holder = holderFrom(*static_cast<const svn_lock_t*>(lock));
+  }
+}
+
+bool askOneStore(Client& client, const std::string& root, const StatesOfStore& states) {
+  const Pool pool;
+  svn_ra_session_t* const session = openSession(client, root, commonParent(states), pool);
+  svn_revnum_t youngest = SVN_INVALID_REVNUM;
+  check(svn_ra_get_latest_revnum(session, &youngest, pool));
+  svn_revnum_t oldest = youngest;
+  for (const FileState* state : states) {
+    if (SVN_IS_VALID_REVNUM(state->revision)) oldest = std::min(oldest, state->revision);
+  }
+  if (youngest - oldest > FarBehind) return false;
+  if (oldest < youngest) {
+    StoreChanges changes;
+    if (!changes.read(session, oldest + 1, youngest)) return false;
+    for (FileState* state : states) changes.applyTo(*state);
+  }
+  addHolders(session, states, pool);
+  return true;
+}
+
+}  // namespace
+
+bool askStore(Client& client, FileStates& states) {
+  std::map<std::string, StatesOfStore> byRoot;
+  for (auto& [path, state] : states) {
+    if (state.isControlled && !state.pathInStore.empty()) byRoot[state.root].push_back(&state);
+  }
+  return std::ranges::all_of(byRoot, [&client](const auto& store) {
+    return askOneStore(client, store.first, store.second);
+  });
+}
+
+std::optional<Holder> holderOf(Client& client, const FileState& state) {
+  const Pool pool;
+  svn_lock_t* lock = nullptr;
+  svn_ra_session_t* const session = openSession(client, state.root, "", pool);
+  check(svn_ra_get_lock(session, &lock, state.pathInStore.c_str(), pool));
+  if (!lock) return std::nullopt;
+  return holderFrom(*lock);
+}
+
+}  // namespace veldra::subversion
