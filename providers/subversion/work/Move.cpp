@@ -49,51 +49,47 @@ bool hasChanges(Project& project, const std::string& directory) {
 }  // namespace
 
 Move::Move(Project& project, std::string from, std::string to)
-    : m_project(project), m_from(std::move(from)), m_to(std::move(to)) {
-  const FileStates states = localStates(project.client, {m_from, m_to});
-  const FileState& old = stateIn(states, m_from);
-  if (!old.isControlled)
-    throw Failure(SCC_E_FILENOTCONTROLLED,
-                  "'" + lastPartOf(m_from) + "' is not under version control.");
-  if (stateIn(states, m_to).isControlled)
-    throw Failure(SCC_E_OPNOTPERFORMED,
-                  "'" + lastPartOf(m_to) + "' is under version control already.");
-  m_wasRenamed = exists(m_to) && !exists(m_from);
-  if (exists(m_to) && !m_wasRenamed)
-    throw Failure(SCC_E_OPNOTPERFORMED, "'" + lastPartOf(m_to) + "' exists already.");
-  takeOldPlace();
-  if (!old.isDirectory) return putAside();
-  if (hasChanges(project, m_from)) {
-    leaveDiskAsItWas();
-    throw Failure(SCC_E_OPNOTPERFORMED,
-                  "'" + lastPartOf(m_from) + "' holds changes. Check them in or undo them first.");
-  }
-  // The store moves a directory only for somebody who has seen all that is in it.
-  update(project, {m_from}, svn_depth_infinity);
-}
+    : m_project(project), m_from(std::move(from)), m_to(std::move(to)) {}
 
 Move::~Move() {
   try {
-    if (m_isScheduled) {
-      FileNames dropped{m_to, m_from};
-      std::ranges::reverse(m_newDirectories);
-      std::ranges::copy(m_newDirectories, std::back_inserter(dropped));
-      if (exists(m_to)) renameOnDisk(m_to, m_from);
-      const Pool pool;
-      check(svn_client_revert4(arrayOf({m_to}, pool), svn_depth_infinity, nullptr, FALSE, TRUE,
-                               TRUE, m_project.client, pool));
-      check(svn_client_revert4(arrayOf({m_from}, pool), svn_depth_infinity, nullptr, FALSE, TRUE,
-                               TRUE, m_project.client, pool));
-      dropSchedules(m_project, m_newDirectories);
-    }
+    if (m_isScheduled) dropSchedule();
     leaveDiskAsItWas();
   } catch (const std::exception& problem) {
     m_project.output.warning("The rename could not be undone: " + std::string(problem.what()));
   }
 }
 
-void Move::takeOldPlace() {
+void Move::dropSchedule() {
+  if (exists(m_to)) renameOnDisk(m_to, m_from);
+  for (const std::string& half : {m_to, m_from}) {
+    const Pool pool;
+    check(svn_client_revert4(arrayOf({half}, pool), svn_depth_infinity, nullptr, FALSE, TRUE, TRUE,
+                             m_project.client, pool));
+  }
+  // What is below comes before what is above.
+  std::ranges::reverse(m_newDirectories);
+  dropSchedules(m_project, m_newDirectories);
+}
+
+void Move::prepare() {
+  const FileStates states = localStates(m_project.client, {m_from, m_to});
+  const FileState& old = stateIn(states, m_from);
+  const auto refuseWhen = [this](bool isSo, const std::string& name, const char* reason,
+                                 SCCRTN result = SCC_E_OPNOTPERFORMED) {
+    if (isSo) throw Failure(result, "'" + lastPartOf(name) + "' " + reason);
+  };
+  refuseWhen(!old.isControlled, m_from, "is not under version control.", SCC_E_FILENOTCONTROLLED);
+  refuseWhen(stateIn(states, m_to).isControlled, m_to, "is under version control already.");
+  refuseWhen(exists(m_to) && exists(m_from), m_to, "exists already.");
+  m_wasHeld = old.isHeldHere();
+  m_wasRenamed = exists(m_to);
   if (m_wasRenamed) renameOnDisk(m_to, m_from);
+  if (!old.isDirectory) return putAside();
+  refuseWhen(hasChanges(m_project, m_from), m_from,
+             "holds changes. Check them in or undo them first.");
+  // The store moves a directory only for somebody who has seen all that is in it.
+  update(m_project, {m_from}, svn_depth_infinity);
 }
 
 void Move::putAside() {
@@ -115,8 +111,8 @@ void Move::leaveDiskAsItWas() {
 }
 
 svn_revnum_t Move::commit() {
+  prepare();
   const Pool pool;
-  const bool wasHeld = stateIn(localStates(m_project.client, {m_from}), m_from).isHeldHere();
   {
     const Listening listening(m_project.client, [this](const svn_wc_notify_t& notification) {
       if (notification.action == svn_wc_notify_add && notification.kind == svn_node_dir &&
@@ -134,7 +130,7 @@ svn_revnum_t Move::commit() {
   const svn_revnum_t revision =
       m_project.client.commit(paths, svn_depth_infinity, false, comment.c_str());
   m_isScheduled = false;
-  if (wasHeld) {
+  if (m_wasHeld) {
     check(svn_client_lock(arrayOf({m_to}, pool), nullptr, FALSE, m_project.client, pool));
   }
   renameOnDisk(m_to, m_from);

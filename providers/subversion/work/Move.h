@@ -23,7 +23,8 @@ class Move {
   svn_revnum_t commit();
 
  private:
-  void takeOldPlace();
+  void prepare();
+  void dropSchedule();
   void putAside();
   void putBack();
   void leaveDiskAsItWas();
@@ -33,6 +34,7 @@ class Move {
   std::string m_to;
   std::string m_aside;        ///< Where the changed file waits; empty when there is none.
   bool m_wasRenamed = false;  ///< The program has renamed it already.
+  bool m_wasHeld = false;
   bool m_isScheduled = false;
   FileNames m_newDirectories;
 };
