@@ -219,6 +219,10 @@ TEST_F(SubversionProviderTest, GetMakesFilesWhatTheStoreHas) {
   EXPECT_FALSE(m_sandbox.isWritable("work/loose"));
   EXPECT_EQ(m_provider.get({file("held")}), SCC_E_FILEISCHECKEDOUT);
   EXPECT_EQ(m_sandbox.read("work/held"), "being worked on\n");
+  fs::remove(file("held"));
+  EXPECT_EQ(m_provider.get({file("held")}), SCC_OK);
+  EXPECT_EQ(m_sandbox.read("work/held"), "first\n");
+  EXPECT_EQ(m_provider.status(file("held")), Held);
   EXPECT_EQ(m_provider.get({file("gone")}), SCC_E_FILENOTCONTROLLED);
   EXPECT_EQ(m_provider.get({file("nothing")}), SCC_E_FILENOTCONTROLLED);
 }
@@ -240,6 +244,9 @@ TEST_F(SubversionProviderTest, AddTakesTheDirectoriesAlongAndNothingElse) {
   ASSERT_EQ(m_provider.add({file("p/q/a")}, SCC_KEEP_CHECKEDOUT), SCC_OK);
   EXPECT_EQ(m_provider.query({file("p/q/a"), file("p/q/b")}), (std::vector<LONG>{Held, 0}));
   EXPECT_EQ(m_provider.add({file("none")}), SCC_E_FILENOTEXIST);
+  fs::create_directory(file("empty"));
+  EXPECT_EQ(m_provider.add({file("empty")}), SCC_OK);
+  EXPECT_EQ(m_sandbox.run({"svn", "ls", m_provider.url()}).out, "empty/\np/\n");
 }
 
 TEST_F(SubversionProviderTest, FailedAddLeavesNothingScheduled) {

@@ -30,7 +30,8 @@ Work planFor(Project& project, const FileNames& files, Outcome& outcome) {
   FileNames same;
   for (const std::string& file : files) {
     const FileState& state = stateIn(states, file);
-    if (state.isCheckedOut()) {
+    // A lost file has nothing to lose, even when it is checked out.
+    if (state.isCheckedOut() && !state.isMissing) {
       refuse(project, outcome, file, "is checked out here. Undo the check-out to get it anew.",
              SCC_E_FILEISCHECKEDOUT);
     } else if (state.isDeleted) {

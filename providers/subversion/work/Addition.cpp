@@ -37,6 +37,13 @@ bool asksForKeywords(const std::string& file) {
       });
 }
 
+bool isDirectory(const std::string& name) {
+  const Pool pool;
+  svn_node_kind_t kind = svn_node_none;
+  check(svn_io_check_path(name.c_str(), &kind, pool));
+  return kind == svn_node_dir;
+}
+
 bool isBinary(const std::string& file) {
   const Pool pool;
   const char* type = nullptr;
@@ -65,7 +72,7 @@ void Addition::schedule(const std::string& file, LONG flags) {
   check(svn_client_add5(file.c_str(), svn_depth_empty, TRUE, TRUE, FALSE, TRUE, m_project.client,
                         pool));
   if (std::ranges::find(m_scheduled, file) == m_scheduled.end()) m_scheduled.push_back(file);
-  setProperties(file, flags);
+  if (!isDirectory(file)) setProperties(file, flags);
 }
 
 void Addition::setProperties(const std::string& file, LONG flags) {
