@@ -51,6 +51,7 @@ SCCRTN SCC_CALL SccOpenProject(LPVOID pointer, HWND, LPSTR user, LPCSTR projectN
       if (project->url.empty()) return SCC_E_UNKNOWNPROJECT;
       makeSureThatItExists(*project, comment, flags);
       const Repository repository = repositoryOf(project->client, project->url);
+      project->root = repository.root;
       attachFolder(*project);
       project->user = userNameFor(givenUser, repository.root, repository.uuid);
       if (user && project->user.size() < SCC_USER_SIZE)

@@ -17,7 +17,8 @@ struct Project {
   TextOutput output;
   std::string user;  ///< Who asks; holders of files are compared with this name.
   Client client;
-  std::string url;
+  std::string url;        ///< Of the folder in the store.
+  std::string root;       ///< Of the repository.
   std::string localPath;  ///< In libsvn's form.
 };
 

@@ -86,13 +86,22 @@ bool askStore(Client& client, FileStates& states) {
   });
 }
 
-std::optional<Holder> holderOf(Client& client, const FileState& state) {
+std::unordered_map<std::string, Holder> holdersBelow(Project& project) {
   const Pool pool;
-  svn_lock_t* lock = nullptr;
-  svn_ra_session_t* const session = openSession(client, state.root, "", pool);
-  check(svn_ra_get_lock(session, &lock, state.pathInStore.c_str(), pool));
-  if (!lock) return std::nullopt;
-  return holderFrom(*lock);
+  const char* folder = svn_uri_skip_ancestor(project.root.c_str(), project.url.c_str(), pool);
+  if (!folder) return {};
+  apr_hash_t* locks = nullptr;
+  svn_ra_session_t* const session = openSession(project.client, project.root, folder, pool);
+  check(svn_ra_get_locks2(session, &locks, "", svn_depth_infinity, pool));
+  std::unordered_map<std::string, Holder> holders;
+  for (apr_hash_index_t* i = apr_hash_first(pool, locks); i; i = apr_hash_next(i)) {
+    const auto* path = static_cast<const char*>(apr_hash_this_key(i)) + 1;
+    const char* below = svn_relpath_skip_ancestor(folder, path);
+    if (!below) continue;
+    holders.emplace(svn_dirent_join(project.localPath.c_str(), below, pool),
+                    holderFrom(*static_cast<const svn_lock_t*>(apr_hash_this_val(i))));
+  }
+  return holders;
 }
 
 }  // namespace veldra::subversion

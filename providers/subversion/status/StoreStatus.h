@@ -1,6 +1,6 @@
 #pragma once
 
-#include "providers/subversion/session/Client.h"
+#include "providers/subversion/session/Project.h"
 #include "providers/subversion/status/FileState.h"
 
 namespace veldra::subversion {
@@ -12,7 +12,7 @@ namespace veldra::subversion {
 /// longer than letting libsvn compare everything; the states are then as they were.
 [[nodiscard]] bool askStore(Client& client, FileStates& states);
 
-/// Who holds a file in the store, or nobody.
-std::optional<Holder> holderOf(Client& client, const FileState& state);
+/// Who holds the files below the project's folder, by their names in the working copy. One request.
+std::unordered_map<std::string, Holder> holdersBelow(Project& project);
 
 }  // namespace veldra::subversion
