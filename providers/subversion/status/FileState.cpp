@@ -2,6 +2,9 @@
 
 #include <svn_client.h>
 
+#include <mutex>
+#include <set>
+
 namespace veldra::subversion {
 
 using namespace scc;
@@ -37,10 +40,20 @@ void takeStore(FileState& state, const svn_client_status_t& status) {
                                              isReported(status.repos_prop_status));
   if (status.repos_node_status == svn_wc_status_deleted) state.isDeleted = true;
   if (const svn_lock_t* lock = status.repos_lock) {
-    state.holder = Holder{lock->token, lock->owner ? lock->owner : "",
-                          lock->comment ? lock->comment : "", lock->creation_date};
+    state.holder = holderFrom(*lock);
   }
   if (state.isOnlyThere) state.isDirectory = status.ood_kind == svn_node_dir;
+}
+
+/// Many files share one root, so each root is kept once. There are as many as repositories.
+const std::string* rootFor(const char* url) {
+  static std::mutex mutex;
+  static std::set<std::string, std::less<>> roots;
+  thread_local const std::string* last = nullptr;
+  if (last && *last == url) return last;
+  const std::lock_guard guard(mutex);
+  last = &*roots.emplace(url).first;
+  return last;
 }
 
 LONG heldWord(const FileState& state, const std::string& user) {
@@ -54,6 +67,12 @@ LONG heldWord(const FileState& state, const std::string& user) {
 
 }  // namespace
 
+std::shared_ptr<const Holder> holderFrom(const svn_lock_t& lock) {
+  return std::make_shared<const Holder>(Holder{lock.token, lock.owner ? lock.owner : "",
+                                               lock.comment ? lock.comment : "",
+                                               lock.creation_date});
+}
+
 FileState stateOf(const svn_client_status_t& status) {
   FileState state;
   state.isDirectory = status.kind == svn_node_dir;
@@ -66,7 +85,7 @@ FileState stateOf(const svn_client_status_t& status) {
   state.isConflicted = status.conflicted;
   state.isDeleted = status.versioned && status.node_status == svn_wc_status_deleted;
   state.revision = status.revision;
-  if (status.repos_root_url) state.root = status.repos_root_url;
+  if (status.repos_root_url) state.root = rootFor(status.repos_root_url);
   if (status.repos_relpath) state.pathInStore = status.repos_relpath;
   if (status.lock && status.lock->token) state.token = status.lock->token;
   takeStore(state, status);

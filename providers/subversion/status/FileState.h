@@ -2,7 +2,7 @@
 
 #include <svn_types.h>
 
-#include <optional>
+#include <memory>
 #include <string>
 #include <unordered_map>
 
@@ -32,16 +32,18 @@ struct FileState {
   bool isOutOfDate = false;  ///< The store has something newer.
   bool isOnlyThere = false;  ///< In the store, not in the working copy.
   svn_revnum_t revision = SVN_INVALID_REVNUM;
-  std::string root;              ///< URL of the repository.
-  std::string pathInStore;       ///< From the repository's root, without a slash at the front.
-  std::string token;             ///< Of the lock that the working copy holds; empty for none.
-  std::optional<Holder> holder;  ///< Only known after the store was asked.
+  const std::string* root = nullptr;  ///< URL of the repository.
+  std::string pathInStore;            ///< From the repository's root, without a slash at the front.
+  std::string token;                  ///< Of the lock that the working copy holds; empty for none.
+  std::shared_ptr<const Holder> holder;  ///< Only known after the store was asked.
 
   /// Checked out into this working copy, as far as the working copy knows.
   bool isHeldHere() const { return !token.empty(); }
   /// The same, and the store agrees.
   bool isCheckedOut() const { return holder && holder->token == token; }
 };
+
+std::shared_ptr<const Holder> holderFrom(const svn_lock_t& lock);
 
 using FileStates = std::unordered_map<std::string, FileState>;
 

@@ -30,7 +30,7 @@ FileStates fileStates(Project& project, const FileNames& files) {
 FileStates treeStates(Project& project, const std::string& directory, svn_depth_t depth) {
   FileStates states;
   readStatus(project.client, directory, depth, StoreIsAsked::Yes,
-             [&states](const std::string& path, const svn_client_status_t& status) {
+             [&states](const char* path, const svn_client_status_t& status) {
                states.insert_or_assign(path, stateOf(status));
              });
   return states;

@@ -9,8 +9,7 @@ namespace veldra::subversion {
 
 enum class StoreIsAsked { No, Yes };
 
-using StatusReceiver =
-    std::function<void(const std::string& path, const svn_client_status_t& status)>;
+using StatusReceiver = std::function<void(const char* path, const svn_client_status_t& status)>;
 
 /// Reports every file and directory below `path` to that depth, ignored ones included. A path that
 /// belongs to no working copy has nothing below it.

@@ -20,12 +20,17 @@ constexpr svn_revnum_t FarBehind = 2000;
 
 using StatesOfStore = std::vector<FileState*>;
 
+/// The deepest folder that holds all of them.
 std::string commonParent(const StatesOfStore& states) {
-  const Pool pool;
-  const char* common = svn_relpath_dirname(states.front()->pathInStore.c_str(), pool);
+  std::string common = states.front()->pathInStore;
+  const auto goUp = [&common] {
+    const std::size_t slash = common.rfind('/');
+    common.resize(slash == std::string::npos ? 0 : slash);
+  };
+  goUp();
   for (const FileState* state : states) {
-    common = svn_relpath_get_longest_ancestor(common, state->pathInStore.c_str(), pool);
-    if (*common == '\0') break;
+    const std::string& path = state->pathInStore;
+    while (!common.empty() && !(path.starts_with(common) && path[common.size()] == '/')) goUp();
   }
   return common;
 }
@@ -36,11 +41,6 @@ svn_ra_session_t* openSession(Client& client, const std::string& root, const std
   const char* url = svn_path_url_add_component2(root.c_str(), folder.c_str(), pool);
   check(svn_client_open_ra_session2(&session, url, nullptr, client, pool, pool));
   return session;
-}
-
-Holder holderFrom(const svn_lock_t& lock) {
-  return {lock.token, lock.owner ? lock.owner : "", lock.comment ? lock.comment : "",
-          lock.creation_date};
 }
 
 void addHolders(svn_ra_session_t* session, const StatesOfStore& states, apr_pool_t* pool) {
@@ -77,12 +77,13 @@ bool askOneStore(Client& client, const std::string& root, const StatesOfStore& s
 }  // namespace
 
 bool askStore(Client& client, FileStates& states) {
-  std::map<std::string, StatesOfStore> byRoot;
+  std::map<std::string_view, StatesOfStore> byRoot;
   for (auto& [path, state] : states) {
-    if (state.isControlled && !state.pathInStore.empty()) byRoot[state.root].push_back(&state);
+    if (state.isControlled && state.root && !state.pathInStore.empty())
+      byRoot[*state.root].push_back(&state);
   }
   return std::ranges::all_of(byRoot, [&client](const auto& store) {
-    return askOneStore(client, store.first, store.second);
+    return askOneStore(client, std::string(store.first), store.second);
   });
 }
 
@@ -99,7 +100,7 @@ std::unordered_map<std::string, Holder> holdersBelow(Project& project) {
     const char* below = svn_relpath_skip_ancestor(folder, path);
     if (!below) continue;
     holders.emplace(svn_dirent_join(project.localPath.c_str(), below, pool),
-                    holderFrom(*static_cast<const svn_lock_t*>(apr_hash_this_val(i))));
+                    *holderFrom(*static_cast<const svn_lock_t*>(apr_hash_this_val(i))));
   }
   return holders;
 }
