@@ -50,9 +50,9 @@ void loadProviderOnce() {
   VELDRA_TRACE("Invoking LoadDll");
   ProviderState& state = providerState();
   if (!state.libraryPath.empty()) state.dll.setPath(state.libraryPath.c_str());
-  const bool isLoaded = state.dll.load();
+  state.dll.load();
   CMProperty::setIsLoaded(true);
-  if (isLoaded || state.libraryPath.empty()) return;
+  if (state.dll.isLoaded() || state.libraryPath.empty()) return;
   notifyUserAndAsk(
       formatMessage(MessageId::ProviderNotLoaded, {state.libraryPath, state.dll.loadError()}),
       MessageBox::IconError);

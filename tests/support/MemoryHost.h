@@ -39,6 +39,8 @@ class MemoryHost : public Host {
 
   /// Where libraries come from: memory, unless a test loads real ones.
   ILibraries* loader = &memoryLibraries;
+  /// What stands between a fault and the end of the process; tests of real faults need a real one.
+  CSignal2Exception* guard = &memoryFaultGuard;
 
   /// Without them the host has only what every host must have.
   bool offersOptionalFacilities = true;
@@ -52,7 +54,7 @@ class MemoryHost : public Host {
   IAbstractCMManager* cmManager() override { return offered(manager); }
   Undoer* undoer() override { return offered(undo); }
   LogTrace* trace() override { return offered(traceLog); }
-  CSignal2Exception* faultGuard() override { return offered(memoryFaultGuard); }
+  CSignal2Exception* faultGuard() override { return offered<CSignal2Exception>(*guard); }
   IProgress* progress() override { return offered(memoryProgress); }
   IRegistry* registry() override { return offered(memoryRegistry); }
   ILibraries* libraries() override { return offered<ILibraries>(*loader); }
