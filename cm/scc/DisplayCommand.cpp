@@ -2,33 +2,30 @@
 
 #include <algorithm>
 
+#include "cm/scc/ProviderBatch.h"
+
 namespace veldra {
 
-namespace {
+bool DisplayCommand::conclude(long code, const UnitList& shown) {
+  if (!isQuiet(code)) return succeeds(code, nullptr);
+  if (code == scc::SCC_I_RELOADFILE) reload(shown);
+  return true;
+}
 
-void reloadAll(UnitList& units) {
-  ReloadBracket bracket(!units.empty());
-  CMUnitValidator validator;
-  validator.init(units);
-  const UnitList before = units;
-  for (IUnit* unit : before) {
-    if (unit == nullptr || isGone(validator, unit) || unit->asEmbededFile() != nullptr) continue;
+void DisplayCommand::reload(const UnitList& shown) {
+  const ReloadBracket bracket(!shown.empty());
+  std::size_t position = 0;
+  for (IUnit* unit : shown) {
+    ++position;
+    if (isGone(m_validator, unit) || unit->asEmbededFile() != nullptr) continue;
     const std::string file = unit->getFullFileName();
-    UnitReport report("Reload", 1, 1, file);
-    IUnit* const reloaded = reloadTraced(*unit, file, validator, ReloadMode::Plain, report);
+    UnitReport report("Reload", position, shown.size(), file);
+    IUnit* const reloaded = reloadTraced(*unit, file, m_validator, ReloadMode::Plain, report);
     if (reloaded == nullptr) continue;
-    std::ranges::replace(units, unit, reloaded);
+    std::ranges::replace(m_units, unit, reloaded);
     updateUnit(*reloaded, {.headerLine = UnitUpdate::Header, .modeLine = UnitUpdate::Mode},
                nullptr);
   }
-}
-
-}  // namespace
-
-bool concludeDisplay(long code, UnitList& units) {
-  if (!isQuiet(code)) return succeeds(code, nullptr);
-  if (code == scc::SCC_I_RELOADFILE) reloadAll(units);
-  return true;
 }
 
 }  // namespace veldra

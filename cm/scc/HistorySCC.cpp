@@ -3,6 +3,7 @@
 #include "cm/core/CMArchiveItem.h"
 #include "cm/scc/ArchiveUnits.h"
 #include "cm/scc/DisplayCommand.h"
+#include "cm/scc/ProviderBatch.h"
 #include "cm/templates/CMProperty.h"
 
 namespace veldra {
@@ -21,21 +22,20 @@ bool showsSeveralFiles() {
   return (providerState().capabilities & scc::SCC_CAP_HISTORY_MULTFILE) != 0;
 }
 
-bool showBatch(ProviderBatch& batch, std::size_t& position, std::size_t count) {
-  batch.begin(position, count);
-  const bool together = showsSeveralFiles();
+bool showTogether(DisplayCommand& display, ProviderBatch& batch) {
+  const long code = showHistory(FileNames(batch.names()), batch.context());
+  if (display.conclude(code, batch.units())) return true;
+  for (std::size_t i = 0; i < batch.names().size(); ++i) markFailed(code, batch.report(i));
+  return false;
+}
+
+bool showEach(DisplayCommand& display, ProviderBatch& batch) {
   bool isShown = true;
   for (std::size_t i = 0; i < batch.names().size(); ++i) {
-    UnitList units = together ? batch.units() : UnitList{batch.units()[i]};
-    const long code = showHistory(together ? FileNames(batch.names()) : FileNames(batch.names()[i]),
-                                  batch.context());
-    if (!concludeDisplay(code, units)) {
-      isShown = false;
-      for (std::size_t k = together ? 0 : i; k < (together ? units.size() : i + 1); ++k) {
-        markFailed(code, batch.report(k));
-      }
-    }
-    if (together) break;
+    const long code = showHistory(FileNames(batch.names()[i]), batch.context());
+    if (display.conclude(code, {batch.units()[i]})) continue;
+    markFailed(code, batch.report(i));
+    isShown = false;
   }
   return isShown;
 }
@@ -46,10 +46,13 @@ int HistorySCC::operator()(UnitList& units, ArgumentList& /*arguments*/,
                            DiagnosticList& diagnostics) {
   std::vector<ProviderBatch> batches = batchesOf(units, Name, ContextLine);
   if (batches.empty() || !offers(providerState().dll.SccHistory, Name, diagnostics)) return 0;
+  DisplayCommand display(units);
   std::size_t position = 0;
   int result = 1;
   for (ProviderBatch& batch : batches) {
-    if (!showBatch(batch, position, units.size())) result = 0;
+    batch.begin(position, units.size());
+    const auto show = showsSeveralFiles() ? &showTogether : &showEach;
+    if (!show(display, batch)) result = 0;
   }
   return result;
 }
@@ -64,9 +67,9 @@ int HistorySCC::ofItems(CMArchiveItemList& items, ArgumentList& /*arguments*/,
     const std::string file = item->getFullUnitFileName();
     IUnit* const unit = unitOfItem(*item);
     UnitList units = unit != nullptr ? UnitList{unit} : UnitList{};
-    if (!concludeDisplay(showHistory(FileNames(file), context->getpvContextPtr()), units)) {
-      result = 0;
-    }
+    DisplayCommand display(units);
+    const long code = showHistory(FileNames(file), context->getpvContextPtr());
+    if (!display.conclude(code, UnitList(units))) result = 0;
   }
   return result;
 }

@@ -1,6 +1,7 @@
 #include "cm/scc/PropertiesSCC.h"
 
 #include "cm/scc/DisplayCommand.h"
+#include "cm/scc/ProviderBatch.h"
 
 namespace veldra {
 
@@ -21,14 +22,14 @@ int PropertiesSCC::operator()(UnitList& units, ArgumentList& /*arguments*/,
   std::vector<ProviderBatch> batches =
       batchesOf(units, Name, "Getting SCC Context to show properties");
   if (batches.empty() || !offers(providerState().dll.SccProperties, Name, diagnostics)) return 0;
+  DisplayCommand display(units);
   std::size_t position = 0;
   int result = 1;
   for (ProviderBatch& batch : batches) {
     batch.begin(position, units.size());
     for (std::size_t i = 0; i < batch.names().size(); ++i) {
-      UnitList shown{batch.units()[i]};
       const long code = showProperties(batch.names()[i], batch.context());
-      if (concludeDisplay(code, shown)) continue;
+      if (display.conclude(code, {batch.units()[i]})) continue;
       markFailed(code, batch.report(i));
       result = 0;
     }
