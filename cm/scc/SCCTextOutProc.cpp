@@ -1,11 +1,19 @@
 #include "cm/scc/SCCTextOutProc.h"
 
 #include "cm/core/CMOutputer.h"
-#include "cm/host/IUserMessages.h"
+#include "cm/host/Host.h"
 #include "cm/host/MessageIds.h"
 #include "cm/scc/CallbackThread.h"
 
 namespace veldra {
+
+namespace {
+/// The one text that may be empty, which is not the same as missing.
+std::string trailer() {
+  Host* const host = installedHost();
+  return host != nullptr ? host->messages().loadString(MessageId::ProviderTrailer) : std::string();
+}
+}  // namespace
 
 SCCTextOutProc::Message SCCTextOutProc::messageOf(long code) {
   std::string error = loadMessage(MessageId::ProviderErrorPrefix);
@@ -24,7 +32,7 @@ SCCTextOutProc::Message SCCTextOutProc::messageOf(long code) {
     // A warning all the same, so that this text is never seen; users know the short one.
     error += loadMessage(MessageId::ProviderUnknownCode);
   }
-  return {(kind == Error ? error : information) + loadMessage(MessageId::ProviderTrailer), kind};
+  return {(kind == Error ? error : information) + trailer(), kind};
 }
 
 long SCCTextOutProc::InternalTextOutProc(long code, int toOutputWindow) {
