@@ -29,9 +29,9 @@ class ProviderBatch {
     std::size_t kept = 0;
     for (std::size_t i = 0; i < m_units.size(); ++i) {
       if (staysOut(i, *m_reports[i])) continue;
-      m_units[kept] = m_units[i];
-      m_names[kept] = std::move(m_names[i]);
-      m_reports[kept++] = std::move(m_reports[i]);
+      std::swap(m_units[kept], m_units[i]);
+      m_names[kept].swap(m_names[i]);
+      m_reports[kept++].swap(m_reports[i]);
     }
     m_units.resize(kept);
     m_names.resize(kept);
