@@ -364,7 +364,7 @@ TEST_F(SubversionProviderTest, ListsWhatFitsTheCommand) {
     Names listed;
     Names expected;
   } cases[] = {
-      {SCC_COMMAND_GET, {}, {"+free", "+other", "+store"}},
+      {SCC_COMMAND_GET, {}, {"+free", "+held", "+other", "+store"}},
       {SCC_COMMAND_CHECKOUT, {names[2]}, {"-other", "+free", "+store"}},
       {SCC_COMMAND_CHECKIN, {names[0]}, {"-free", "+held"}},
       {SCC_COMMAND_ADD, {file("fresh"), names[0]}, {"+fresh", "-free"}},

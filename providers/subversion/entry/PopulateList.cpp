@@ -27,7 +27,8 @@ constexpr LONG Controlled = SCC_STATUS_CONTROLLED;
 constexpr LONG Anything = 0;
 
 constexpr Fitness FitnessTable[] = {
-    {SCC_COMMAND_GET, Controlled, SCC_STATUS_CHECKEDOUT | SCC_STATUS_DELETED},
+    // Programs list an archive in this way, so files that are checked out are not left out.
+    {SCC_COMMAND_GET, Controlled, SCC_STATUS_DELETED},
     {SCC_COMMAND_CHECKOUT, Controlled,
      SCC_STATUS_CHECKEDOUT | SCC_STATUS_OUTEXCLUSIVE | SCC_STATUS_DELETED},
     {SCC_COMMAND_CHECKIN, SCC_STATUS_CHECKEDOUT, SCC_STATUS_DELETED},
