@@ -78,6 +78,8 @@ class ReferenceHost : public Host {
   Undoer* undoer() override;
   LogTrace* trace() override;
   CSignal2Exception* faultGuard() override;
+  IRegistry* registry() override;
+  ILibraries* libraries() override;
   IProgress* progress() override;
   IKeptCopies* keptCopies() override;
   QuickATMFacade* quickReload() override;

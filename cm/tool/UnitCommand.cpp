@@ -11,14 +11,6 @@
 
 namespace veldra {
 
-void updateHeaderAndMode(IUnit& unit) {
-  const std::string file = unit.getFullFileName();
-  VELDRA_TRACE("Updating CM Header for unit ", file);
-  unit.updateCMHeader();
-  VELDRA_TRACE("Updating Mode for unit ", file);
-  unit.updateMode("");
-}
-
 CommandTemplate UnitCommand::templateFor(IUnit& /*unit*/, const UnitCallFrame& /*call*/) const {
   return {.property = row().templateProperty};
 }

@@ -8,6 +8,7 @@
 #include "cm/core/CMArguments.h"
 #include "cm/core/CMOperation.h"
 #include "cm/core/CMUnitValidator.h"
+#include "cm/core/UnitReload.h"
 #include "cm/host/Reload.h"
 #include "cm/tool/ToolFrame.h"
 #include "cm/tool/UnitBatches.h"
@@ -73,8 +74,5 @@ class UnitCommand : public CMWorkspaceOperation {
   void runUnit(UnitRun& run, const UnitCallFrame& call, UnitProgress& progress) const;
   int runCommand(UnitRun& run, const UnitCallFrame& call, UnitProgress& progress) const;
 };
-
-/// The trace-accompanied refresh of a unit's CM header and mode.
-void updateHeaderAndMode(IUnit& unit);
 
 }  // namespace veldra

@@ -25,6 +25,7 @@ std::span<const Command> commandTable() {
       {"rename", "Give a unit another name", NewName | Comment, runRename},
       {"property", "Show and change settings", Property, runProperty},
       {"expand", "Show what a command template becomes", Expansion, runExpand},
+      {"provider", "Show, install and choose source-control providers", Provider, runProvider},
       {"pack", "Show the tool packs, and check them", Pack, runPack},
       {"kept", "Show and restore copies of files that commands have overwritten", Kept, runKept},
       {"trust", "Show the commands that the project brings, and trust them", Trust, runTrust},

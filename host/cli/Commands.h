@@ -48,6 +48,7 @@ ExitCode runRename(const Invocation& invocation);
 ExitCode runProperty(const Invocation& invocation);
 ExitCode runExpand(const Invocation& invocation);
 ExitCode runPack(const Invocation& invocation);
+ExitCode runProvider(const Invocation& invocation);
 ExitCode runKept(const Invocation& invocation);
 ExitCode runTrust(const Invocation& invocation);
 

@@ -49,6 +49,12 @@ std::span<const OptionRow> optionTable() {
       {Property, "value", "VALUE", "The new value", &Options::value},
       {Property, "--user", "", "Store it for the user instead of the project", &Options::forUser},
 
+      {Provider, "action", "list|install|use", "What to do", &Options::action, true},
+      {Provider, "provider", "NAME",
+       "The provider; for install its library, otherwise the one that comes with this program",
+       &Options::key},
+      {Provider, "--machine", "", "Install it for every user of the machine", &Options::forMachine},
+
       {Pack, "action", "list|show|check", "What to do", &Options::action, true},
       {Pack, "name", "NAME", "The pack; for check also a file that ends with .toml", &Options::key},
 

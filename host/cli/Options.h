@@ -40,6 +40,7 @@ struct Options {
   std::optional<std::string> key;
   std::optional<std::string> value;
   bool forUser = false;
+  bool forMachine = false;
 
   bool list = false;
   bool yes = false;
@@ -58,6 +59,7 @@ inline constexpr unsigned Archive = 0x80;
 inline constexpr unsigned Expansion = 0x100;
 inline constexpr unsigned Property = 0x200;
 inline constexpr unsigned Pack = 0x400;
+inline constexpr unsigned Provider = 0x2000;
 inline constexpr unsigned Trust = 0x800;
 inline constexpr unsigned Kept = 0x1000;
 inline constexpr unsigned Recursive = 0x10000;

@@ -2,6 +2,7 @@
 #include <unordered_map>
 
 #include "host/cli/ArchiveContent.h"
+#include "host/cli/ProviderStatus.h"
 #include "host/cli/Session.h"
 #include "host/cli/UnitDescription.h"
 #include "host/cli/UnitSelection.h"
@@ -13,9 +14,8 @@ namespace veldra::host::cli {
 
 namespace {
 
-std::vector<UnitRecord> describeWorkspace() {
+std::vector<UnitRecord> describeUnits(const UnitList& units) {
   const CMHeaderReader headers;
-  const UnitList units = selectAll(AllUnits::Every).units;
   std::vector<UnitRecord> records;
   records.reserve(units.size());
   for (IUnit* unit : units) records.push_back(describeUnit(*unit, headers));
@@ -62,7 +62,8 @@ ExitCode runStatus(const Invocation& invocation) {
   } else {
     session.openToLook();
   }
-  Report report{.command = invocation.command.name, .units = describeWorkspace()};
+  const UnitList units = selectAll(AllUnits::Every).units;
+  Report report{.command = invocation.command.name, .units = describeUnits(units)};
   for (UnitRecord& unit : report.units) unit.state = stateOf(unit);
   if (invocation.options.update) {
     const ArchiveContent content = listArchive(session);
@@ -70,6 +71,9 @@ ExitCode runStatus(const Invocation& invocation) {
       takeFromArchive(content.files, session.host().environment().omGetCurrentUser(), report.units);
     }
     report.message = content.failure;
+  }
+  if (report.message.empty()) {
+    report.message = takeFromProvider(session, units, report.units).value_or("");
   }
   if (invocation.options.json) {
     printJson(report, console.out);

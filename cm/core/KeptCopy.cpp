@@ -1,4 +1,4 @@
-#include "cm/tool/KeptCopy.h"
+#include "cm/core/KeptCopy.h"
 
 #include <utility>
 
