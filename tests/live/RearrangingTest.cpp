@@ -81,6 +81,7 @@ TEST_P(RearrangingTest, APackageIsMovedAndRenamedWithEverythingInIt) {
 TEST_P(RearrangingTest, DeletedUnitsLeaveTheArchiveTheModelAndTheDisk) {
   inModel(0, {"delete", "Brewing/Grinder.vcmp", "-m", "no longer"});
   inModel(3, {"delete", "Milk"});
+  EXPECT_THAT(inModel(3, {"delete", "-r", "Machine.vdy"}).err, HasSubstr("project itself"));
   inModel(1, {"delete", "-r", "Milk", "Milk/Steam Wand.vcmp", "Brewing::Boiler"});
   EXPECT_EQ(onDisk().count("Milk/Milk.vpkg"), 1U) << "a unit named twice deletes nothing";
 }

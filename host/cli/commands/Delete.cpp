@@ -7,8 +7,10 @@ namespace veldra::host::cli {
 
 namespace {
 
-/// A package goes with its folder when the tool can do that; otherwise its units go one by one.
+/// A package goes with its folder when the tool can do that; otherwise its units go one by one. A
+/// project never goes, and neither do its units in its place.
 bool goesWithFolder(const UnitCore& unit) {
+  if (&unit == &static_cast<const UnitCore&>(unit.project())) return true;
   std::string command;
   return unit.record().directoryUnit && unit.hasFile() &&
          CMProperty::getToolPropertyValue(IPN::DeleteDirectory, command) && !command.empty();
@@ -26,12 +28,14 @@ ExitCode runDelete(const Invocation& invocation) {
                                 .all = AllUnits::Every,
                                 .lock = "given back",
                                 .plan = [isRecursive](UnitCore& unit) -> Result<Rearrangement> {
-                                  if (!isRecursive && !unit.children().empty()) {
+                                  Result<Rearrangement> planned =
+                                      Rearrangement::planDelete(unit, goesWithFolder(unit));
+                                  if (planned && !isRecursive && !unit.children().empty()) {
                                     return Result<Rearrangement>::failure(
                                         "It holds " + std::to_string(unit.children().size()) +
                                         " units of its own. Give -r to delete them with it.");
                                   }
-                                  return Rearrangement::planDelete(unit, goesWithFolder(unit));
+                                  return planned;
                                 },
                                 .wholePackage = goesWithFolder};
   return runUnitOperation(invocation, operation);

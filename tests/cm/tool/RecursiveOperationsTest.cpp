@@ -24,6 +24,11 @@ class RecursiveOperationsTest : public ToolTest {
     set(IPN::CMSaveOnCheckOut, "True");
     answer("do", {.output = "answer"});
   }
+  using Call = int (RecursiveOperationsTest::*)(bool);
+  template <class Operation>
+  static Call callOf() {
+    return &RecursiveOperationsTest::callOnUnits<Operation>;
+  }
 };
 
 TEST_F(RecursiveOperationsTest, StepsAndTracesOfEachOperation) {
@@ -33,19 +38,19 @@ TEST_F(RecursiveOperationsTest, StepsAndTracesOfEachOperation) {
                  "Recursive " + answer + " command returned the following: answer"};
   };
   struct Row {
-    int (RecursiveOperationsTest::*call)(bool);
+    Call call;
     Lines events;
     Lines traces;
   };
   const Row rows[] = {
-      {&RecursiveOperationsTest::callOnUnits<CMRecCheckIn>,
+      {callOf<CMRecCheckIn>(),
        {"save", "handler-prepare 2 " + file, "run do A.vcl", "handler-complete " + file,
         "header A.vcl", "mode A.vcl"},
        traces("check in the file(s)", "check in")},
-      {&RecursiveOperationsTest::callOnUnits<CMRecCheckOut>,
+      {callOf<CMRecCheckOut>(),
        {"save", "handler-prepare 1 " + file, "run do A.vcl", "handler-complete " + file},
        traces("check out the file(s)", "check out")},
-      {&RecursiveOperationsTest::callOnUnits<CMRecUnCheckout>,
+      {callOf<CMRecUnCheckout>(),
        {"run do A.vcl"},
        traces("uncheck out the file(s)", "uncheck out")},
   };
