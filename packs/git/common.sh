@@ -21,8 +21,10 @@ configure color.ui false
 configure core.askPass ''
 
 # An ssh that may not ask fails at once instead of waiting.
-[ -n "${GIT_SSH_COMMAND:-${GIT_SSH:-}}" ] ||
-  export GIT_SSH_COMMAND="$(git config core.sshCommand || echo ssh) -o BatchMode=yes"
+if [ -z "${GIT_SSH_COMMAND:-${GIT_SSH:-}}" ]; then
+  GIT_SSH_COMMAND="$(git config core.sshCommand || echo ssh) -o BatchMode=yes"
+  export GIT_SSH_COMMAND
+fi
 
 # on UNITS COMMAND...: a git command that takes the paths from its input.
 on() {
