@@ -2,7 +2,8 @@
 # them, which connect.sh has found out. Elsewhere a file is just made writable.
 
 has_locks() {
-  [ "$(git config --type=bool veldra.locks || :)" = true ]
+  setting veldra.locks
+  [ "$value" = true ]
 }
 
 # holders: a line a lock: path from the top of the repository, tab, holder.
