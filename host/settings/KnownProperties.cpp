@@ -62,14 +62,6 @@ constexpr KnownProperty Known[] = {
     {"UserDefCommand_2", Command},
     {"UserDefCommand_3", Command},
     {"UserDefCommand_4", Command},
-    {"AddMemberBatch", Command},
-    {"AddMember_ControlledFileBatch", Command},
-    {"CheckInBatch", Command},
-    {"CheckOutBatch", Command},
-    {"FetchBatch", Command},
-    {"LockBatch", Command},
-    {"UnLockBatch", Command},
-    {"DeleteBatch", Command},
 
     // What keywords stand for when the caller gives no value.
     {"label", Command},
@@ -196,7 +188,12 @@ std::span<const KnownProperty> knownProperties() {
 
 const KnownProperty* knownProperty(std::string_view name) {
   const auto* const at = std::ranges::find(Known, name, &KnownProperty::name);
-  return at != std::end(Known) ? at : nullptr;
+  if (at != std::end(Known)) return at;
+  // Every command template may have one more for a list of units.
+  constexpr std::string_view Batch = "Batch";
+  if (!name.ends_with(Batch)) return nullptr;
+  const KnownProperty* const single = knownProperty(name.substr(0, name.size() - Batch.size()));
+  return single != nullptr && single->kind == Command ? single : nullptr;
 }
 
 std::span<const std::string_view> argumentKeywords() {

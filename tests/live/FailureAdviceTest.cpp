@@ -16,7 +16,8 @@ using testing::Not;
 class FailureAdviceTest : public testing::TestWithParam<const char*> {
  protected:
   void SetUp() override {
-    if (!isInstalled(programOf(GetParam()))) GTEST_SKIP() << GetParam() << " is not installed";
+    if (!isInstalled(makeTool(GetParam(), m_sandbox)->traits().program))
+      GTEST_SKIP() << GetParam() << " is not installed";
     m_sandbox.become("alice");
     m_sandbox.copySample("model");
     ASSERT_EQ(m_sandbox
@@ -53,7 +54,7 @@ TEST_P(FailureAdviceTest, FailuresOfTheDailyWork) {
   expectAdvice({"history", "Product/Product.vpkg"}, "veldra-cm add");
   expectAdvice({"fetch", m_unit, "-l", std::string(GetParam()) == "RCS" ? "9.9" : "99"},
                "veldra-cm history");
-  m_tool->makeWorkingCopy("model", "second");
+  m_tool->makeWorkingCopy(m_tool->archive(), "second");
   ASSERT_EQ(cm({"checkout", m_unit}).code, 0);
   m_sandbox.become("bob");
   m_project = "second";
@@ -81,7 +82,7 @@ TEST_P(FailureAdviceTest, AnArchiveThatIsGoneOrAFolderThatIsNotConnected) {
 
 TEST_P(FailureAdviceTest, ANewerRevisionInTheArchiveMeansFetchFirst) {
   if (std::string(GetParam()) != "Subversion") GTEST_SKIP() << "RCS locks before any change";
-  m_tool->makeWorkingCopy("model", "second");
+  m_tool->makeWorkingCopy(m_tool->archive(), "second");
   m_sandbox.shell("cd second && chmod u+w " + m_unit + " && echo >>" + m_unit +
                   " && svn commit -q -m other");
   m_sandbox.shell("cd model && chmod u+w " + m_unit + " && echo '//' >>" + m_unit);

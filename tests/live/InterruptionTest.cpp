@@ -83,6 +83,8 @@ class InterruptionTest : public testing::Test {
 };
 
 TEST_F(InterruptionTest, ACheckOutThatIsEndedInTheMiddleIsFinishedByTheNext) {
+  // Unit by unit, so that there is a middle.
+  ASSERT_EQ(cm({"property", "set", "--user", "Subversion.CheckOutBatch", ""}).code, 0);
   int former = 0;
   for (const std::string signal : {"INT", "TERM", "KILL"}) {
     endInTheMiddle("checkout --all", signal, 10);

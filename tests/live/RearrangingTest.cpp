@@ -14,7 +14,8 @@ using testing::HasSubstr;
 class RearrangingTest : public testing::TestWithParam<const char*> {
  protected:
   void SetUp() override {
-    if (!isInstalled(programOf(GetParam()))) GTEST_SKIP() << GetParam() << " is not installed";
+    if (!isInstalled(makeTool(GetParam(), m_sandbox)->traits().program))
+      GTEST_SKIP() << GetParam() << " is not installed";
     m_sandbox.copySample("model");
     cm(0, {"init", "model", "--name", "Machine", "--tool", GetParam(), "--archive", "archive"});
     cm(0, {"-p", "model", "add", "--all", "-m", "first"});
