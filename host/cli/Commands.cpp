@@ -23,12 +23,17 @@ std::span<const Command> commandTable() {
        NamedUnits | Recursive | Comment, runDelete},
       {"move", "Move units to another package, which is named last", NamedUnits | Comment, runMove},
       {"rename", "Give a unit another name", NewName | Comment, runRename},
+      {"run", "Run the command of a property, for each unit or once", Running | Comment | Label,
+       runRun},
       {"property", "Show and change settings", Property, runProperty},
       {"expand", "Show what a command template becomes", Expansion, runExpand},
       {"provider", "Show, install and choose source-control providers", Provider, runProvider},
       {"pack", "Show the tool packs, and check them", Pack, runPack},
       {"kept", "Show and restore copies of files that commands have overwritten", Kept, runKept},
       {"trust", "Show the commands that the project brings, and trust them", Trust, runTrust},
+      {"doctor", "Look whether the tool works, in a throw-away archive of its own", Doctor,
+       runDoctor},
+      {"manual", "Print the manual page, or a completion script for a shell", Manual, runManual},
   };
   return rows;
 }

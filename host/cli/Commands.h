@@ -49,6 +49,9 @@ ExitCode runProperty(const Invocation& invocation);
 ExitCode runExpand(const Invocation& invocation);
 ExitCode runPack(const Invocation& invocation);
 ExitCode runProvider(const Invocation& invocation);
+ExitCode runRun(const Invocation& invocation);
+ExitCode runDoctor(const Invocation& invocation);
+ExitCode runManual(const Invocation& invocation);
 ExitCode runKept(const Invocation& invocation);
 ExitCode runTrust(const Invocation& invocation);
 

@@ -62,6 +62,15 @@ std::span<const OptionRow> optionTable() {
       {Kept, "copy", "COPY", "The copy by its name, or a file, whose newest copy is meant",
        &Options::key},
 
+      {Running, "property", "PROPERTY", "The property that holds the command", &Options::property,
+       true},
+      {Running, "units", "UNIT", "Files, or names such as Package::Unit", &Options::units},
+
+      {Doctor, "--tool", "TOOL", "The tool pack to look at; otherwise that of the project",
+       &Options::tool},
+
+      {Manual, "action", "man|bash|zsh", "What to print", &Options::action, true},
+
       {Trust, "--list", "", "Show the commands and do nothing", &Options::list},
       {Trust, "--yes", "", "Trust them without a question", &Options::yes},
   };

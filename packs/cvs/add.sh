@@ -29,7 +29,7 @@ relative "$units" | while read -r file; do
     fail "'$file' is in the archive already."
 done
 relative "$units" | add_folders
-[ "$kind" = text ] && binary >"$work/plain" || relative "$units" >"$work/plain"
+if [ "$kind" = text ]; then binary; else relative "$units"; fi >"$work/plain"
 {
   relative "$units" | grep -v -x -F -f "$work/plain" | add_files -kkv && add_files -kb <"$work/plain" &&
     commit "$units" "$comment"

@@ -20,9 +20,25 @@ configure() {
 configure color.ui false
 configure core.askPass ''
 
+# Every start of git costs time, so what is asked often is asked once.
+settings=$newline$(git config --get-regexp '^(core|branch|remote|user|veldra)\.' || :)$newline
+
+# setting NAME: sets $value; the parts of a name that git does not tell apart are in lower case.
+setting() {
+  value=
+  case $settings in
+    *"$newline$1 "*)
+      value=${settings##*"$newline$1 "}
+      value=${value%%"$newline"*}
+      ;;
+  esac
+}
+
 # An ssh that may not ask fails at once instead of waiting.
-[ -n "${GIT_SSH_COMMAND:-${GIT_SSH:-}}" ] ||
-  export GIT_SSH_COMMAND="$(git config core.sshCommand || echo ssh) -o BatchMode=yes"
+if [ -z "${GIT_SSH_COMMAND:-${GIT_SSH:-}}" ]; then
+  setting core.sshcommand
+  export GIT_SSH_COMMAND="${value:-ssh} -o BatchMode=yes"
+fi
 
 # on UNITS COMMAND...: a git command that takes the paths from its input.
 on() {
@@ -34,14 +50,19 @@ on() {
 # open_repository: sets $remote (empty: the folder is the archive itself) and $target, the branch
 # there.
 open_repository() {
-  git rev-parse --git-dir >/dev/null 2>&1 ||
-    fail "The folder is not connected to an archive; connect it first."
-  branch=$(git symbolic-ref -q HEAD) ||
+  branch=$(git symbolic-ref -q HEAD 2>/dev/null) || {
+    git rev-parse --git-dir >/dev/null 2>&1 ||
+      fail "The folder is not connected to an archive; connect it first."
     fail "No branch is checked out in this folder; git switch BRANCH leads back to one."
-  name=${branch#refs/heads/}
-  remote=$(git config "branch.$name.remote" || :)
-  [ -n "$remote" ] || ! git config remote.origin.url >/dev/null || remote=origin
-  target=$(git config "branch.$name.merge" || echo "$branch")
+  }
+  setting "branch.${branch#refs/heads/}.remote"
+  remote=$value
+  if [ -z "$remote" ]; then
+    setting remote.origin.url
+    [ -z "$value" ] || remote=origin
+  fi
+  setting "branch.${branch#refs/heads/}.merge"
+  target=${value:-$branch}
 }
 
 # receive: learns what the archive holds; sets $tip to its newest commit, empty when it has none.
@@ -62,11 +83,14 @@ is_behind() {
 
 # name_user: makes sure that a commit has an author.
 name_user() {
-  [ -z "$(git config user.name)" ] && [ -z "${GIT_AUTHOR_NAME:-}" ] || return 0
-  [ "$(git config --type=bool user.useConfigOnly || :)" != true ] ||
+  setting user.name
+  [ -z "$value${GIT_AUTHOR_NAME:-}" ] || return 0
+  setting user.useconfigonly
+  [ "$value" != true ] ||
     fail "git knows no user name. Set one with git config --global user.name NAME."
+  setting user.email
   login=$(login)
-  email=${EMAIL:-$(git config user.email || echo "$login@$(uname -n)")}
+  email=${EMAIL:-${value:-$login@$(uname -n)}}
   export GIT_AUTHOR_NAME="$login" GIT_COMMITTER_NAME="$login"
   export GIT_AUTHOR_EMAIL="$email" GIT_COMMITTER_EMAIL="$email"
   printf "git knows no user name; commits name '%s'. git config --global user.name sets one.\n" \

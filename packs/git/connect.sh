@@ -37,6 +37,7 @@ else
   clone
 fi
 
+settings=$newline$(git config --get-regexp '^(branch|remote|user|veldra)\.' || :)$newline
 open_repository
 receive || give_up
 if [ "$(git config veldra.connected || :)" != true ]; then

@@ -5,4 +5,4 @@
 open_repository
 receive || printf 'The archive cannot be reached; this is what is known here.\n'
 git --no-pager log --follow --no-show-signature --pretty=medium --date=iso --raw --abbrev=12 \
-  ${tip:-HEAD} -- "$1"
+  "${tip:-HEAD}" -- "$1"

@@ -2,35 +2,49 @@
 # them, which connect.sh has found out. Elsewhere a file is just made writable.
 
 has_locks() {
-  [ "$(git config --type=bool veldra.locks || :)" = true ]
+  setting veldra.locks
+  [ "$value" = true ]
 }
 
-# holders: a line a lock: path from the top of the repository, tab, holder.
+# read_locks: turns LFS's answer into a line a lock: path from the top of the repository, tab, holder.
+read_locks() {
+  sed 's/},{"id"/}\n{"id"/g' |
+    sed -n 's/.*"path":"\(\([^"\]\|\\.\)*\)".*"owner":{"name":"\([^"]*\)".*/\1\t\3/p'
+}
+
 holders() {
-  git lfs locks --json </dev/null |
-    sed 's/},{"id"/}\n{"id"/g' |
-    sed -n 's/.*"path":"\(\([^"\\]\|\\.\)*\)".*"owner":{"name":"\([^"]*\)".*/\1\t\3/p'
+  git lfs locks --json </dev/null | read_locks
 }
 
-# take_locks UNITS
+# others: the same for the locks of other users. The server tells them apart; the name that it has for
+# a user is not the one in commits.
+others() {
+  git lfs locks --verify --json </dev/null | sed 's/.*"theirs"://' | read_locks
+}
+
+# take_locks UNITS: of a file that is locked already the user may be the holder.
 take_locks() {
   has_locks || return 0
+  refuse_locked "$1"
   lines "$1" | while read -r file; do
     run git lfs lock -- "$file" && continue
-    top=$(git rev-parse --show-prefix)
-    holder=$(holders | awk -F '\t' -v path="$top$(relative "$file")" '$1 == path { print $2 }')
-    [ "$holder" != "$(git config user.name || login)" ] || continue
-    [ -z "$holder" ] || fail "'$file' is locked by '$holder'."
-    give_up
+    reason=$answer
+    refuse_locked "$file"
+    case $reason in
+      *'already created lock'* | *'Lock exists'*) ;;
+      *)
+        answer=$reason
+        give_up
+        ;;
+    esac
   done
 }
 
 # refuse_locked UNITS: fails when somebody else has locked one of them, or something below it.
 refuse_locked() {
   has_locks || return 0
-  me=$(git config user.name || login)
   top=$(git rev-parse --show-prefix)
-  holders | grep -v "	$me\$" | while IFS='	' read -r path holder; do
+  others | while IFS='	' read -r path holder; do
     relative "$1" | while read -r unit; do
       case $path in
         "$top$unit" | "$top$unit"/*) fail "'$path' is locked by '$holder'." ;;

@@ -22,7 +22,8 @@ if [ -z "$wanted" ]; then
   restore "$units"
   in_archive "$units"
 else
-  commit=$(hg log -r "$wanted" -l 1 -T '{node}' 2>/dev/null) && [ -n "$commit" ] ||
+  commit=$(hg log -r "$wanted" -l 1 -T '{node}' 2>/dev/null || :)
+  [ -n "$commit" ] ||
     fail "There is no label or revision '$wanted' in the archive."
   lines "$units" | while read -r unit; do fetch_label "$unit"; done
 fi

@@ -53,9 +53,10 @@ if ! add_and_commit; then
   case $answer in
     *E155011:* | *E160020:*)
       # Somebody else has added the directory. It alone is taken over, its files are not.
-      [ "$(wc -l <"$targets")" -eq 1 ] && [ "$(wc -l <"$work/new")" -gt 1 ] || give_up
+      if [ "$(wc -l <"$targets")" -gt 1 ] || [ "$(wc -l <"$work/new")" -eq 1 ]; then give_up; fi
       directory=$(sed 's|/[^/]*$||' "$targets")
-      svn update --quiet --force --parents --depth empty -- "$directory@" && add_and_commit || give_up
+      svn update --quiet --force --parents --depth empty -- "$directory@" || exit
+      add_and_commit || give_up
       ;;
     *) give_up ;;
   esac

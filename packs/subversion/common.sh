@@ -144,7 +144,7 @@ give_locks() {
   run svn unlock --targets "$work/held" && return
   case $answer in
     # svn has forgotten the broken lock by now.
-    *W160040:* | *E200009:*W160040:*) answer='A lock had been broken by somebody else.' ;;
+    *W160040:*) answer='A lock had been broken by somebody else.' ;;
     *) return 1 ;;
   esac
 }

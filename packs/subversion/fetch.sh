@@ -5,7 +5,7 @@
 
 name_targets "$1"
 revision=${2:-HEAD}
-number=$(revision_of "$revision") && [ -n "$number" ] ||
-  fail "There is no label or revision '$revision' in the archive."
+number=$(revision_of "$revision")
+[ -n "$number" ] || fail "There is no label or revision '$revision' in the archive."
 tr '\n' '\000' <"$targets" |
   xargs -0 sh "${0%/*}/svn.sh" update --parents --revision "$number" --

@@ -16,7 +16,8 @@ using testing::Not;
 class FailureAdviceTest : public testing::TestWithParam<const char*> {
  protected:
   void SetUp() override {
-    if (!isInstalled(makeTool(GetParam(), m_sandbox)->traits().program)) GTEST_SKIP() << GetParam() << " is not installed";
+    if (!isInstalled(makeTool(GetParam(), m_sandbox)->traits().program))
+      GTEST_SKIP() << GetParam() << " is not installed";
     m_sandbox.become("alice");
     m_sandbox.copySample("model");
     ASSERT_EQ(m_sandbox

@@ -15,7 +15,8 @@ using testing::HasSubstr;
 class KeptTest : public testing::TestWithParam<const char*> {
  protected:
   void SetUp() override {
-    if (!isInstalled(makeTool(GetParam(), m_sandbox)->traits().program)) GTEST_SKIP() << GetParam() << " is not installed";
+    if (!isInstalled(makeTool(GetParam(), m_sandbox)->traits().program))
+      GTEST_SKIP() << GetParam() << " is not installed";
     m_sandbox.copySample("model");
     cm({"init", "model", "--name", "Machine", "--tool", GetParam(), "--archive", "archive"});
     ASSERT_EQ(cm({"add", m_unit, m_other, "-m", "first"}).code, 0);

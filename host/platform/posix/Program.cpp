@@ -8,6 +8,8 @@
 #include <fstream>
 #include <string>
 
+#include "host/platform/posix/ProgramSearch.h"
+
 namespace veldra::host {
 
 bool isTerminal(StandardStream stream) {
@@ -24,6 +26,15 @@ bool isTerminal(StandardStream stream) {
 
 void setVariable(const char* name, const char* value) {
   setenv(name, value, 1);
+}
+
+std::string locateProgram(const std::string& name) {
+  const Result<std::string> found = findProgram(name);
+  return found ? *found : std::string();
+}
+
+bool canWriteInto(const std::string& folder) {
+  return access(folder.c_str(), W_OK | X_OK) == 0;
 }
 
 long processNumber() {

@@ -14,6 +14,16 @@ void setVariable(const char* name, const char* value) {
   _putenv_s(name, value);
 }
 
+std::string locateProgram(const std::string& name) {
+  char path[MAX_PATH] = {};
+  const DWORD length = SearchPathA(nullptr, name.c_str(), ".exe", MAX_PATH, path, nullptr);
+  return length > 0 && length < MAX_PATH ? std::string(path, length) : std::string();
+}
+
+bool canWriteInto(const std::string& folder) {
+  return _access(folder.c_str(), 2) == 0;
+}
+
 long processNumber() {
   return static_cast<long>(GetCurrentProcessId());
 }
