@@ -20,19 +20,21 @@ done
 
 # in_use WORKINGCOPY: whether some process has its records open, so that it is not ours to repair.
 in_use() {
-  for open in /proc/[0-9]*/fd/*; do
-    case $(readlink "$open" 2>/dev/null) in
-      "$1"/.svn/*) return 0 ;;
-    esac
-  done
-  return 1
+  # shellcheck disable=SC2010  # only the targets of the links matter
+  ls -l /proc/[0-9]*/fd 2>/dev/null | grep -q -F " $1/.svn/"
 }
 
-# repair: makes good what a killed svn left behind. True when it is worth another try.
+# repair: makes good what a killed svn left behind; one that still runs gets five seconds to end.
+# True when it is worth another try.
 repair() {
   [ -d /proc/self/fd ] || return
   top=$(command svn info --non-interactive --show-item wc-root --no-newline . 2>/dev/null) || return
-  ! in_use "$top" && command svn cleanup --non-interactive "$top" >/dev/null 2>&1
+  patience=50
+  while in_use "$top"; do
+    [ $((patience -= 1)) -gt 0 ] || return
+    sleep 0.1
+  done
+  command svn cleanup --non-interactive "$top" >/dev/null 2>&1
 }
 
 # svn ARGUMENT...: a former command may have been killed in the middle; then its records are put in

@@ -17,7 +17,9 @@ namespace fs = std::filesystem;
 namespace {
 
 // With a blank and letters beyond ASCII, because that is where encodings show.
-constexpr char UnitName[] = "Pr\xC3\xBC" "f teil.puml";
+constexpr char UnitName[] =
+    "Pr\xC3\xBC"
+    "f teil.puml";
 
 /// A folder that goes with the object; when the program is killed, its next run removes it.
 class Workshop {
