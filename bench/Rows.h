@@ -10,6 +10,9 @@ double listingAgainstPerl();
 double listingMemory();
 double checkoutGrowth();
 double statusAgainstSubversion();
+double queryAgainstStatus();
+double lockAgainstSubversion();
+double getAgainstUpdate();
 double floodAgainstCat();
 double floodMemory();
 
