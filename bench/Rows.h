@@ -12,6 +12,9 @@ double checkoutGrowth();
 double statusAgainstSubversion();
 double checkinBatchAgainstSubversion();
 double addBatchAgainstSubversion();
+double queryAgainstStatus();
+double lockAgainstSubversion();
+double getAgainstUpdate();
 double floodAgainstCat();
 double floodMemory();
 

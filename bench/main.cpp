@@ -20,7 +20,7 @@ struct Row {
 
 using namespace veldra::bench;
 
-constexpr std::array<Row, 11> Rows{{
+constexpr auto Rows = std::to_array<Row>({
     {"commands: 1,000 check-ins that do nothing / sh loop", commandsAgainstShell, 1.0},
     {"execute: one Execute of /bin/true / posix_spawn, two pipes, wait", executeAgainstSpawn, 1.15},
     {"expand: condition and five keywords / one process", expansionAgainstProcess, 0.01},
@@ -32,9 +32,12 @@ constexpr std::array<Row, 11> Rows{{
      checkinBatchAgainstSubversion, 1.3},
     {"add-batch: 2,000 new units, --all, Subversion / svn add, svn commit",
      addBatchAgainstSubversion, 1.5},
+    {"query: 20,000 units of a provider / svn status -v", queryAgainstStatus, 0.8},
+    {"lock: 1,000 units of a provider over loopback / svn lock", lockAgainstSubversion, 1.1},
+    {"get: 2,000 unchanged units of a provider / svn update", getAgainstUpdate, 1.2},
     {"flood: 200 MB on each output / cat through two pipes", floodAgainstCat, 1.5},
     {"flood-memory: bytes held / bytes printed", floodMemory, 3.0, true},
-}};
+});
 
 bool isWanted(std::string_view name, int argc, char** argv) {
   for (int i = 1; i < argc; ++i) {

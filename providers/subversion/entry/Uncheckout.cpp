@@ -18,7 +18,7 @@ SCCRTN SCC_CALL SccUncheckout(LPVOID context, HWND, LONG count, LPCSTR* files, L
     const FileNames names = namesOf(count, files);
     const FileNames held = heldOnes(project, names, outcome);
     const CancelControl control(project.output);
-    restore(project, held);
+    restore(project, changedOnes(project, held));
     giveBack(project, held, outcome);
     return outcome.result();
   });

@@ -50,8 +50,10 @@ std::vector<Look> looksFor(const FileNames& files) {
 }
 
 /// Takes looks from the common list until there are no more.
-FileStates work(Client& client, const std::vector<Look>& looks, std::atomic<std::size_t>& next) {
+FileStates work(Client& client, const std::vector<Look>& looks, std::atomic<std::size_t>& next,
+                std::size_t expected) {
   FileStates states;
+  states.reserve(expected);
   const StatusReceiver take = [&states](const char* path, const svn_client_status_t& status) {
     states.insert_or_assign(path, stateOf(status));
   };
@@ -63,12 +65,12 @@ FileStates work(Client& client, const std::vector<Look>& looks, std::atomic<std:
 /// The same by a second thread. It has a client of its own, which never calls the program back.
 class Helper {
  public:
-  Helper(const std::vector<Look>& looks, std::atomic<std::size_t>& next)
-      : m_thread([this, &looks, &next] {
+  Helper(const std::vector<Look>& looks, std::atomic<std::size_t>& next, std::size_t expected)
+      : m_thread([this, &looks, &next, expected] {
           try {
             const TextOutput nobody;
             Client client(nobody, {});
-            m_states = work(client, looks, next);
+            m_states = work(client, looks, next, expected);
           } catch (...) {
             m_failure = std::current_exception();
           }
@@ -99,12 +101,12 @@ FileStates localStates(Client& client, const FileNames& files) {
   std::optional<Helper> helper;
   if (files.size() >= ManyFiles && looks.size() > 1 && std::thread::hardware_concurrency() > 1) {
     try {
-      helper.emplace(looks, next);
+      helper.emplace(looks, next, files.size() / 2);
     } catch (const std::system_error&) {
       // No thread to be had: one does it all.
     }
   }
-  FileStates states = work(client, looks, next);
+  FileStates states = work(client, looks, next, files.size() + looks.size());
   if (helper) states.merge(helper->states());
   return states;
 }

@@ -1,5 +1,7 @@
 #include "providers/subversion/work/Selection.h"
 
+#include <algorithm>
+
 #include "providers/subversion/status/FileStatus.h"
 #include "providers/subversion/status/LocalStatus.h"
 #include "providers/subversion/work/Locks.h"
@@ -13,6 +15,16 @@ void refuse(Project& project, Outcome& outcome, const std::string& file, const c
             SCCRTN result) {
   project.output.error("'" + lastPartOf(file) + "' " + reason);
   outcome.add(result);
+}
+
+FileNames changedOnes(Project& project, const FileNames& files) {
+  const FileStates states = localStates(project.client, files);
+  FileNames changed;
+  std::ranges::copy_if(files, std::back_inserter(changed), [&states](const std::string& file) {
+    const FileState& state = stateIn(states, file);
+    return state.isModified || state.isMissing || state.isConflicted || state.isDeleted;
+  });
+  return changed;
 }
 
 void giveBack(Project& project, const FileNames& files, Outcome& outcome) {

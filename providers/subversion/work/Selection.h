@@ -19,6 +19,9 @@ FileNames uncontrolledOnes(Project& project, const FileNames& files, Outcome& ou
 /// Those that it has; the others are reported.
 FileNames controlledOnes(Project& project, const FileNames& files, Outcome& outcome);
 
+/// Those of controlled files that are not on the disk as the working copy's revision has them.
+FileNames changedOnes(Project& project, const FileNames& files);
+
 /// Gives the locks of files back and reports those that stay.
 void giveBack(Project& project, const FileNames& files, Outcome& outcome);
 
