@@ -5,10 +5,9 @@
 #include <string_view>
 
 #include "cm/core/TextTools.h"
-#include "cm/core/WorkspaceUnits.h"
-#include "cm/host/IEnvironment.h"
 #include "cm/host/IUserMessages.h"
 #include "cm/host/MessageIds.h"
+#include "cm/scc/ArchiveUnits.h"
 #include "cm/scc/ProviderBatch.h"
 #include "cm/scc/SCCTextOutProc.h"
 #include "cm/templates/CMProperty.h"
@@ -90,11 +89,7 @@ int AddMemberSCC::operator()(UnitList& units, ArgumentList& arguments, Diagnosti
 
 int AddMemberSCC::AddDirectory(const std::string& directory, ArgumentList& arguments,
                                DiagnosticList& diagnostics) {
-  UnitList inside;
-  const std::string prefix = directory + omPathSeparator();
-  for (IUnit* unit : workspaceUnits()) {
-    if (unit->getFullFileName().starts_with(prefix)) inside.push_back(unit);
-  }
+  UnitList inside = unitsBelow(directory);
   if (!inside.empty()) return AddMemberSCC()(inside, arguments, diagnostics, false);
   const pvContextStruct* const context = contextFor(nullptr, ContextLine);
   if (context == nullptr || !offers(providerState().dll.SccAdd, "Add Directory", diagnostics)) {

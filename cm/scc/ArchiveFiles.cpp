@@ -1,7 +1,7 @@
 #include "cm/scc/ArchiveFiles.h"
 
-#include "cm/core/WorkspaceUnits.h"
 #include "cm/host/IEnvironment.h"
+#include "cm/scc/ArchiveUnits.h"
 #include "cm/scc/ProviderCall.h"
 #include "cm/scc/ProviderUnit.h"
 #include "cm/scc/SCCPopListFunc.h"
@@ -29,10 +29,7 @@ std::vector<std::string> archiveFilesBelow(const std::string& directory, scc::SC
   std::vector<std::string>& names = CMProperty::getFileNamesList();
   names.clear();
   if (!providerState().dll.has(providerState().dll.SccPopulateList)) {
-    for (const IUnit* unit : workspaceUnits()) {
-      const std::string file = unit->getFullFileName();
-      if (file.starts_with(prefix)) names.push_back(file);
-    }
+    for (const IUnit* unit : unitsBelow(directory)) names.push_back(unit->getFullFileName());
     return names;
   }
   if (!succeeds(populate(directory, command, context), nullptr)) return {};

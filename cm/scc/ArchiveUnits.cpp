@@ -1,11 +1,11 @@
 #include "cm/scc/ArchiveUnits.h"
 
-#include <memory>
 #include <string>
 
 #include "cm/core/CMArchiveItem.h"
 #include "cm/core/CMFacade.h"
 #include "cm/core/HybridRule.h"
+#include "cm/core/WorkspaceUnits.h"
 #include "cm/host/IEnvironment.h"
 
 namespace veldra {
@@ -15,15 +15,20 @@ IUnit* unitOfItem(const CMArchiveItem& item) {
                                                       : item.getFileName());
 }
 
+UnitList unitsBelow(const std::string& directory) {
+  const std::string prefix = directory + omPathSeparator();
+  UnitList units = workspaceUnits();
+  std::erase_if(units,
+                [&](const IUnit* unit) { return !unit->getFullFileName().starts_with(prefix); });
+  return units;
+}
+
 UnitList withUnitsBelow(IUnit& unit) {
   UnitList units{&unit};
   if (!isPackageWithDirectory(&unit)) return units;
-  const std::string directory = unit.getDirectory() + omPathSeparator();
-  const std::unique_ptr<IObIterator> all = IUnit::repositoryFiles();
-  if (all == nullptr) return units;
-  for (IUnit* other = all->first(); other != nullptr; other = all->next()) {
-    if (other != &unit && other->getFullFileName().starts_with(directory)) units.push_back(other);
-  }
+  const UnitList below = unitsBelow(unit.getDirectory());
+  units.insert(units.end(), below.begin(), below.end());
+  CMFacade::removeDuplicatesFromItemList(units);
   return units;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "cm/core/CMArchiveItemList.h"
 #include "cm/host/IUnit.h"
 
@@ -12,6 +14,9 @@ IUnit* unitOfItem(const CMArchiveItem& item);
 
 /// The loaded units of the items' files, each once; with the units below them when `recursive`.
 UnitList unitsOfItems(const CMArchiveItemList& items, bool recursive);
+
+/// The units whose files lie in a directory, at any depth.
+UnitList unitsBelow(const std::string& directory);
 
 /// The unit, and for a package that has a directory of its own every unit whose file lies in it.
 /// The unit itself comes first.

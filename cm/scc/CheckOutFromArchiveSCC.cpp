@@ -1,11 +1,6 @@
 #include "cm/scc/CheckOutFromArchiveSCC.h"
 
 #include "cm/core/CMArchiveItem.h"
-#include "cm/core/CMOutputer.h"
-#include "cm/core/UnitReload.h"
-#include "cm/host/IUserMessages.h"
-#include "cm/host/LogTrace.h"
-#include "cm/host/MessageIds.h"
 #include "cm/scc/ArchiveUnits.h"
 #include "cm/scc/ProviderAdapter.h"
 #include "cm/scc/ProviderBatch.h"
@@ -60,14 +55,8 @@ bool ItemCheckOut::load(const CMArchiveItem& item, const std::string& file,
                         UnitReport& report) const {
   // Nothing in the model is made of files of an unknown type.
   if (item.getType().empty()) return true;
-  VELDRA_TRACE("Performing ATM for the file ", file);
-  IUnit* const unit = loadItem(item, file);
-  if (unit == nullptr) {
-    const std::string message = formatMessage(MessageId::FileNotLoaded, {file});
-    CMOutputer::reportLoadingErrror(message);
-    report.endsAs(UnitEnd::NotReloaded, message);
-    return false;
-  }
+  IUnit* const unit = loadTraced(item, file, report);
+  if (unit == nullptr) return false;
   updateUnit(*unit, {.modeLine = UnitUpdate::CMMode, .statusLine = UnitUpdate::Status},
              contextFor(unit, nullptr));
   return true;

@@ -120,6 +120,7 @@ bool CheckOutRun::runOneByOne() {
 void CheckOutRun::checkOut(std::vector<Candidate>& candidates) {
   if (candidates.empty()) return;
   std::vector<std::string> names;
+  names.reserve(candidates.size());
   for (const Candidate& candidate : candidates) names.push_back(candidate.file.name());
   FileNames files(names);
   if (m_adapter == nullptr) m_adapter = ProviderAdapter::forProvider();

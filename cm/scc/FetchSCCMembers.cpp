@@ -2,10 +2,7 @@
 
 #include "cm/core/BackEnd.h"
 #include "cm/core/CMArchiveItem.h"
-#include "cm/core/CMOutputer.h"
-#include "cm/core/UnitReload.h"
 #include "cm/host/IUserMessages.h"
-#include "cm/host/LogTrace.h"
 #include "cm/host/MessageIds.h"
 #include "cm/scc/ArchiveUnits.h"
 #include "cm/scc/FetchSCC.h"
@@ -43,14 +40,8 @@ bool fetchBesideByTool(IUnit& unit, const std::string& target, const UnitCall& c
 bool reloadFetched(const CMArchiveItem& item, const std::string& file, UnitReport& report) {
   IUnit* const unit = unitOfItem(item);
   if (unit == nullptr || unit->asEmbededFile() != nullptr) return true;
-  VELDRA_TRACE("Performing ATM for the file ", file);
-  IUnit* const reloaded = loadItem(item, file);
-  if (reloaded == nullptr) {
-    const std::string message = formatMessage(MessageId::FileNotLoaded, {file});
-    CMOutputer::reportLoadingErrror(message);
-    report.endsAs(UnitEnd::NotReloaded, message);
-    return false;
-  }
+  IUnit* const reloaded = loadTraced(item, file, report);
+  if (reloaded == nullptr) return false;
   updateUnit(*reloaded,
              {.headerLine = UnitUpdate::Header,
               .modeLine = UnitUpdate::CMMode,

@@ -10,13 +10,6 @@ namespace veldra {
 
 namespace {
 
-bool refuse(int messageId, const std::string& file, UnitReport& report) {
-  const std::string text = formatMessage(messageId, {file});
-  notifyUserAndAsk(text, MessageBox::IconError);
-  report.endsAs(UnitEnd::ToolFailed, text);
-  return false;
-}
-
 bool isUncontrolled(const std::string& file, void* context) {
   std::int32_t status = scc::SCC_STATUS_INVALID;
   return SccQuery::query(file, status, context) == 0 && status != scc::SCC_STATUS_INVALID &&

@@ -63,6 +63,21 @@ void markFailed(long code, UnitReport& report) {
   report.endsAs(UnitEnd::ToolFailed, SCCTextOutProc::messageOf(code).text);
 }
 
+bool refuse(int messageId, const std::string& file, UnitReport& report) {
+  const std::string text = formatMessage(messageId, {file});
+  notifyUserAndAsk(text, MessageBox::IconError);
+  report.endsAs(UnitEnd::ToolFailed, text);
+  return false;
+}
+
+namespace {
+void reportUnloaded(const std::string& file, UnitReport& report) {
+  const std::string message = formatMessage(MessageId::FileNotLoaded, {file});
+  CMOutputer::reportLoadingErrror(message);
+  report.endsAs(UnitEnd::NotReloaded, message);
+}
+}  // namespace
+
 IUnit* reloadTraced(IUnit& unit, const std::string& file, CMUnitValidator& validator,
                     ReloadMode mode, UnitReport& report) {
   const std::string recordedName = unit.getRecordedFileName();
@@ -79,10 +94,15 @@ IUnit* reloadTraced(IUnit& unit, const std::string& file, CMUnitValidator& valid
     validator.replaceUnit(&unit, reloaded);
     return reloaded;
   }
-  const std::string message = formatMessage(MessageId::FileNotLoaded, {file});
-  CMOutputer::reportLoadingErrror(message);
-  report.endsAs(UnitEnd::NotReloaded, message);
+  reportUnloaded(file, report);
   return nullptr;
+}
+
+IUnit* loadTraced(const CMArchiveItem& item, const std::string& file, UnitReport& report) {
+  VELDRA_TRACE("Performing ATM for the file ", file);
+  IUnit* const unit = loadItem(item, file);
+  if (unit == nullptr) reportUnloaded(file, report);
+  return unit;
 }
 
 void updateUnit(IUnit& unit, const UnitUpdate& update, const pvContextStruct* context) {

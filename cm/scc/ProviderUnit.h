@@ -13,6 +13,7 @@
 
 namespace veldra {
 
+class CMArchiveItem;
 class pvContextStruct;
 
 /// The file of a unit on its way through the provider. The project's own file has a handler that
@@ -47,6 +48,9 @@ bool succeeds(long code, UnitReport* report);
 
 void markFailed(long code, UnitReport& report);
 
+/// Tells the user what stands against a file's operation, and ends its report; false.
+bool refuse(int messageId, const std::string& file, UnitReport& report);
+
 /// True when the host could not keep a copy of what is about to be overwritten: then the file is
 /// left alone, and the report says why.
 bool mustStay(const KeptCopy& kept, UnitReport& report);
@@ -58,6 +62,9 @@ enum class ReloadMode { Plain, FollowsName };
 /// told, when the file could not be loaded.
 IUnit* reloadTraced(IUnit& unit, const std::string& file, CMUnitValidator& validator,
                     ReloadMode mode, UnitReport& report);
+
+/// The same for an archive item, whose unit need not be loaded yet.
+IUnit* loadTraced(const CMArchiveItem& item, const std::string& file, UnitReport& report);
 
 /// What remains to be updated after the provider's work, each with its trace line.
 struct UnitUpdate {

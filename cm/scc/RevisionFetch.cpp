@@ -15,13 +15,6 @@ namespace {
 
 constexpr char ContextLine[] = "Getting SCC Context to perform fetch";
 
-bool refuse(int messageId, const std::string& file, UnitReport& report) {
-  const std::string text = formatMessage(messageId, {file});
-  notifyUserAndAsk(text, MessageBox::IconError);
-  report.endsAs(UnitEnd::ToolFailed, text);
-  return false;
-}
-
 /// A working file under another name. A file that is not there needs none.
 class SetAside {
  public:
