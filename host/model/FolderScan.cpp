@@ -26,8 +26,8 @@ struct Entry {
 };
 
 // What the names of the files begin with that belong to a CM tool or to Veldra itself.
-constexpr std::array<std::string_view, 6> RecordFiles = {WorkingFilePrefix, ".git", ".hg", ".svn",
-                                                         ".cvs", ".#"};
+constexpr std::array<std::string_view, 6> RecordFiles = {
+    WorkingFilePrefix, ".git", ".hg", ".svn", ".cvs", ".#"};
 
 bool isRecordFile(const std::string& name) {
   return name.ends_with(",v") || std::ranges::any_of(RecordFiles, [&](std::string_view prefix) {

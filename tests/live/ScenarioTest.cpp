@@ -12,8 +12,6 @@ namespace {
 
 using nlohmann::json;
 using testing::HasSubstr;
-using testing::IsSubsetOf;
-using testing::Not;
 
 constexpr char Unit[] = "Brewing/Grinder.vcmp";
 

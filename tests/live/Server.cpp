@@ -59,6 +59,7 @@ Server::Server(const Sandbox& sandbox, const std::vector<std::string>& command, 
   std::vector<std::string> line = {"env", "HOME=" + sandbox.path("home"), "LC_ALL=C.UTF-8"};
   line.insert(line.end(), command.begin(), command.end());
   std::vector<char*> words;
+  words.reserve(line.size() + 1);
   for (std::string& word : line) words.push_back(word.data());
   words.push_back(nullptr);
   m_process = fork();
