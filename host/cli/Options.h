@@ -59,7 +59,6 @@ inline constexpr unsigned Archive = 0x80;
 inline constexpr unsigned Expansion = 0x100;
 inline constexpr unsigned Property = 0x200;
 inline constexpr unsigned Pack = 0x400;
-inline constexpr unsigned Provider = 0x2000;
 inline constexpr unsigned Trust = 0x800;
 inline constexpr unsigned Kept = 0x1000;
 inline constexpr unsigned Running = 0x2000;
@@ -68,6 +67,7 @@ inline constexpr unsigned Manual = 0x8000;
 inline constexpr unsigned Recursive = 0x10000;
 inline constexpr unsigned NamedUnits = 0x20000;  ///< Units that have to be named one by one.
 inline constexpr unsigned NewName = 0x40000;
+inline constexpr unsigned Provider = 0x80000;
 }  // namespace OptionSet
 
 /// One option or positional argument.

@@ -1,6 +1,6 @@
 # Sourced by the helpers beside it: the surroundings of cvs, units, editors, directories.
 pack='cvs archive'
-. "${0%/*}/../shared/units.sh"
+. "${0%/*}/../common/units.sh"
 
 # Files come read-only also where nobody may turn watching on; nobody is there to edit.
 export CVSREAD=1 CVSEDITOR=:

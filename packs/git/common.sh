@@ -1,6 +1,6 @@
 # Sourced by the helpers beside it: the surroundings of git, units, the archive.
 pack='git archive'
-. "${0%/*}/../shared/units.sh"
+. "${0%/*}/../common/units.sh"
 
 # Set by a hook that started us, these would lead to another repository.
 unset GIT_DIR GIT_WORK_TREE GIT_INDEX_FILE GIT_OBJECT_DIRECTORY GIT_COMMON_DIR GIT_PREFIX GIT_NAMESPACE

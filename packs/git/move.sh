@@ -4,7 +4,7 @@
 . "${0%/*}/common.sh"
 . "${0%/*}/commit.sh"
 . "${0%/*}/locks.sh"
-. "${0%/*}/../shared/moving.sh"
+. "${0%/*}/../common/moving.sh"
 
 move_files() {
   git mv -- "$1" "$2"

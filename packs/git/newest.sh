@@ -1,5 +1,5 @@
 # Sourced by the helpers that bring a folder up to date.
-. "${0%/*}/../shared/newest.sh"
+. "${0%/*}/../common/newest.sh"
 
 content() {
   git show "$1:./$2"

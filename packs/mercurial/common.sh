@@ -1,6 +1,6 @@
 # Sourced by the helpers beside it: the surroundings of hg, units, the archive.
 pack='mercurial archive'
-. "${0%/*}/../shared/units.sh"
+. "${0%/*}/../common/units.sh"
 
 # No aliases, colours, pagers or translated texts; nobody is there to answer or to edit.
 export HGPLAIN=1 HGENCODING=UTF-8 HGEDITOR=:

@@ -3,7 +3,7 @@
 # are checked in with the move; other changed files are refused.
 . "${0%/*}/common.sh"
 . "${0%/*}/commit.sh"
-. "${0%/*}/../shared/moving.sh"
+. "${0%/*}/../common/moving.sh"
 
 move_files() {
   mv -- "$1" "$2" && hg rename -q --after -- "$1" "$2"

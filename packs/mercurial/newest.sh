@@ -1,5 +1,5 @@
 # Sourced by the helpers that bring a folder up to date.
-. "${0%/*}/../shared/newest.sh"
+. "${0%/*}/../common/newest.sh"
 
 content() {
   hg cat -r "$1" -- "$PWD/$2"

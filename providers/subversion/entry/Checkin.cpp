@@ -2,8 +2,8 @@
 #include "providers/subversion/entry/Frame.h"
 #include "providers/subversion/status/FileStatus.h"
 #include "providers/subversion/status/LocalStatus.h"
-#include "providers/subversion/work/Outcome.h"
-#include "providers/subversion/work/Selection.h"
+#include "providers/subversion/actions/Outcome.h"
+#include "providers/subversion/actions/Selection.h"
 
 using namespace veldra;
 using namespace veldra::scc;

@@ -5,9 +5,9 @@
 #include "providers/subversion/status/FileStatus.h"
 #include "providers/subversion/status/LocalStatus.h"
 #include "providers/subversion/status/StoreStatus.h"
-#include "providers/subversion/work/Locks.h"
-#include "providers/subversion/work/Outcome.h"
-#include "providers/subversion/work/WorkingFiles.h"
+#include "providers/subversion/actions/Locks.h"
+#include "providers/subversion/actions/Outcome.h"
+#include "providers/subversion/actions/WorkingFiles.h"
 
 using namespace veldra;
 using namespace veldra::scc;

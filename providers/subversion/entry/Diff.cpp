@@ -2,8 +2,8 @@
 
 #include "cm/scc/interface/SccEntryPoints.h"
 #include "providers/subversion/entry/Frame.h"
-#include "providers/subversion/work/Comparison.h"
-#include "providers/subversion/work/Selection.h"
+#include "providers/subversion/actions/Comparison.h"
+#include "providers/subversion/actions/Selection.h"
 
 using namespace veldra;
 using namespace veldra::scc;

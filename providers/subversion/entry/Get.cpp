@@ -3,10 +3,10 @@
 #include "cm/scc/interface/SccEntryPoints.h"
 #include "providers/subversion/entry/Frame.h"
 #include "providers/subversion/status/FileStatus.h"
-#include "providers/subversion/work/Outcome.h"
-#include "providers/subversion/work/Selection.h"
-#include "providers/subversion/work/WorkingFiles.h"
-#include "providers/subversion/work/WritableFiles.h"
+#include "providers/subversion/actions/Outcome.h"
+#include "providers/subversion/actions/Selection.h"
+#include "providers/subversion/actions/WorkingFiles.h"
+#include "providers/subversion/actions/WritableFiles.h"
 
 using namespace veldra;
 using namespace veldra::scc;

@@ -1,8 +1,8 @@
 #include "cm/scc/interface/SccEntryPoints.h"
 #include "providers/subversion/entry/Frame.h"
-#include "providers/subversion/work/Outcome.h"
-#include "providers/subversion/work/Selection.h"
-#include "providers/subversion/work/WorkingFiles.h"
+#include "providers/subversion/actions/Outcome.h"
+#include "providers/subversion/actions/Selection.h"
+#include "providers/subversion/actions/WorkingFiles.h"
 
 using namespace veldra;
 using namespace veldra::scc;

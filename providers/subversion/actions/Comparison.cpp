@@ -1,4 +1,4 @@
-#include "providers/subversion/work/Comparison.h"
+#include "providers/subversion/actions/Comparison.h"
 
 #include <svn_io.h>
 

@@ -1,4 +1,4 @@
-#include "providers/subversion/work/WorkingFiles.h"
+#include "providers/subversion/actions/WorkingFiles.h"
 
 #include <svn_io.h>
 

@@ -1,11 +1,11 @@
-#include "providers/subversion/work/Selection.h"
+#include "providers/subversion/actions/Selection.h"
 
 #include <algorithm>
 
 #include "providers/subversion/status/FileStatus.h"
 #include "providers/subversion/status/LocalStatus.h"
-#include "providers/subversion/work/Locks.h"
-#include "providers/subversion/work/WorkingFiles.h"
+#include "providers/subversion/actions/Locks.h"
+#include "providers/subversion/actions/WorkingFiles.h"
 
 namespace veldra::subversion {
 

@@ -1,4 +1,4 @@
-#include "providers/subversion/work/Addition.h"
+#include "providers/subversion/actions/Addition.h"
 
 #include <svn_io.h>
 #include <svn_props.h>
@@ -9,7 +9,7 @@
 
 #include "cm/scc/interface/SccCommands.h"
 #include "providers/subversion/runtime/Failure.h"
-#include "providers/subversion/work/WorkingFiles.h"
+#include "providers/subversion/actions/WorkingFiles.h"
 
 namespace veldra::subversion {
 

@@ -1,4 +1,4 @@
-#include "providers/subversion/work/WritableFiles.h"
+#include "providers/subversion/actions/WritableFiles.h"
 
 #include <apr_file_info.h>
 #include <svn_dirent_uri.h>

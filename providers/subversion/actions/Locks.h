@@ -4,7 +4,7 @@
 
 #include "providers/subversion/session/FileNames.h"
 #include "providers/subversion/session/Project.h"
-#include "providers/subversion/work/Outcome.h"
+#include "providers/subversion/actions/Outcome.h"
 
 namespace veldra::subversion {
 

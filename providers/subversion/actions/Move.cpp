@@ -1,4 +1,4 @@
-#include "providers/subversion/work/Move.h"
+#include "providers/subversion/actions/Move.h"
 
 #include <svn_dirent_uri.h>
 #include <svn_io.h>
@@ -10,7 +10,7 @@
 #include "providers/subversion/status/FileStatus.h"
 #include "providers/subversion/status/LocalStatus.h"
 #include "providers/subversion/status/StatusCall.h"
-#include "providers/subversion/work/WorkingFiles.h"
+#include "providers/subversion/actions/WorkingFiles.h"
 
 namespace veldra::subversion {
 

@@ -1,4 +1,4 @@
-#include "providers/subversion/work/Locks.h"
+#include "providers/subversion/actions/Locks.h"
 
 #include <svn_error_codes.h>
 
