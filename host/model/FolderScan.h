@@ -36,9 +36,9 @@ inline constexpr int MaximumFolderDepth = 64;
 /// Half-written files of a program that was killed are removed on the way.
 ///
 /// Left out without a word: hidden folders, folders and files in which CM tools keep their own
-/// records (".gitignore", ".hgtags", ...), and Veldra's own working files. Reported and left out: links to folders, links that lead out of the
-/// root, folders that cannot be read, folders nested too deep, and folders that are projects of
-/// their own. Links to files inside the root are listed.
+/// records (".gitignore", ".hgtags", ...), and Veldra's own working files. Reported and left out:
+/// links to folders, links that lead out of the root, folders that cannot be read, folders nested
+/// too deep, and folders that are projects of their own. Links to files inside the root are listed.
 FolderScan scanFolder(const std::string& root, const FileTypes& types, bool otherFiles,
                       Problems& problems);
 

@@ -8,8 +8,8 @@
 #include <string_view>
 
 #include "cm/scc/interface/SccCommands.h"
-#include "providers/subversion/runtime/Failure.h"
 #include "providers/subversion/actions/WorkingFiles.h"
+#include "providers/subversion/runtime/Failure.h"
 
 namespace veldra::subversion {
 

@@ -2,9 +2,9 @@
 
 #include <map>
 
+#include "providers/subversion/actions/Outcome.h"
 #include "providers/subversion/session/FileNames.h"
 #include "providers/subversion/session/Project.h"
-#include "providers/subversion/actions/Outcome.h"
 
 namespace veldra::subversion {
 

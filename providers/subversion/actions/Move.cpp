@@ -6,11 +6,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "providers/subversion/actions/WorkingFiles.h"
 #include "providers/subversion/runtime/Failure.h"
 #include "providers/subversion/status/FileStatus.h"
 #include "providers/subversion/status/LocalStatus.h"
 #include "providers/subversion/status/StatusCall.h"
-#include "providers/subversion/actions/WorkingFiles.h"
 
 namespace veldra::subversion {
 

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "providers/subversion/status/FileStatus.h"
-#include "providers/subversion/status/LocalStatus.h"
 #include "providers/subversion/actions/Locks.h"
 #include "providers/subversion/actions/WorkingFiles.h"
+#include "providers/subversion/status/FileStatus.h"
+#include "providers/subversion/status/LocalStatus.h"
 
 namespace veldra::subversion {
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "providers/subversion/actions/Outcome.h"
 #include "providers/subversion/session/FileNames.h"
 #include "providers/subversion/session/Project.h"
-#include "providers/subversion/actions/Outcome.h"
 
 namespace veldra::subversion {
 

@@ -1,8 +1,8 @@
 #include "cm/scc/interface/SccEntryPoints.h"
-#include "providers/subversion/entry/Frame.h"
 #include "providers/subversion/actions/Addition.h"
 #include "providers/subversion/actions/Locks.h"
 #include "providers/subversion/actions/Selection.h"
+#include "providers/subversion/entry/Frame.h"
 
 using namespace veldra;
 using namespace veldra::scc;

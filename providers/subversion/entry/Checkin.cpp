@@ -1,9 +1,9 @@
 #include "cm/scc/interface/SccEntryPoints.h"
+#include "providers/subversion/actions/Outcome.h"
+#include "providers/subversion/actions/Selection.h"
 #include "providers/subversion/entry/Frame.h"
 #include "providers/subversion/status/FileStatus.h"
 #include "providers/subversion/status/LocalStatus.h"
-#include "providers/subversion/actions/Outcome.h"
-#include "providers/subversion/actions/Selection.h"
 
 using namespace veldra;
 using namespace veldra::scc;

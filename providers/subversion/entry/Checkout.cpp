@@ -1,13 +1,13 @@
 #include <algorithm>
 
 #include "cm/scc/interface/SccEntryPoints.h"
+#include "providers/subversion/actions/Locks.h"
+#include "providers/subversion/actions/Outcome.h"
+#include "providers/subversion/actions/WorkingFiles.h"
 #include "providers/subversion/entry/Frame.h"
 #include "providers/subversion/status/FileStatus.h"
 #include "providers/subversion/status/LocalStatus.h"
 #include "providers/subversion/status/StoreStatus.h"
-#include "providers/subversion/actions/Locks.h"
-#include "providers/subversion/actions/Outcome.h"
-#include "providers/subversion/actions/WorkingFiles.h"
 
 using namespace veldra;
 using namespace veldra::scc;

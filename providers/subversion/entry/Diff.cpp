@@ -1,9 +1,9 @@
 #include <svn_io.h>
 
 #include "cm/scc/interface/SccEntryPoints.h"
-#include "providers/subversion/entry/Frame.h"
 #include "providers/subversion/actions/Comparison.h"
 #include "providers/subversion/actions/Selection.h"
+#include "providers/subversion/entry/Frame.h"
 
 using namespace veldra;
 using namespace veldra::scc;

@@ -1,12 +1,12 @@
 #include <algorithm>
 
 #include "cm/scc/interface/SccEntryPoints.h"
-#include "providers/subversion/entry/Frame.h"
-#include "providers/subversion/status/FileStatus.h"
 #include "providers/subversion/actions/Outcome.h"
 #include "providers/subversion/actions/Selection.h"
 #include "providers/subversion/actions/WorkingFiles.h"
 #include "providers/subversion/actions/WritableFiles.h"
+#include "providers/subversion/entry/Frame.h"
+#include "providers/subversion/status/FileStatus.h"
 
 using namespace veldra;
 using namespace veldra::scc;

@@ -3,8 +3,8 @@
 #include <svn_time.h>
 
 #include "cm/scc/interface/SccEntryPoints.h"
-#include "providers/subversion/entry/Frame.h"
 #include "providers/subversion/actions/Selection.h"
+#include "providers/subversion/entry/Frame.h"
 
 using namespace veldra;
 using namespace veldra::scc;

@@ -1,7 +1,7 @@
 #include "cm/scc/interface/SccEntryPoints.h"
-#include "providers/subversion/entry/Frame.h"
 #include "providers/subversion/actions/Selection.h"
 #include "providers/subversion/actions/WorkingFiles.h"
+#include "providers/subversion/entry/Frame.h"
 
 using namespace veldra;
 using namespace veldra::scc;

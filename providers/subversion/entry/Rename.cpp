@@ -1,6 +1,6 @@
 #include "cm/scc/interface/SccEntryPoints.h"
-#include "providers/subversion/entry/Frame.h"
 #include "providers/subversion/actions/Move.h"
+#include "providers/subversion/entry/Frame.h"
 
 using namespace veldra;
 using namespace veldra::scc;
