@@ -26,6 +26,12 @@ constexpr KnownProperty Known[] = {
     {"ProviderRegKey", Command},
     {"SccServerPath", Command},
     {"EnableSCCCancel", Word},
+    {"RedirectOutputToVeldra", Word},
+    {"QuerySCCStatusOneByOne", Word},
+    {"UnrollLoops", Word},
+    {"AddNewUnitsToArchiveDuringCheckin", Word},
+    {"IgnoreUndoCheckoutForNotCheckedoutUnits", Word},
+    {"VaulrixSCCName", Word},
 
     // Command templates of the operations.
     {"CreateArchive", Command},
