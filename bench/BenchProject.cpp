@@ -82,7 +82,8 @@ void writeModel(const fs::path& folder, std::size_t count) {
   require(host::createProject(request, error).has_value(), error);
 }
 
-BenchProject::BenchProject(std::size_t unitCount, const std::string& program)
+BenchProject::BenchProject(std::size_t unitCount, const std::string& program,
+                           const std::string& traceLog)
     : m_window("/dev/null") {
   const fs::path model = m_folder.path() / "model";
   const fs::path settings = m_folder.path() / "user.toml";
@@ -94,10 +95,12 @@ BenchProject::BenchProject(std::size_t unitCount, const std::string& program)
 
   host::HostOptions options;
   options.output = &m_window;
+  options.traceLog = traceLog;
   options.settings = host::standardSettingsFiles("");
   options.settings->packDirectory = (m_folder.path() / "no-packs").string();
   options.settings->userFile = settings.string();
   options.settings->siteFile.clear();
+  options.settings->cacheDirectory.clear();
   m_host = std::make_unique<host::ReferenceHost>(options);
   installHost(m_host.get());
   const auto problem = m_host->open(model.string());

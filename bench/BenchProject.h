@@ -33,7 +33,7 @@ void writeModel(const std::filesystem::path& folder, std::size_t count);
 /// An open project of the reference host, whose tool runs `program` for every operation.
 class BenchProject {
  public:
-  BenchProject(std::size_t unitCount, const std::string& program);
+  BenchProject(std::size_t unitCount, const std::string& program, const std::string& traceLog = {});
   BenchProject(const BenchProject&) = delete;
   BenchProject& operator=(const BenchProject&) = delete;
   ~BenchProject();

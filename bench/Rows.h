@@ -15,6 +15,10 @@ double addBatchAgainstSubversion();
 double queryAgainstStatus();
 double lockAgainstSubversion();
 double getAgainstUpdate();
+double checkoutAgainstShell();
+double gitListing();
+double subversionListing();
+double consumerAgainstLoop();
 double floodAgainstCat();
 double floodMemory();
 

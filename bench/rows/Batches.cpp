@@ -44,6 +44,15 @@ class TwoCopies {
     runQuietly("find '" + ours() + "' '" + theirs() +
                "' -name '*.vcmp' | while read -r file; do echo >>\"$file\"; done");
   }
+  /// One command a unit, as the pack has none for many.
+  void checkOutOurs() const { runQuietly(program() + " checkout --all"); }
+  void checkOutTheirs() const {
+    runQuietly("find '" + theirs() +
+               "' -name '*.vcmp' | while read -r file; do svn lock -q -- \"$file@\"; done");
+  }
+  void unlockBoth() const {
+    runQuietly("svn unlock -q --force $(find '" + ours() + "' '" + theirs() + "' -name '*.vcmp')");
+  }
   void checkInOurs() const { runQuietly(program() + " checkin -r '" + ours() + "' -m changed"); }
   void checkInTheirs() const { runQuietly("svn commit -q -m changed '" + theirs() + "'"); }
 
@@ -71,6 +80,17 @@ double addBatchAgainstSubversion() {
   TwoCopies copies(2000);
   return ratioOf(
       1, [&] { copies.renew(); }, [&] { copies.addOurs(); }, [&] { copies.addTheirs(); });
+}
+
+double checkoutAgainstShell() {
+  const TwoCopies copies(500);
+  copies.addOurs();
+  copies.addTheirs();
+  copies.checkOutOurs();
+  copies.checkOutTheirs();
+  return ratioOf(
+      2, [&] { copies.unlockBoth(); }, [&] { copies.checkOutOurs(); },
+      [&] { copies.checkOutTheirs(); });
 }
 
 }  // namespace veldra::bench
