@@ -65,15 +65,26 @@ bool UnitCore::setAttribute(const std::string& attribute, const std::string& val
   return true;
 }
 
+bool UnitCore::edit(const std::function<void(Json&)>& change, Problem& problem) {
+  ModelText* edited = editableContent(problem);
+  if (!edited) return false;
+  change(edited->body);
+  takeName(edited->body);
+  return true;
+}
+
+void UnitCore::takeName(const Json& body) {
+  const Json* name = member(body, "name");
+  if (const auto bytes = name ? bytesOfJson(*name) : std::nullopt) m_record.name = *bytes;
+}
+
 void UnitCore::restoreBody(const Json& body) {
   Problem problem;
   ModelText* restored = content(problem);
   if (!restored) return;
   restored->body = body;
   m_modified = true;
-  if (const Json* name = member(body, "name"); name && name->is_string()) {
-    m_record.name = name->get<std::string>();
-  }
+  takeName(body);
 }
 
 bool UnitCore::save(Problem& problem) {

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "host/UserDoor.h"
+#include "host/desktop/session/Questions.h"
+
+namespace veldra::host::desktop {
+
+/// What the module asks and tells, as questions of the program.
+class DesktopDoor : public UserDoor {
+ public:
+  /// `questions` must outlive the object.
+  explicit DesktopDoor(Questions& questions) : m_questions(questions) {}
+
+  void notify(const std::string& text, int level) override;
+  int ask(const std::string& text, int flags) override;
+  std::string askOverwrite(const std::string& text) override;
+
+ private:
+  Questions& m_questions;
+};
+
+}  // namespace veldra::host::desktop
