@@ -123,6 +123,14 @@ std::string ownProgram() {
   return fs::read_symlink("/proc/self/exe").string();
 }
 
+std::string commandLineProgram() {
+  return "'" + fs::path(ownProgram()).replace_filename("veldra-cm").string() + "'";
+}
+
+void runQuietly(const std::string& command) {
+  require(std::system(("{ " + command + "; } >/dev/null").c_str()) == 0, command);
+}
+
 std::size_t residentBytes() {
   return statusField("VmRSS:");
 }

@@ -51,6 +51,12 @@ class BenchProject {
 /// This program's own file.
 std::string ownProgram();
 
+/// `veldra-cm` beside it, quoted for a shell.
+std::string commandLineProgram();
+
+/// Runs a command of the shell, which must succeed; its output is thrown away.
+void runQuietly(const std::string& command);
+
 /// The bytes that this process has in memory now, and the most it ever had.
 std::size_t residentBytes();
 std::size_t peakResidentBytes();

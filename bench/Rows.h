@@ -10,6 +10,11 @@ double listingAgainstPerl();
 double listingMemory();
 double checkoutGrowth();
 double statusAgainstSubversion();
+double checkinBatchAgainstSubversion();
+double addBatchAgainstSubversion();
+double queryAgainstStatus();
+double lockAgainstSubversion();
+double getAgainstUpdate();
 double floodAgainstCat();
 double floodMemory();
 

@@ -20,11 +20,18 @@ double median(std::vector<double> values) {
 }  // namespace
 
 double ratioOf(int rounds, const Work& ours, const Work& theirs) {
+  return ratioOf(
+      rounds, [] {}, ours, theirs);
+}
+
+double ratioOf(int rounds, const Work& prepare, const Work& ours, const Work& theirs) {
+  prepare();
   ours();
   theirs();
   std::vector<double> ourTimes;
   std::vector<double> theirTimes;
   for (int round = 0; round < rounds; ++round) {
+    prepare();
     if (round % 2 == 0) ourTimes.push_back(secondsOf(ours));
     theirTimes.push_back(secondsOf(theirs));
     if (round % 2 != 0) ourTimes.push_back(secondsOf(ours));

@@ -20,7 +20,7 @@ struct Row {
 
 using namespace veldra::bench;
 
-constexpr std::array<Row, 9> Rows{{
+constexpr auto Rows = std::to_array<Row>({
     {"commands: 1,000 check-ins that do nothing / sh loop", commandsAgainstShell, 1.0},
     {"execute: one Execute of /bin/true / posix_spawn, two pipes, wait", executeAgainstSpawn, 1.15},
     {"expand: condition and five keywords / one process", expansionAgainstProcess, 0.01},
@@ -28,9 +28,16 @@ constexpr std::array<Row, 9> Rows{{
     {"listing-memory: bytes held / bytes listed", listingMemory, 4.0, true},
     {"checkout: 10,000 units / 1,000 units", checkoutGrowth, 10.5},
     {"status: 20,000 units, cold / svn status -v", statusAgainstSubversion, 1.0},
+    {"checkin-batch: 500 changed units, -r, Subversion / one svn commit",
+     checkinBatchAgainstSubversion, 1.3},
+    {"add-batch: 2,000 new units, --all, Subversion / svn add, svn commit",
+     addBatchAgainstSubversion, 1.5},
+    {"query: 20,000 units of a provider / svn status -v", queryAgainstStatus, 0.8},
+    {"lock: 1,000 units of a provider over loopback / svn lock", lockAgainstSubversion, 1.1},
+    {"get: 2,000 unchanged units of a provider / svn update", getAgainstUpdate, 1.2},
     {"flood: 200 MB on each output / cat through two pipes", floodAgainstCat, 1.5},
     {"flood-memory: bytes held / bytes printed", floodMemory, 3.0, true},
-}};
+});
 
 bool isWanted(std::string_view name, int argc, char** argv) {
   for (int i = 1; i < argc; ++i) {

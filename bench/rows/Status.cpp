@@ -1,5 +1,4 @@
 #include <chrono>
-#include <cstdlib>
 #include <filesystem>
 #include <thread>
 
@@ -8,12 +7,6 @@
 #include "bench/SideBySide.h"
 
 namespace veldra::bench {
-
-namespace {
-void runQuietly(const std::string& command) {
-  if (std::system((command + " >/dev/null").c_str()) != 0) std::abort();
-}
-}  // namespace
 
 double statusAgainstSubversion() {
   const TempFolder folder;
@@ -25,13 +18,11 @@ double statusAgainstSubversion() {
   runQuietly("svnadmin create '" + (folder.path() / "archive").string() + "'");
   runQuietly("svn import -q -m model '" + model + "' '" + url + "'");
   runQuietly("svn checkout -q '" + url + "' '" + copy + "'");
-  const std::string program =
-      std::filesystem::path(ownProgram()).replace_filename("veldra-cm").string();
   const std::string cache = "XDG_CACHE_HOME='" + (folder.path() / "cache").string() + "' ";
   // What was written a moment ago is not remembered, by neither of the two.
   std::this_thread::sleep_for(std::chrono::seconds(3));
   return ratioOf(
-      15, [&] { runQuietly(cache + "'" + program + "' -p '" + copy + "' status"); },
+      15, [&] { runQuietly(cache + commandLineProgram() + " -p '" + copy + "' status"); },
       [&] { runQuietly("svn status -v '" + copy + "'"); });
 }
 

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <memory>
 #include <span>
 #include <string>
@@ -13,8 +12,8 @@
 namespace veldra {
 
 /// The lines that a child printed on one of its outputs, each with its line end, in the order
-/// printed. They are kept in large pieces, so that a long output costs little more than its own
-/// length.
+/// printed. They stand in one text that `moveTo` can hand over as it is, so that a flood is held
+/// and copied once.
 class VELDRA_CM_EXPORT LineList {
  public:
   LineList() = default;
@@ -28,22 +27,21 @@ class VELDRA_CM_EXPORT LineList {
   /// Space at the end, never empty, into which the next bytes can be read without a copy. `took`
   /// says how many of them have been filled.
   std::span<char> room();
-  void took(std::size_t count);
+  void took(std::size_t count) { m_size += count; }
+  /// Memory for this room and later ones, which nobody has touched yet: a host may tell the system
+  /// how to provide it.
+  std::span<char> untouched();
 
   bool empty() const { return m_size == 0; }
   /// All lines together, in bytes.
   std::size_t size() const { return m_size; }
-  /// Appends every line to `text`, with nothing between them.
-  void appendTo(std::string& text) const;
+  /// Appends every line to `text`, with nothing between them, and is empty afterwards.
+  void moveTo(std::string& text);
 
  private:
-  struct Piece {
-    std::unique_ptr<char[]> bytes;
-    std::size_t capacity;
-    std::size_t size;
-  };
+  void makeRoom();
 
-  std::deque<Piece> m_pieces;
+  std::string m_text;  ///< The lines, and after them room that is not filled yet.
   std::size_t m_size = 0;
 };
 
@@ -72,9 +70,10 @@ class RunThread : public ThreadObject {
   /// and everything that it started have been ended. Both lists are complete afterwards.
   virtual std::uint32_t getStatus(std::uint32_t timeout) = 0;
 
-  virtual const LineList& errorLines() const = 0;
-  /// Empty for a runner whose output goes to a file.
-  virtual const LineList& outputLines() const = 0;
+  virtual LineList& errorLines() = 0;
+  /// Empty for a runner whose output goes to a file. Error lines are the whole result of a command
+  /// that printed any, so a runner may then drop what the other output goes on to print.
+  virtual LineList& outputLines() = 0;
 
   virtual ProcessEnd end() const = 0;
   /// The exit code of a child that exited, the signal of one that crashed, otherwise 0.

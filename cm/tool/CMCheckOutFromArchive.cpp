@@ -5,7 +5,6 @@
 #include "cm/host/Host.h"
 #include "cm/host/IPN.h"
 #include "cm/host/MessageIds.h"
-#include "cm/tool/CMToolShellInterface.h"
 #include "cm/tool/Reloading.h"
 
 namespace veldra {
@@ -19,6 +18,7 @@ const OperationRow& CMCheckOutFromArchive::row() const {
       .save = SaveRule::IfSaveOnCheckOut,
       .tracksUnits = true,
       .asksOverwrite = true,
+      .keeps = KeepRule::WritableFiles,
       .handlerKind = CMVDYHandler::CheckOut};
   return row;
 }
@@ -38,29 +38,14 @@ std::string fileToLoad(const ItemRun& run) {
   return name.empty() ? run.item.getFileNameForRepFiles() : name;
 }
 
-IUnit* load(const CMArchiveItem& item, const std::string& name) {
-  Host* const host = installedHost();
-  IUnit* const known = IUnit::getByFile(name);
-  // A unit of the same file elsewhere must not be replaced by this one.
-  if (known != nullptr && known->getDirectory() == item.getLocalPath()) {
-    bool canReload = false;
-    IUnit* const reloaded = reloadInPlace(*known, canReload);
-    if (canReload) return reloaded;
-  }
-  return host != nullptr ? addToModel(host->createATMFacade(item.getLocalPath()).get(), name)
-                         : nullptr;
-}
-
 }  // namespace
 
 void CMCheckOutFromArchive::after(ItemRun& run) const {
   if (run.item.getType().empty()) return;
-  if (run.handler != nullptr && !theCMToolShellInterface().lastCommandEnd().failed) {
-    run.handler->complete();
-  }
+  completeHandler(run);
   const std::string name = fileToLoad(run);
   VELDRA_TRACE("Performing ATM for the file ", name);
-  if (load(run.item, name) != nullptr) return;
+  if (loadItem(run.item, name) != nullptr) return;
   run.errorText =
       formatMessage(MessageId::FileNotLoaded,
                     {run.item.getLocalPath() + omPathSeparator() + run.item.getFileName()});

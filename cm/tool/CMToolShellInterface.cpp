@@ -82,11 +82,11 @@ RunResult runAndCollect(IProcesses& processes, const RedirectedCommand& command,
   result.wait = runner->getStatus(timeOut());
   const bool timedOut = result.wait == RunThread::WaitTimeout;
   if (!runner->errorLines().empty()) {
-    runner->errorLines().appendTo(errorText);
+    runner->errorLines().moveTo(errorText);
     echo(errorText);
     result.failed = true;
   } else if (!runner->outputLines().empty()) {
-    runner->outputLines().appendTo(timedOut ? errorText : output);
+    runner->outputLines().moveTo(timedOut ? errorText : output);
     result.failed = timedOut;
   }
   result.endedBadly = runner->end() != ProcessEnd::Exited || runner->endCode() != 0;

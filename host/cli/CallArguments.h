@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "cm/core/CMArgument.h"
@@ -27,11 +28,25 @@ class CallArguments {
   ArgumentList m_list;
 };
 
-/// "logFile" of a dry run.
-class PlannedLogFile : public CMUserBasedArgument {
+/// The same for the list of units that a batch command gets.
+inline constexpr char PlannedUnitList[] = "\x01units\x01";
+
+/// "logFile" and "unitList" of a dry run.
+class PlannedFiles : public CMUserBasedArgument {
  public:
   int isNamed(const std::string& keyword) const override;
   std::string substitute(const std::string& keyword) override;
+};
+
+/// "log" as a provider gets it: byte for byte, with nothing quoted.
+class ProviderComment : public CMUserBasedArgument {
+ public:
+  explicit ProviderComment(std::string comment) : m_comment(std::move(comment)) {}
+  int isNamed(const std::string& keyword) const override;
+  std::string substitute(const std::string& keyword) override;
+
+ private:
+  std::string m_comment;
 };
 
 /// What every operation on units is called with.

@@ -10,8 +10,10 @@
 #include "cm/tool/CMToolShellInterface.h"
 #include "cm/tool/CommandText.h"
 #include "host/cli/CallArguments.h"
+#include "host/cli/ProviderConnection.h"
 #include "host/cli/UnitOutcome.h"
 #include "host/model/PathNames.h"
+#include "host/platform/Secrets.h"
 
 namespace veldra::host::cli {
 
@@ -46,12 +48,14 @@ std::optional<std::string> createArchive(const std::string& place) {
   std::string errorText;
   const int executed = theCMToolShellInterface().Execute(command, output, errorText, "");
   if (executed != 0 && !theCMToolShellInterface().lastCommandEnd().failed) return std::nullopt;
-  return "The archive " + place + " cannot be made.\n" +
-         toolWords(theCMToolShellInterface().lastCommandEnd().words) + "\ncommand: " + command;
+  const std::string& words = theCMToolShellInterface().lastCommandEnd().words;
+  return "The archive " + place + " cannot be made.\n" + toolWords(words) +
+         "\ncommand: " + withoutSecrets(command) + adviceLine(words);
 }
 
 std::optional<std::string> connectToArchive(Session& session,
                                             const std::optional<std::string>& place) {
+  if (CMProperty::useSccCompliantTool() != 0) return connectToProvider(session, place);
   if (place && CMArchive::setMainArchive(*place) == 0) {
     return "The project's tool knows no archive. Choose a tool with \"veldra-cm property set "
            "CMTool NAME\".";

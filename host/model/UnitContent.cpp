@@ -78,6 +78,12 @@ void UnitCore::takeName(const Json& body) {
   if (const auto bytes = name ? bytesOfJson(*name) : std::nullopt) m_record.name = *bytes;
 }
 
+void UnitCore::forgetContent(const std::string& name) {
+  m_text.reset();
+  m_record.name = name;
+  m_modified = false;
+}
+
 void UnitCore::restoreBody(const Json& body) {
   Problem problem;
   ModelText* restored = content(problem);
@@ -153,6 +159,11 @@ IProperty* UnitCore::findProperty(const PropertyKeyView& key, bool localOnly) {
   for (UnitCore* unit = this; unit && unit != &m_project; unit = unit->m_owner) {
     if (!unit->m_propertiesRead) unit->readOwnProperties();
     Property* found = unit->m_properties ? unit->m_properties->find(key) : nullptr;
+    // What was set since is the user's own.
+    if (found && !found->source().empty()) {
+      m_project.properties().noteUnitProperty(
+          {std::string(key.subject), std::string(key.metaclass), std::string(key.name)}, *found);
+    }
     if (found || localOnly) return found;
   }
   return localOnly ? m_project.properties().findIn(Origin::Project, key)

@@ -1,17 +1,17 @@
-# checkout.sh --locked|--unlocked FILE@ [REVISION]: brings a file from the archive, with or without
-# a lock.
+# checkout.sh --locked|--unlocked FILE [LABEL]: brings a file from the archive, with or without a lock.
 . "${0%/*}/common.sh"
+. "${0%/*}/labels.sh"
 
-mode=$1 target=$2 revision=$3
+mode=$1 target=$2@ revision=${3:-HEAD}
 
 if [ "$mode" = --unlocked ]; then
-  svn update --parents --revision "${revision:-HEAD}" -- "$target"
+  number=$(revision_of "$revision")
+  [ -n "$number" ] || fail "There is no label or revision '$revision' in the archive."
+  svn update --parents --revision "$number" -- "$target"
   exit
 fi
-case $revision in
-  '' | HEAD) ;;
-  *) fail "Only the newest revision can be checked out; fetch revision '$revision' instead." ;;
-esac
+[ "$revision" = HEAD ] ||
+  fail "Only the newest revision can be checked out; fetch revision '$revision' instead."
 
 run svn lock -- "$target" && show && exit
 case $answer in

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <functional>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "cm/host/CSignal2Exception.h"
 #include "cm/host/IAbstractCMManager.h"
+#include "cm/host/IKeptCopies.h"
 #include "cm/host/IProgress.h"
 #include "cm/host/LogTrace.h"
 #include "cm/host/Undoer.h"
@@ -94,11 +96,33 @@ class MemoryProgress : public IProgress {
   void unitEnded(const ProgressStep& step, UnitEnd end, const std::string& words) override {
     ended.push_back({step.unit, end, words});
   }
+  void providerCallStarted(const char* entryPoint) override {
+    ++openProviderCalls;
+    if (onProviderCall) onProviderCall(entryPoint);
+  }
+  void providerCallEnded() override { --openProviderCalls; }
   bool isCancelled() override { return ended.size() >= cancelAfter; }
+
+  int openProviderCalls = 0;
+  std::function<void(const char*)> onProviderCall;
 
   std::vector<ProgressStep> started;
   std::vector<End> ended;
   std::size_t cancelAfter = static_cast<std::size_t>(-1);
+};
+
+/// Remembers what was kept; refuses every file while `refusal` is set.
+class MemoryKeptCopies : public IKeptCopies {
+ public:
+  bool keep(const std::string& file, const std::string& operation, std::string& reason) override {
+    reason = refusal;
+    if (refusal.empty()) lines.push_back("keep " + file + " before " + operation);
+    return refusal.empty();
+  }
+  void settle(const std::string& file) override { lines.push_back("settle " + file); }
+
+  std::vector<std::string> lines;
+  std::string refusal;
 };
 
 }  // namespace veldra::test

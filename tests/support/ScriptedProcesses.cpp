@@ -35,8 +35,8 @@ class ScriptedRunThread : public RunThread {
     if (m_reply.effect) m_reply.effect();
     return m_reply.timesOut ? WaitTimeout : 0;
   }
-  const LineList& errorLines() const override { return m_errors; }
-  const LineList& outputLines() const override { return m_output; }
+  LineList& errorLines() override { return m_errors; }
+  LineList& outputLines() override { return m_output; }
   ProcessEnd end() const override { return m_reply.timesOut ? ProcessEnd::TimedOut : m_reply.end; }
   int endCode() const override { return m_reply.code; }
 

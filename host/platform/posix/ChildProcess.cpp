@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include <string_view>
+#include <utility>
 
 #include "host/platform/posix/ChildStart.h"
 
@@ -24,8 +25,13 @@ constexpr int KillMilliseconds = 1000;
 /// would only cost time, because the Linux scheduler lets each new one begin at the end of the
 /// queue.
 bool haveTerminal() {
-  const FileDescriptor terminal(::open("/dev/tty", O_RDONLY | O_NOCTTY | O_CLOEXEC));
-  return static_cast<bool>(terminal);
+  static pid_t askedIn = 0;
+  static bool have = false;
+  // A session keeps the terminal that it began with.
+  if (const pid_t session = ::getsid(0); session != std::exchange(askedIn, session)) {
+    have = static_cast<bool>(FileDescriptor(::open("/dev/tty", O_RDONLY | O_NOCTTY | O_CLOEXEC)));
+  }
+  return have;
 }
 
 /// This process's environment with some variables set or replaced.

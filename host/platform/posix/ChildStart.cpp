@@ -12,10 +12,13 @@ namespace {
 
 constexpr unsigned LastDescriptor = ~0U;
 
+// Nobody ignores the real-time signals, which come after it.
+constexpr int LastCommonSignal = 31;
+
 /// Handlers go with the program that set them, but an ignored signal would stay ignored.
 void restoreIgnoredSignals() {
   struct sigaction action {};
-  for (int signal = 1; signal < NSIG; ++signal) {
+  for (int signal = 1; signal <= LastCommonSignal; ++signal) {
     if (::sigaction(signal, nullptr, &action) != 0 || action.sa_handler != SIG_IGN) continue;
     action.sa_handler = SIG_DFL;
     ::sigaction(signal, &action, nullptr);

@@ -75,6 +75,8 @@ void OutputCollector::wait() {
   }
   if (sources[0].revents != 0) count(m_output.take(sources[0].revents));
   if (sources[1].revents != 0) count(m_errors.take(sources[1].revents));
+  // Nobody asks for the rest of an output when there are error lines.
+  if (m_errors.hasLines() && m_output.isFlood()) m_output.forgetFurther();
   const bool asked = !m_ended && m_child.descriptor() < 0 && m_child.hasEnded();
   if (asked || sources[2].revents != 0) noticeEnd();
   noticeTimeAndCancel();

@@ -19,8 +19,6 @@ namespace {
 // A child that prints much waits less often for a larger pipe; for others it is not worth a call.
 constexpr std::size_t FirstPipe = std::size_t{64} * 1024;
 constexpr std::size_t LargePipe = std::size_t{1024} * 1024;
-// Room that holds a large page or two wherever it begins.
-constexpr std::size_t LargeRoom = std::size_t{4} * 1024 * 1024;
 
 }  // namespace
 
@@ -35,15 +33,29 @@ int OutputPipe::open() {
 }
 
 /// A flood would otherwise fault its memory in by the hundred thousand small pages.
-void OutputPipe::preferLargePages(std::span<char> room) {
-  const char* const end = room.data() + room.size();
-  if (room.size() < LargeRoom || end == m_advisedEnd) return;
+void OutputPipe::preferLargePages() {
+  if (!isFlood()) return;
+  const std::span<char> memory = m_lines.untouched();
+  const char* const end = memory.data() + memory.size();
+  if (end == m_advisedEnd) return;
   m_advisedEnd = end;
   const auto pageSize = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
-  const auto start = reinterpret_cast<std::uintptr_t>(room.data());
+  const auto start = reinterpret_cast<std::uintptr_t>(memory.data());
   const std::uintptr_t offset = (pageSize - start % pageSize) % pageSize;
+  if (offset >= memory.size()) return;
   // Advice only: a system that does not take it is merely slower.
-  ::madvise(room.data() + offset, room.size() - offset, MADV_HUGEPAGE);
+  ::madvise(memory.data() + offset, memory.size() - offset, MADV_HUGEPAGE);
+}
+
+bool OutputPipe::isFlood() const {
+  return m_lines.size() > LargePipe;
+}
+
+std::span<char> OutputPipe::roomToRead() {
+  static thread_local std::array<char, FirstPipe> forgotten;
+  if (m_forgets) return forgotten;
+  preferLargePages();
+  return m_lines.room();
 }
 
 std::size_t OutputPipe::take(short events) {
@@ -51,8 +63,7 @@ std::size_t OutputPipe::take(short events) {
   if ((events & POLLIN) == 0) m_reader.reset();
   std::size_t taken = 0;
   while (m_reader && taken < LargePipe) {
-    const std::span<char> room = m_lines.room();
-    preferLargePages(room);
+    const std::span<char> room = roomToRead();
     const ssize_t result = ::read(m_reader.get(), room.data(), room.size());
     if (result < 0 && errno == EINTR) continue;
     if (result < 0 && errno == EAGAIN) break;
@@ -63,7 +74,7 @@ std::size_t OutputPipe::take(short events) {
     const auto count = static_cast<std::size_t>(result);
     m_insideLine = room[count - 1] != '\n';
     if (m_watch) m_watch->printed({room.data(), count});
-    m_lines.took(count);
+    if (!m_forgets) m_lines.took(count);
     taken += count;
     if (count >= FirstPipe && !std::exchange(m_enlarged, true)) {
       ::fcntl(m_reader.get(), F_SETPIPE_SZ, static_cast<int>(LargePipe));

@@ -25,7 +25,13 @@ class OutputPipe {
   /// `events` is what `poll` has said of the descriptor, and not 0.
   std::size_t take(short events);
 
+  /// What comes from now on is read and forgotten.
+  void forgetFurther() { m_forgets = true; }
+
   void close() { m_reader.reset(); }
+  bool hasLines() const { return !m_lines.empty(); }
+  /// True when there is so much that keeping it costs.
+  bool isFlood() const;
   /// True when the last byte taken was no line end.
   bool endsInsideLine() const { return m_insideLine; }
 
@@ -33,13 +39,15 @@ class OutputPipe {
   int descriptor() const { return m_reader.get(); }
 
  private:
-  void preferLargePages(std::span<char> room);
+  std::span<char> roomToRead();
+  void preferLargePages();
 
   LineList& m_lines;
   ChildWatch* m_watch;
   FileDescriptor m_reader;
   FileDescriptor m_childEnd;
   bool m_enlarged = false;
+  bool m_forgets = false;
   bool m_insideLine = false;
   const char* m_advisedEnd = nullptr;
 };

@@ -20,8 +20,8 @@ class ProcessRunner : public RunThread {
                 Output output, const OutputFile* file);
 
   std::uint32_t getStatus(std::uint32_t timeout) override;
-  const LineList& errorLines() const override { return m_errorLines; }
-  const LineList& outputLines() const override { return m_outputLines; }
+  LineList& errorLines() override { return m_errorLines; }
+  LineList& outputLines() override { return m_outputLines; }
   ProcessEnd end() const override { return m_end; }
   int endCode() const override { return m_endCode; }
 

@@ -1,7 +1,14 @@
 #include "host/platform/Program.h"
 
+#include <errno.h>
+#include <signal.h>
 #include <stdlib.h>
 #include <unistd.h>
+
+#include <fstream>
+#include <string>
+
+#include "host/platform/posix/ProgramSearch.h"
 
 namespace veldra::host {
 
@@ -19,6 +26,29 @@ bool isTerminal(StandardStream stream) {
 
 void setVariable(const char* name, const char* value) {
   setenv(name, value, 1);
+}
+
+std::string locateProgram(const std::string& name) {
+  const Result<std::string> found = findProgram(name);
+  return found ? *found : std::string();
+}
+
+bool canWriteInto(const std::string& folder) {
+  return access(folder.c_str(), W_OK | X_OK) == 0;
+}
+
+long processNumber() {
+  return getpid();
+}
+
+bool isProcessAlive(long number) {
+  if (kill(static_cast<pid_t>(number), 0) != 0) return errno != ESRCH;
+  // One that has ended keeps its number until its parent asks; some containers never do.
+  std::ifstream status("/proc/" + std::to_string(number) + "/stat");
+  std::string line;
+  std::getline(status, line);
+  const std::size_t name = line.rfind(')');
+  return name == std::string::npos || line.compare(name, 3, ") Z") != 0;
 }
 
 }  // namespace veldra::host

@@ -2,6 +2,7 @@
 
 #include <io.h>
 #include <stdlib.h>
+#include <windows.h>
 
 namespace veldra::host {
 
@@ -11,6 +12,30 @@ bool isTerminal(StandardStream stream) {
 
 void setVariable(const char* name, const char* value) {
   _putenv_s(name, value);
+}
+
+std::string locateProgram(const std::string& name) {
+  char path[MAX_PATH] = {};
+  const DWORD length = SearchPathA(nullptr, name.c_str(), ".exe", MAX_PATH, path, nullptr);
+  return length > 0 && length < MAX_PATH ? std::string(path, length) : std::string();
+}
+
+bool canWriteInto(const std::string& folder) {
+  return _access(folder.c_str(), 2) == 0;
+}
+
+long processNumber() {
+  return static_cast<long>(GetCurrentProcessId());
+}
+
+bool isProcessAlive(long number) {
+  const HANDLE process =
+      OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, static_cast<DWORD>(number));
+  if (process == nullptr) return GetLastError() != ERROR_INVALID_PARAMETER;
+  DWORD code = 0;
+  const bool isRunning = GetExitCodeProcess(process, &code) == 0 || code == STILL_ACTIVE;
+  CloseHandle(process);
+  return isRunning;
 }
 
 }  // namespace veldra::host

@@ -47,8 +47,10 @@ TEST_F(ProcessesTest, bothPipesFullAtOnceDoNotBlock) {
       run(script("head -c 8388608 /dev/zero >&2 & head -c 8388608 /dev/zero; wait; printf end; "
                  "printf END >&2"));
   EXPECT_EQ(outcome.end, ProcessEnd::Exited);
-  EXPECT_EQ(outcome.output, std::string(8388608, '\0') + "end");
-  EXPECT_EQ(outcome.errors, std::string(8388608, '\0') + "END");
+  EXPECT_TRUE(outcome.errors == std::string(8388608, '\0') + "END") << outcome.errors.size();
+  // Beside error lines, only the beginning of the other output is kept.
+  EXPECT_TRUE(outcome.output.starts_with(std::string(65536, '\0')));
+  EXPECT_LE(outcome.output.size(), 8388608U + 3);
 }
 
 TEST_F(ProcessesTest, theChildHasNothingOfOurs) {

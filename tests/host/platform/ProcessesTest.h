@@ -29,8 +29,8 @@ class ProcessesTest : public testing::Test {
     outcome.wait = runner.getStatus(timeout);
     outcome.end = runner.end();
     outcome.code = runner.endCode();
-    runner.outputLines().appendTo(outcome.output);
-    runner.errorLines().appendTo(outcome.errors);
+    runner.outputLines().moveTo(outcome.output);
+    runner.errorLines().moveTo(outcome.errors);
     return outcome;
   }
 

@@ -1,0 +1,72 @@
+// "run", and what the program says of itself to shells and readers.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include "tests/live/Sandbox.h"
+
+namespace veldra::live {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+TEST(Run, RunsTheCommandOfAProperty) {
+  Sandbox sandbox;
+  sandbox.copySample("model");
+  ASSERT_EQ(sandbox.cm({"init", "model", "--name", "M", "--tool", "RCS"}).code, 0);
+  sandbox.write("show.sh", "echo \"$1|$2\"; [ \"$2\" != fail ] || exit 1\n");
+  const std::string command = "sh \"" + sandbox.path("show.sh") + "\" \"$Unit\" ($label ? $label)";
+  ASSERT_EQ(sandbox.cm({"-p", "model", "property", "set", "Show", command}).code, 0);
+  const auto run = [&sandbox](std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), {"-p", "model"});
+    return sandbox.cm(arguments);
+  };
+  EXPECT_EQ(run({"run", "Show", "Brewing/Grinder.vcmp", "Milk::Milk", "-l", "x"}).out,
+            "Grinder.vcmp|x\n");
+  EXPECT_EQ(run({"run", "Show", "Brewing/Grinder.vcmp", "Milk/Milk.vpkg"}).out,
+            "Grinder.vcmp|\nMilk.vpkg|\n");
+  const Ended failed = run({"run", "Show", "Brewing/Grinder.vcmp", "-l", "fail"});
+  EXPECT_EQ(failed.code, 3);
+  EXPECT_THAT(failed.err, HasSubstr("show.sh"));
+  const Ended planned = run({"--json", "--dry-run", "run", "Show", "Brewing/Grinder.vcmp"});
+  EXPECT_EQ(planned.code, 0) << planned.err;
+  const auto unit = nlohmann::json::parse(planned.out)["units"][0];
+  EXPECT_EQ(unit["result"], "planned");
+  EXPECT_EQ(unit["plan"]["commands"][0][2], "Grinder.vcmp");
+  EXPECT_EQ(run({"run", "Nonsense"}).code, 3);
+  EXPECT_EQ(run({"run", "Show"}).code, 3) << "nothing answers to $Unit";
+}
+
+TEST(Manual, NamesEveryCommandAndCompletesInBash) {
+  const Sandbox sandbox;
+  const std::string page = sandbox.cm({"manual", "man"}).out;
+  const std::string help = sandbox.cm({"--help"}).out;
+  for (const char* command : {"init", "checkin", "run", "trust", "kept", "doctor", "delete"}) {
+    EXPECT_THAT(help, HasSubstr(command));
+    EXPECT_THAT(page, HasSubstr(std::string(".SS \"") + command));
+  }
+  EXPECT_THAT(page, HasSubstr("\\fB\\-\\-dry\\-run\\fR"));
+  if (isInstalled("man")) {
+    EXPECT_THAT(sandbox.shell("\"$CM\" manual man | man --warnings -l - >io/none").err, "");
+  }
+  sandbox.write("complete.bash",
+                sandbox.cm({"manual", "bash"}).out +
+                    "try() { COMP_WORDS=(veldra-cm \"$@\"); COMP_CWORD=$#; _veldra_cm; "
+                    "echo \"${COMPREPLY[@]}\"; }\n"
+                    "try che; try checkin --mes; try -p x pack sh; try ''\n");
+  const Ended completed = sandbox.run({"bash", "complete.bash"});
+  EXPECT_EQ(completed.err, "");
+  EXPECT_THAT(completed.out, testing::StartsWith("checkout checkin\n--message\nshow\n"));
+  EXPECT_THAT(completed.out, HasSubstr("doctor"));
+  EXPECT_EQ(sandbox.cm({"manual", "zsh"}).out.rfind("#compdef veldra-cm", 0), 0U);
+  if (isInstalled("zsh")) {
+    EXPECT_EQ(sandbox.shell("\"$CM\" manual zsh >z && zsh -n z").code, 0);
+  }
+  EXPECT_EQ(sandbox.cm({"manual", "fish"}).code, 2);
+}
+
+}  // namespace
+}  // namespace veldra::live

@@ -1,0 +1,188 @@
+// Two users with a folder each, and one server that both use over the network.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <optional>
+
+#include "tests/live/Job.h"
+#include "tests/live/Server.h"
+
+namespace veldra::live {
+namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::Not;
+
+constexpr char Unit[] = "Brewing/Grinder.vcmp";
+constexpr char Other[] = "Milk/Milk.vpkg";
+
+/// Serves the archive of a job; empty where a server does not come up.
+using Serve = std::string (*)(Job& job, std::optional<Server>& server);
+
+std::string serveSubversion(Job& job, std::optional<Server>& server) {
+  const int port = freePort();
+  job.sandbox().write("archive/conf/svnserve.conf",
+                      "[general]\nanon-access = none\nauth-access = write\npassword-db = passwd\n");
+  job.sandbox().write("archive/conf/passwd", "[users]\nalice = alice\nbob = bob\n");
+  server.emplace(job.sandbox(),
+                 std::vector<std::string>{"svnserve", "--daemon", "--foreground", "--listen-host",
+                                          "127.0.0.1", "--listen-port", std::to_string(port),
+                                          "--root", job.sandbox().path()},
+                 port);
+  return "svn://127.0.0.1:" + std::to_string(port) + "/archive";
+}
+
+std::string serveGit(Job& job, std::optional<Server>& server) {
+  const int port = freePort();
+  server.emplace(
+      job.sandbox(),
+      std::vector<std::string>{"git", "daemon", "--reuseaddr", "--listen=127.0.0.1",
+                               "--port=" + std::to_string(port), "--export-all",
+                               "--enable=receive-pack", "--base-path=" + job.sandbox().path()},
+      port);
+  return "git://127.0.0.1:" + std::to_string(port) + "/archive";
+}
+
+std::string serveMercurial(Job& job, std::optional<Server>& server) {
+  const int port = freePort();
+  server.emplace(job.sandbox(),
+                 std::vector<std::string>{"hg", "serve", "-R", "archive", "-a", "127.0.0.1", "-p",
+                                          std::to_string(port), "--config", "web.allow-push=*",
+                                          "--config", "web.push_ssl=no"},
+                 port);
+  return "http://127.0.0.1:" + std::to_string(port) + "/";
+}
+
+/// A program in place of ssh that stays on this machine.
+std::string serveCvs(Job& job, std::optional<Server>& /*server*/) {
+  // The last argument is a command line.
+  job.sandbox().write("rsh", "#!/bin/sh\nfor line do :; done\nexec sh -c \"$line\"\n");
+  job.sandbox().shell("chmod +x rsh");
+  job.sandbox().set("CVS_RSH", job.sandbox().path("rsh"));
+  return ":ext:server:" + job.tool().archive() + "//model";
+}
+
+std::string shareDirectory(Job& job, std::optional<Server>& /*server*/) {
+  return job.tool().archive();
+}
+
+struct Row {
+  const char* pack;
+  Serve serve;
+  const char* noMerge;  ///< Why a fetch does not bring both changes together; null where it does.
+};
+
+class TwoUsersTest : public testing::TestWithParam<Row> {
+ protected:
+  void SetUp() override {
+    const std::string program = m_job.tool().traits().program;
+    if (!isInstalled(program)) GTEST_SKIP() << program << " is not installed";
+    m_job.tool().makeArchive();
+    m_address = GetParam().serve(m_job, m_server);
+    ASSERT_TRUE(!m_server || m_server->isListening());
+    m_job.makeProject(m_address);
+    ASSERT_FALSE(HasFailure());
+    m_job.cm({"add", "--all", "-m", "all"});
+    m_job.become("bob", "second");
+    m_job.tool().checkOut(m_address, "second");
+    m_job.cm({"connect"});
+    EXPECT_FALSE(m_job.isWritable(Unit));
+  }
+
+  /// Changes a file without asking the tool.
+  void changeUnasked(const std::string& from, const std::string& to) {
+    m_job.sandbox().shell("chmod u+w second/" + std::string(Unit));
+    m_job.change(Unit, from, to);
+  }
+
+  void checkInAsAlice(const std::string& from, const std::string& to) {
+    m_job.become("alice", "model");
+    m_job.cm({"checkout", Unit});
+    m_job.change(Unit, from, to);
+    m_job.cm({"checkin", Unit, "-m", "by alice"});
+    m_job.become("bob", "second");
+  }
+
+  const Tool& tool() const { return m_job.tool(); }
+
+  Job m_job{GetParam().pack};
+  std::optional<Server> m_server;
+  std::string m_address;
+};
+
+class LockingUsersTest : public TwoUsersTest {};
+
+TEST_P(LockingUsersTest, TheSecondCheckOutIsRefusedAndNamesTheHolder) {
+  m_job.become("alice", "model");
+  m_job.cm({"checkout", Unit});
+  m_job.become("bob", "second");
+  for (const std::string command : {"checkout", "lock"}) {
+    const Ended refused = m_job.tryCm({command, Unit, Other});
+    EXPECT_EQ(refused.code, 1) << command << refused.err;
+    EXPECT_THAT(refused.err, AllOf(HasSubstr("alice"), HasSubstr(Unit), Not(HasSubstr(Other))));
+    EXPECT_FALSE(m_job.isWritable(Unit));
+    EXPECT_EQ(tool().holder(Other), "bob");
+    m_job.cm({"unlock", Other});
+  }
+  EXPECT_EQ(tool().holder(Unit), "alice");
+}
+
+TEST_P(TwoUsersTest, ACheckInOnTopOfANewerOneIsRefusedAndNothingIsLost) {
+  changeUnasked("Grinds one portion", "Crushes one portion");
+  const std::string ofBob = m_job.read(Unit);
+  checkInAsAlice("\"5\"", "\"6\"");
+
+  const Ended refused = m_job.tryCm({"checkin", Unit, "-m", "by bob"});
+  EXPECT_EQ(refused.code, 3);
+  EXPECT_THAT(refused.err, HasSubstr(tool().traits().outOfDate));
+  EXPECT_EQ(m_job.read(Unit), ofBob);
+  EXPECT_THAT(tool().newestText(Unit), AllOf(HasSubstr("\"6\""), HasSubstr("Grinds")));
+
+  if (GetParam().noMerge != nullptr) {
+    EXPECT_NE(m_job.tryCm({"fetch", Unit}).code, 0);
+    EXPECT_EQ(m_job.read(Unit), ofBob);
+    return;
+  }
+  m_job.cm({"fetch", Unit});
+  EXPECT_THAT(m_job.read(Unit), AllOf(HasSubstr("\"6\""), HasSubstr("Crushes")));
+  EXPECT_TRUE(m_job.isWritable(Unit) || tool().traits().noLocks == nullptr);
+  m_job.cm({"checkin", Unit, "-m", "by bob"});
+  EXPECT_THAT(tool().newestText(Unit), AllOf(HasSubstr("\"6\""), HasSubstr("Crushes")));
+  EXPECT_EQ(tool().newestText(Unit), m_job.read(Unit));
+}
+
+class MergingUsersTest : public TwoUsersTest {};
+
+TEST_P(MergingUsersTest, ChangesThatDoNotFitTogetherAreKept) {
+  changeUnasked("\"5\"", "\"7\"");
+  const std::string ofBob = m_job.read(Unit);
+  checkInAsAlice("\"5\"", "\"6\"");
+  const Ended refused = m_job.tryCm({"fetch", Unit});
+  EXPECT_EQ(refused.code, 3);
+  EXPECT_THAT(refused.err, HasSubstr("cannot be merged"));
+  EXPECT_EQ(m_job.read(Unit), ofBob);
+  m_job.cm({"undo", Unit});
+  m_job.cm({"fetch", Unit});
+  EXPECT_THAT(m_job.read(Unit), HasSubstr("\"6\""));
+}
+
+std::string nameOf(const testing::TestParamInfo<Row>& info) {
+  return info.param.pack;
+}
+
+constexpr Row Subversion{"Subversion", serveSubversion, nullptr};
+constexpr Row Cvs{"CVS", serveCvs, nullptr};
+constexpr Row Git{"Git", serveGit, nullptr};
+constexpr Row Mercurial{"Mercurial", serveMercurial, nullptr};
+constexpr Row Rcs{"RCS", shareDirectory, "RCS leaves a writable file alone"};
+
+INSTANTIATE_TEST_SUITE_P(Packs, TwoUsersTest, testing::Values(Subversion, Cvs, Git, Mercurial, Rcs),
+                         nameOf);
+INSTANTIATE_TEST_SUITE_P(Packs, LockingUsersTest, testing::Values(Subversion, Cvs, Rcs), nameOf);
+// Where locks keep such changes apart, they cannot arise.
+INSTANTIATE_TEST_SUITE_P(Packs, MergingUsersTest, testing::Values(Git, Mercurial), nameOf);
+
+}  // namespace
+}  // namespace veldra::live
