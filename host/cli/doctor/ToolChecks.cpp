@@ -72,8 +72,8 @@ DoctorCheck versionCheck(Session& session, const std::string& tool,
   constexpr std::uint32_t Patience = 30'000;
   run->getStatus(Patience);
   std::string output;
-  run->outputLines().appendTo(output);
-  run->errorLines().appendTo(output);
+  run->outputLines().moveTo(output);
+  run->errorLines().moveTo(output);
   std::string error;
   PatternMatch match;
   const IPattern* const pattern =

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <string_view>
 
+#include "cm/core/CMArchive.h"
 #include "cm/core/CMAskOnCheckoutGuard.h"
 #include "cm/core/CMFacade.h"
+#include "host/cli/Connection.h"
 
 namespace veldra::host::desktop {
 namespace {
@@ -47,6 +49,7 @@ class Arguments {
 
 CommandReport reportOf(const DiagnosticList& diagnostics, const ResultCollector& collector) {
   CommandReport report;
+  report.wasCancelled = collector.wasCancelled();
   for (const UnitResult& result : collector.results()) {
     if (result.end == UnitEnd::Done) {
       ++report.done;
@@ -84,13 +87,23 @@ CommandReport runCommand(const CommandRow& row, UnitList units, const CommandCho
   return reportOf(diagnostics, collector);
 }
 
-CommandReport connectToArchive(Project& project, ResultCollector& collector) {
+CommandReport runOnArchive(Project& project, ResultCollector& collector,
+                           const std::function<void(ArgumentList&, DiagnosticList&)>& call) {
   collector.start();
   DiagnosticList diagnostics;
-  UnitList units;
   Arguments arguments(CMMode::ReadOnly, {}, project.getProjectDirectory());
-  CMFacade::ConnectToArchive(units, arguments.list(), diagnostics);
+  call(arguments.list(), diagnostics);
   return reportOf(diagnostics, collector);
+}
+
+CommandReport connectToArchive(Project& project, ResultCollector& collector) {
+  if (const auto failure = cli::createArchive(CMArchive::getMainArchive())) {
+    return {.messages = {*failure}};
+  }
+  return runOnArchive(project, collector, [](ArgumentList& arguments, DiagnosticList& diagnostics) {
+    UnitList units;
+    CMFacade::ConnectToArchive(units, arguments, diagnostics);
+  });
 }
 
 std::string reasonOf(const UnitResult& result) {

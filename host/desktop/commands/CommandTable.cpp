@@ -85,6 +85,7 @@ std::span<const CommandRow> commandTable() {
        .icon = "history",
        .run = CMFacade::History,
        .templateProperty = "History",
+       .changesArchive = false,
        .offersDescendants = false},
       {.id = Id::Properties,
        .name = "Properties",
@@ -93,6 +94,7 @@ std::span<const CommandRow> commandTable() {
        .icon = "properties",
        .run = CMFacade::Properties,
        .templateProperty = nullptr,
+       .changesArchive = false,
        .offersDescendants = false},
   }};
   return Rows;

@@ -33,8 +33,9 @@ struct CommandRow {
   CMMode::Mode mode = CMMode::ReadOnly;
   bool asksComment = false;
   bool asksLabel = false;
-  bool savesFirst = false;    ///< What is unsaved must be in the file that the tool takes.
-  bool losesChanges = false;  ///< Asks before unsaved changes go.
+  bool savesFirst = false;     ///< What is unsaved must be in the file that the tool takes.
+  bool changesArchive = true;  ///< Who holds what may be different afterwards.
+  bool losesChanges = false;   ///< Asks before unsaved changes go.
   bool offersDescendants = true;
 };
 

@@ -28,6 +28,8 @@ bool comesBefore(const std::unique_ptr<OutlineNode>& a, const std::unique_ptr<Ou
 
 class Builder {
  public:
+  explicit Builder(const ArchiveStatus& archive) : m_archive(archive) {}
+
   std::unique_ptr<OutlineNode> build(const UnitCore& unit, OutlineNode* parent) const {
     auto node = std::make_unique<OutlineNode>(describe(unit));
     node->parent = parent;
@@ -42,6 +44,17 @@ class Builder {
  private:
   OutlineNode describe(const UnitCore& unit) const {
     const UnitRecord& record = unit.record();
+    OutlineNode node = basicsOf(unit, record);
+    if (!m_archive.isKnown() || !unit.hasFile() || record.referenced) return node;
+    const bool isProject = node.path == ".";
+    const ArchiveStatus::Entry* entry = m_archive.find(isProject ? record.fileName : node.path);
+    node.isOutsideArchive = entry == nullptr;
+    if (entry && node.locker.empty()) node.locker = entry->locker;
+    if (entry && node.version.empty()) node.version = entry->version;
+    return node;
+  }
+
+  OutlineNode basicsOf(const UnitCore& unit, const UnitRecord& record) const {
     return {.file = unit.hasFile() ? unit.fullFileName() : std::string(),
             .path = unit.hasFile() ? unit.relativeFileName() : record.folder->relative,
             .name = record.name,
@@ -54,13 +67,14 @@ class Builder {
             .isControlledFile = record.controlledFile};
   }
 
+  const ArchiveStatus& m_archive;
   CMHeaderReader m_headers;
 };
 
 }  // namespace
 
-std::unique_ptr<OutlineNode> outlineOf(Project& project) {
-  return Builder().build(project, nullptr);
+std::unique_ptr<OutlineNode> outlineOf(Project& project, const ArchiveStatus& archive) {
+  return Builder(archive).build(project, nullptr);
 }
 
 UnitCore* unitOf(Project& project, const OutlineNode& node) {

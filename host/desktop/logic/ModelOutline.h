@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "host/desktop/commands/ArchiveStatus.h"
 #include "host/model/Project.h"
 
 namespace veldra::host::desktop {
@@ -24,15 +25,16 @@ struct OutlineNode {
   std::int32_t cmState = -1;  ///< The provider's word; -1 for none.
   Access access = Access::NoFile;
   bool isModified = false;
+  bool isOutsideArchive = false;  ///< The archive is known not to hold the file.
   bool isControlledFile = false;
   OutlineNode* parent = nullptr;
   std::size_t row = 0;  ///< In its parent.
   std::vector<std::unique_ptr<OutlineNode>> children{};
 };
 
-/// The project with all its units as they are now. The module must have a host, for what the CM
-/// headers say.
-std::unique_ptr<OutlineNode> outlineOf(Project& project);
+/// The project with all its units as they are now, and who holds them as far as `archive` knows.
+/// The module must have a host, for what the CM headers say.
+std::unique_ptr<OutlineNode> outlineOf(Project& project, const ArchiveStatus& archive);
 
 /// The unit of a line, or null when it is gone or has no file.
 UnitCore* unitOf(Project& project, const OutlineNode& node);

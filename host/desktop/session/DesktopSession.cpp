@@ -42,7 +42,30 @@ bool DesktopSession::open(const std::string& directoryOrFile) {
     return false;
   }
   tell(project()->problems(), tr("Some files of the project have problems."));
+  askForTrust();
   return true;
+}
+
+void DesktopSession::askForTrust() {
+  CommandTrust& trust = m_host->trust();
+  if (trust.isTrusted()) return;
+  QString details;
+  for (const ForeignCommand& command : trust.commands()) {
+    details += shown(command.key.metaclass + "." + command.key.name + " = " + command.value +
+                     "\n    " + command.source + "\n");
+  }
+  const auto answer = m_questions.ask(
+      {.text = tr("This project brings commands of its own. They run as soon as you use version "
+                  "control. Trust them only when you trust where the project comes from.\n\n"
+                  "Trust these commands?"),
+       .details = details,
+       .icon = QMessageBox::Warning,
+       .buttons = QMessageBox::Yes | QMessageBox::No,
+       .preset = QMessageBox::No});
+  if (answer != QMessageBox::Yes) return;
+  if (const auto failure = trust.trust(project()->getFullFileName())) {
+    m_questions.ask({.text = shown(*failure), .icon = QMessageBox::Warning});
+  }
 }
 
 void DesktopSession::close() {

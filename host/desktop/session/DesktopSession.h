@@ -48,6 +48,7 @@ class DesktopSession : public QObject {
   void saved();
 
  private:
+  void askForTrust();
   HostOptions complete(HostOptions options);
 
   Questions& m_questions;

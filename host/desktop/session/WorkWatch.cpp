@@ -44,6 +44,7 @@ WorkWatch::WorkWatch(OutputSink& sink) : m_sink(sink) {
 void WorkWatch::cancel() {
   if (!m_isWorking || m_isCancelled) return;
   m_isCancelled = true;
+  m_results.cancelled();
   emit cancelled();
 }
 

@@ -35,9 +35,23 @@ QPixmap drawn(const QByteArray& svg, int size) {
   return pixmap;
 }
 
-void addPictures(const QString& name, const QColor& ink, QIcon::Mode mode, QIcon& icon) {
+/// The picture in every size, and with what `finish` adds to each.
+template <class Finish>
+void addPictures(const QString& name, const QColor& ink, QIcon::Mode mode, QIcon& icon,
+                 Finish finish) {
   const QByteArray svg = drawing(name, ink);
-  for (const int size : Sizes) icon.addPixmap(drawn(svg, size), mode);
+  for (const int size : Sizes) icon.addPixmap(finish(drawn(svg, size)), mode);
+}
+
+/// For every state that the palette has a colour for.
+template <class Finish>
+void addAllPictures(const QString& name, QIcon& icon, Finish finish) {
+  const QPalette palette = QApplication::palette();
+  addPictures(name, palette.color(QPalette::Active, QPalette::ButtonText), QIcon::Normal, icon,
+              finish);
+  addPictures(name, palette.color(QPalette::Disabled, QPalette::ButtonText), QIcon::Disabled, icon,
+              finish);
+  addPictures(name, palette.color(QPalette::HighlightedText), QIcon::Selected, icon, finish);
 }
 
 QHash<QString, QIcon>& cache() {
@@ -58,8 +72,10 @@ QString drawingOf(const OutlineNode& node) {
 std::optional<Badge> badgeOf(const OutlineNode& node) {
   if (node.access == Access::Stub) return Badge{"U", QColor(0x80, 0x80, 0x88)};
   if (node.isModified) return Badge{"M", QColor(0xd9, 0x77, 0x06)};
+  if (node.isOutsideArchive) return Badge{"+", QColor(0x6d, 0x5b, 0xd0)};
   if (node.access == Access::ReadWrite) return Badge{"W", QColor(0x15, 0x80, 0x3d)};
-  if (!node.locker.empty()) return Badge{"L", QColor(0xb9, 0x1c, 0x1c)};
+  if (!node.locker.empty() && node.access == Access::ReadOnly)
+    return Badge{"L", QColor(0xb9, 0x1c, 0x1c)};
   return std::nullopt;
 }
 
@@ -84,12 +100,7 @@ QPixmap withBadge(QPixmap base, const Badge& badge) {
 
 QIcon icon(const QString& name) {
   QIcon& known = cache()[name];
-  if (known.isNull()) {
-    const QPalette palette = QApplication::palette();
-    addPictures(name, palette.color(QPalette::Active, QPalette::ButtonText), QIcon::Normal, known);
-    addPictures(name, palette.color(QPalette::Disabled, QPalette::ButtonText), QIcon::Disabled,
-                known);
-  }
+  if (known.isNull()) addAllPictures(name, known, [](QPixmap picture) { return picture; });
   return known;
 }
 
@@ -99,8 +110,7 @@ QIcon unitIcon(const OutlineNode& node) {
   if (!badge) return icon(name);
   QIcon& known = cache()[name + '/' + badge->letter];
   if (known.isNull()) {
-    const QByteArray svg = drawing(name, QApplication::palette().color(QPalette::Text));
-    for (const int size : Sizes) known.addPixmap(withBadge(drawn(svg, size), *badge));
+    addAllPictures(name, known, [&badge](QPixmap base) { return withBadge(base, *badge); });
   }
   return known;
 }

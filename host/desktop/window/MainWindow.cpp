@@ -6,15 +6,18 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QSettings>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QTreeView>
+#include <QVBoxLayout>
 
 #include "host/desktop/Text.h"
 #include "host/desktop/window/CommandTexts.h"
+#include "host/desktop/window/EditorParts.h"
 #include "host/desktop/window/Icons.h"
 #include "host/desktop/window/ModelTreeModel.h"
 #include "host/desktop/window/OutputView.h"
@@ -69,6 +72,7 @@ void MainWindow::buildContent() {
   m_tree->setModel(m_model);
   m_tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
   m_tree->setUniformRowHeights(true);
+  m_tree->setIconSize({18, 18});
   m_tree->setFrameShape(QFrame::NoFrame);
   m_tree->setContextMenuPolicy(Qt::CustomContextMenu);
   m_tree->header()->setStretchLastSection(false);
@@ -93,7 +97,17 @@ void MainWindow::buildContent() {
   m_splitter->setSizes({380, 800});
   m_splitter->setChildrenCollapsible(false);
   m_pages->addWidget(m_welcome);
-  m_pages->addWidget(m_splitter);
+  auto* work = new QWidget;
+  auto* column = new QVBoxLayout(work);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  m_hint = new Banner;
+  m_hint->label()->setText(tr("This project is not under version control yet."));
+  connect(m_hint->addButton(tr("Co&nnect to Archive…")), &QPushButton::clicked, this,
+          &MainWindow::connectProject);
+  column->addWidget(m_hint);
+  column->addWidget(m_splitter, 1);
+  m_pages->addWidget(work);
   setCentralWidget(m_pages);
 
   m_toolLabel = new QLabel;
@@ -220,7 +234,7 @@ void MainWindow::refresh() {
   Project* project = m_session.project();
   {
     const QSignalBlocker quiet(m_tree->selectionModel());
-    m_model->setOutline(project ? outlineOf(*project) : nullptr);
+    m_model->setOutline(project ? outlineOf(*project, m_archive) : nullptr);
   }
   m_tree->expandAll();
   for (const QString& path : collapsed) {

@@ -20,6 +20,7 @@ class QTreeView;
 
 namespace veldra::host::desktop {
 
+class Banner;
 class ModelTreeModel;
 class OutputView;
 class ProgressPopup;
@@ -56,6 +57,7 @@ class MainWindow : public QMainWindow {
   void buildEditMenu();
   void buildViewMenu();
   void buildCommandMenu();
+  void addAppearances(QMenu& menu);
   QAction* addAction(QMenu& menu, const QString& iconName, const QString& text,
                      const QKeySequence& keys, void (MainWindow::*slot)());
   void restoreLayout();
@@ -84,12 +86,11 @@ class MainWindow : public QMainWindow {
   void runCommand(const CommandRow& row);
   bool mayLoseChanges(const UnitList& units);
   void tellReport(const CommandReport& report, const QString& operation);
-  void openDialog();
   void connectProject();
   void refreshStatus();
   /// As the tool's setting for it says: always, never, or after a question.
   void refreshStatusAtOpening();
-  void connectNow(const QString& archive);
+  void connectNow();
   /// The module has been at work: files and units may be others.
   void afterWork();
   void editSettings();
@@ -101,6 +102,7 @@ class MainWindow : public QMainWindow {
   DesktopSession& m_session;
   RecentProjects m_recent;
   DiskChanges m_disk;
+  ArchiveStatus m_archive;
   QTimer m_diskDelay;
   QFileSystemWatcher* m_watcher;
   QString m_lastComment;
@@ -123,6 +125,7 @@ class MainWindow : public QMainWindow {
   OutputView* m_trace;
   QDockWidget* m_outputDock;
   QDockWidget* m_traceDock;
+  Banner* m_hint;
   QLabel* m_toolLabel;
   QLabel* m_countLabel;
   ProgressPopup* m_progress;

@@ -1,5 +1,6 @@
 // The window's menus and its tool bar.
 
+#include <QActionGroup>
 #include <QApplication>
 #include <QDockWidget>
 #include <QMenuBar>
@@ -7,6 +8,7 @@
 #include <QToolBar>
 #include <QTreeView>
 
+#include "host/desktop/Appearance.h"
 #include "host/desktop/Text.h"
 #include "host/desktop/window/CommandTexts.h"
 #include "host/desktop/window/Icons.h"
@@ -20,6 +22,7 @@ QAction* MainWindow::addAction(QMenu& menu, const QString& iconName, const QStri
   QAction* action = menu.addAction(text);
   action->setShortcut(keys);
   if (!iconName.isEmpty()) {
+    action->setObjectName(iconName);
     action->setIcon(icon(iconName));
     action->setProperty("iconName", iconName);
   }
@@ -99,9 +102,27 @@ void MainWindow::buildViewMenu() {
   };
   addStep(tr("&Expand All"), &QTreeView::expandAll);
   addStep(tr("&Collapse All"), &QTreeView::collapseAll);
+  addAppearances(*m_viewMenu->addMenu(tr("&Appearance")));
   m_viewMenu->addSeparator();
   connect(m_viewMenu->addAction(tr("C&lear CM Output")), &QAction::triggered, m_output,
           &OutputView::clear);
+}
+
+void MainWindow::addAppearances(QMenu& menu) {
+  auto* group = new QActionGroup(&menu);
+  const auto add = [&](const QString& text, Appearance appearance) {
+    QAction* action = menu.addAction(text);
+    action->setCheckable(true);
+    action->setChecked(savedAppearance() == appearance);
+    group->addAction(action);
+    connect(action, &QAction::triggered, this, [appearance] {
+      saveAppearance(appearance);
+      setAppearance(appearance);
+    });
+  };
+  add(tr("As the &system"), Appearance::System);
+  add(tr("&Light"), Appearance::Light);
+  add(tr("&Dark"), Appearance::Dark);
 }
 
 void MainWindow::buildCommandMenu() {
@@ -120,13 +141,11 @@ void MainWindow::buildCommandMenu() {
   }
   menu.addSeparator();
   m_toolBar->addSeparator();
-  QAction* dialog = addAction(menu, "dialog", tr("CM &Dialog…"), QKeySequence(Qt::CTRL | Qt::Key_D),
-                              &MainWindow::openDialog);
   QAction* status = addAction(menu, "refresh", tr("&Refresh Status"), QKeySequence::Refresh,
                               &MainWindow::refreshStatus);
   QAction* connection =
       addAction(menu, "connect", tr("Co&nnect to Archive…"), {}, &MainWindow::connectProject);
-  m_projectActions.insert(m_projectActions.end(), {dialog, status, connection});
+  m_projectActions.insert(m_projectActions.end(), {status, connection});
   m_toolBar->addAction(status);
 }
 

@@ -7,16 +7,26 @@
 #include "cm/core/CMArchive.h"
 #include "cm/core/CMTraitFacade.h"
 #include "cm/host/IPN.h"
+#include "cm/templates/CMProperty.h"
 #include "host/desktop/Text.h"
 #include "host/desktop/commands/CommandRun.h"
+#include "host/desktop/logic/SettingsTable.h"
+#include "host/desktop/window/ArchiveChoice.h"
 #include "host/desktop/window/CommandDialog.h"
 #include "host/desktop/window/CommandTexts.h"
+#include "host/desktop/window/ConnectDialog.h"
 #include "host/desktop/window/MainWindow.h"
 #include "host/desktop/window/SettingsDialog.h"
 #include "host/desktop/window/UnitEditor.h"
 #include "host/model/PathNames.h"
 
 namespace veldra::host::desktop {
+namespace {
+
+// The text in which the module asks the same.
+constexpr int RefreshQuestion = 46560;
+
+}  // namespace
 
 void MainWindow::runCommand(const CommandRow& row) {
   Project* project = m_session.project();
@@ -40,6 +50,9 @@ void MainWindow::runCommand(const CommandRow& row) {
   const CommandReport report =
       veldra::host::desktop::runCommand(row, units, choice, *project, m_session.work().results());
   if (report.isFine()) m_lastComment.clear();
+  if (m_archive.isKnown() && row.changesArchive) {
+    m_archive.refresh(*m_session.project(), m_session.work().results());
+  }
   afterWork();
   tellReport(report, commandName(row));
 }
@@ -100,27 +113,67 @@ void MainWindow::tellReport(const CommandReport& report, const QString& operatio
 }
 
 void MainWindow::connectProject() {
-  if (!m_session.project()) return;
-  editSettings();
+  Project* project = m_session.project();
+  if (!project) return;
+  m_editor->commit();
+  if (project->isReadOnly()) {
+    m_session.questions().ask(
+        {.text = tr("The project file is read-only, so its archive cannot be changed. Check the "
+                    "project out first."),
+         .icon = QMessageBox::Warning});
+    return;
+  }
+  PropertyLayers& layers = m_session.host().properties();
+  ConnectDialog dialog(layers, SettingsTable(layers, project).tool(),
+                       shown(CMArchive::getMainArchive()), this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  const std::string tool = dialog.choice().tool();
+  layers.setInProject({IPN::CM, IPN::General, IPN::CMTool}, tool);
+  layers.setInProject({IPN::CM, tool, IPN::CMArchive}, bytesOf(dialog.choice().archive()));
+  connectNow();
 }
 
-void MainWindow::connectNow(const QString& /*archive*/) {
+void MainWindow::connectNow() {
+  // The connection takes the project's file as it is on the disk.
+  if (!m_session.save()) return;
   const CommandReport report = connectToArchive(*m_session.project(), m_session.work().results());
   m_session.save();
-  afterWork();
+  if (report.isFine()) m_archive.refresh(*m_session.project(), m_session.work().results());
   showProject();
   tellReport(report, tr("Connect"));
 }
 
-void MainWindow::openDialog() {}
-
 void MainWindow::refreshStatus() {
-  if (!m_session.project()) return;
+  Project* project = m_session.project();
+  if (!project) return;
   lookAtDisk();
+  if (CMProperty::useSccCompliantTool() != 0) {
+    CMTraitFacade::instance().RefreshCMStatus();
+  } else if (!CMArchive::getMainArchive().empty()) {
+    const CommandReport report = m_archive.refresh(*project, m_session.work().results());
+    if (!report.isFine()) tellReport(report, tr("Refresh Status"));
+  }
   refresh();
 }
 
-void MainWindow::refreshStatusAtOpening() {}
+void MainWindow::refreshStatusAtOpening() {
+  if (CMProperty::useSccCompliantTool() != 0) {
+    // Reads the setting itself.
+    CMTraitFacade::instance().RefreshCMStatus();
+    refresh();
+    return;
+  }
+  std::string when;
+  CMProperty::getToolPropertyValue("RefreshCMStatusAtProjectOpenup", when);
+  when = lowerCase(when);
+  const bool isAsked = when == "ask user";
+  if (isAsked &&
+      notifyUserAndAsk(loadMessage(RefreshQuestion),
+                       MessageBox::YesNo | MessageBox::IconQuestion) != MessageBox::AnswerYes) {
+    return;
+  }
+  if (isAsked || when == "yes") refreshStatus();
+}
 
 void MainWindow::editSettings() {
   m_editor->commit();

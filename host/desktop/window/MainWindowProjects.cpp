@@ -15,6 +15,7 @@
 #include "host/desktop/Text.h"
 #include "host/desktop/logic/NewUnit.h"
 #include "host/desktop/logic/SettingsTable.h"
+#include "host/desktop/window/EditorParts.h"
 #include "host/desktop/window/MainWindow.h"
 #include "host/desktop/window/NewProjectDialog.h"
 #include "host/desktop/window/NewUnitDialog.h"
@@ -28,6 +29,8 @@ namespace veldra::host::desktop {
 bool MainWindow::openProject(const QString& directoryOrFile) {
   if (!mayLeave()) return false;
   const std::string place = bytesOf(directoryOrFile);
+  m_editor->showUnit({});
+  m_archive.forget();
   const bool isOpen = m_session.open(place);
   if (isOpen) {
     m_recent.opened(m_session.project()->getProjectDirectory());
@@ -51,26 +54,29 @@ void MainWindow::makeProject() {
   if (!mayLeave()) return;
   NewProjectDialog dialog(m_session.host().properties(), m_session.questions(), this);
   if (dialog.exec() != QDialog::Accepted) return;
-  if (openProject(dialog.projectFile()) && dialog.wantsConnection()) connectNow(dialog.archive());
+  if (openProject(dialog.projectFile()) && dialog.wantsConnection()) connectNow();
 }
 
 void MainWindow::closeProject() {
   if (!mayLeave()) return;
+  m_editor->showUnit({});
+  m_archive.forget();
   m_session.close();
   showProject();
 }
 
 void MainWindow::showProject() {
   Project* project = m_session.project();
-  m_editor->showUnit({});
+  const std::string tool = SettingsTable(m_session.host().properties(), project).tool();
+  const std::string archive = project ? CMArchive::getMainArchive() : std::string();
+  m_editor->reload();
   m_disk = DiskChanges();
   if (project) m_disk.remember(*project);
   watchFolders();
+  m_hint->setVisible(project && archive.empty());
   m_pages->setCurrentIndex(project ? 1 : 0);
   setWindowTitle((project ? shown(project->getName()) + "[*] — " : QString("[*]")) +
                  QCoreApplication::applicationName());
-  const std::string tool = SettingsTable(m_session.host().properties(), project).tool();
-  const std::string archive = project ? CMArchive::getMainArchive() : std::string();
   m_toolLabel->setText(project ? shown(tool) + (archive.empty() ? "" : "  ·  ") + shown(archive)
                                : QString());
   refresh();

@@ -24,6 +24,7 @@ QString accessText(const OutlineNode& node) {
     return QCoreApplication::translate("ModelTree", source);
   };
   if (node.isModified) return text(QT_TRANSLATE_NOOP("ModelTree", "Changed, not saved yet"));
+  if (node.isOutsideArchive) return text(QT_TRANSLATE_NOOP("ModelTree", "Not in the archive yet"));
   switch (node.access) {
     case Access::ReadOnly:
       return text(QT_TRANSLATE_NOOP("ModelTree", "Read-only"));

@@ -1,17 +1,14 @@
 #include "host/desktop/window/NewProjectDialog.h"
 
-#include <QComboBox>
 #include <QDialogButtonBox>
-#include <QDir>
-#include <QFileDialog>
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
 #include "cm/host/IPN.h"
 #include "host/desktop/Text.h"
+#include "host/desktop/window/ArchiveChoice.h"
 #include "host/model/NewProject.h"
 
 namespace veldra::host::desktop {
@@ -22,23 +19,15 @@ NewProjectDialog::NewProjectDialog(const PropertyLayers& layers, Questions& ques
       m_questions(questions),
       m_folder(new QLineEdit),
       m_name(new QLineEdit),
-      m_tool(new QComboBox),
-      m_archive(new QLineEdit) {
+      m_archive(new ArchiveChoice(layers, this)) {
   setWindowTitle(tr("New Project"));
   setMinimumWidth(560);
-  m_tool->addItem(tr("None yet"), QString());
-  for (const PackDescription& pack : layers.packs()) {
-    m_tool->addItem(shown(pack.title.empty() ? pack.name : pack.title), shown(pack.name));
-  }
-  m_tool->setCurrentIndex(std::max(0, m_tool->findData("Subversion")));
   m_name->setPlaceholderText(tr("As the folder"));
-  m_archive->setPlaceholderText(tr("An address, or a folder that is made when it does not exist"));
   auto* form = new QFormLayout(this);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   form->addRow(tr("&Folder:"), withBrowse(*m_folder, tr("Folder of the project")));
   form->addRow(tr("&Name:"), m_name);
-  form->addRow(tr("CM &tool:"), m_tool);
-  form->addRow(tr("&Archive:"), withBrowse(*m_archive, tr("Folder of the archive")));
+  m_archive->addRows(*form);
   auto* hint =
       new QLabel(tr("Model files that lie in the folder become units. None of them is changed."));
   hint->setWordWrap(true);
@@ -50,34 +39,16 @@ NewProjectDialog::NewProjectDialog(const PropertyLayers& layers, Questions& ques
   connect(buttons, &QDialogButtonBox::accepted, this, &NewProjectDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   connect(m_folder, &QLineEdit::textChanged, this, &NewProjectDialog::updateState);
-  connect(m_tool, &QComboBox::currentIndexChanged, this, &NewProjectDialog::updateState);
   form->addRow(buttons);
   updateState();
 }
 
-QWidget* NewProjectDialog::withBrowse(QLineEdit& edit, const QString& title) {
-  auto* row = new QWidget;
-  auto* layout = new QHBoxLayout(row);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(&edit, 1);
-  auto* browse = new QPushButton(tr("Browse…"));
-  browse->setAccessibleName(title);
-  layout->addWidget(browse);
-  row->setFocusProxy(&edit);
-  connect(browse, &QPushButton::clicked, this, [this, &edit, title] {
-    const QString folder = QFileDialog::getExistingDirectory(this, title, edit.text());
-    if (!folder.isEmpty()) edit.setText(QDir::toNativeSeparators(folder));
-  });
-  return row;
-}
-
 void NewProjectDialog::updateState() {
   m_ok->setEnabled(!m_folder->text().trimmed().isEmpty());
-  m_archive->setEnabled(!m_tool->currentData().toString().isEmpty());
 }
 
 QString NewProjectDialog::archive() const {
-  return m_archive->isEnabled() ? m_archive->text().trimmed() : QString();
+  return m_archive->archive();
 }
 
 void NewProjectDialog::accept() {
@@ -86,7 +57,7 @@ void NewProjectDialog::accept() {
   request.name = bytesOf(m_name->text().trimmed());
   // Files without a dot are units like any other, so listings have to show them.
   request.properties.push_back({{IPN::CM, IPN::General, "IgnoreArchiveItemsWithoutDot"}, "No"});
-  const std::string tool = bytesOf(m_tool->currentData().toString());
+  const std::string tool = m_archive->tool();
   if (!tool.empty()) request.properties.push_back({{IPN::CM, IPN::General, IPN::CMTool}, tool});
   if (!archive().isEmpty()) {
     request.properties.push_back({{IPN::CM, tool, IPN::CMArchive}, bytesOf(archive())});

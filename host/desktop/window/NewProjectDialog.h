@@ -5,11 +5,12 @@
 #include "host/desktop/session/Questions.h"
 #include "host/model/PropertyLayers.h"
 
-class QComboBox;
 class QLineEdit;
 class QPushButton;
 
 namespace veldra::host::desktop {
+
+class ArchiveChoice;
 
 /// Makes a project from a folder, and says with which tool and archive it works.
 class NewProjectDialog : public QDialog {
@@ -28,15 +29,13 @@ class NewProjectDialog : public QDialog {
   void accept() override;
 
  private:
-  QWidget* withBrowse(QLineEdit& edit, const QString& title);
   void updateState();
 
   Questions& m_questions;
   QString m_projectFile;
   QLineEdit* m_folder;
   QLineEdit* m_name;
-  QComboBox* m_tool;
-  QLineEdit* m_archive;
+  ArchiveChoice* m_archive;
   QPushButton* m_ok = nullptr;
 };
 

@@ -191,7 +191,9 @@ void UnitEditor::fillTabs(bool isDiagram) {
   if (isDiagram) m_tabs->addTab(m_diagramPage, tr("&Diagram"));
   m_tabs->addTab(m_elementPage, tr("&Elements (%1)").arg(m_sheet.elements.size()));
   m_tabs->addTab(m_attributePage, tr("&Attributes (%1)").arg(m_sheet.attributes.size()));
-  m_tabs->setCurrentIndex(std::max(0, m_tabs->indexOf(const_cast<QWidget*>(former))));
+  const int kept = m_file == m_filledFile ? m_tabs->indexOf(const_cast<QWidget*>(former)) : 0;
+  m_filledFile = m_file;
+  m_tabs->setCurrentIndex(std::max(0, kept));
 
   m_diagram->showSheet(m_sheet, m_isEditable);
   m_attributes->showRows(m_sheet.attributes, m_isEditable);

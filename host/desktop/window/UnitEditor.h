@@ -66,6 +66,7 @@ class UnitEditor : public QWidget {
 
   DesktopSession& m_session;
   std::string m_file;
+  std::string m_filledFile;              ///< Whose content the tabs show.
   UnitSheet m_sheet;                     ///< As the body has it.
   std::vector<SheetElement> m_elements;  ///< The rows of the table, with their attributes.
   bool m_isEditable = false;
