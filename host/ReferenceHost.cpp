@@ -8,8 +8,10 @@
 #include "host/model/Reloading.h"
 #include "host/platform/Environment.h"
 #include "host/platform/FaultGuard.h"
+#include "host/platform/Libraries.h"
 #include "host/platform/PatternEngine.h"
 #include "host/platform/Processes.h"
+#include "host/platform/Registry.h"
 #include "host/platform/TraceLog.h"
 
 namespace veldra::host {
@@ -91,6 +93,8 @@ struct ReferenceHost::Parts {
   OpenProjectUndo undo;
   TraceLog trace;
   FaultGuard faultGuard;
+  Registry registry;
+  Libraries libraries;
   QuickReload quickReload;
   IProgress* progress;
   IProcesses* givenProcesses;
@@ -166,6 +170,12 @@ LogTrace* ReferenceHost::trace() {
 }
 CSignal2Exception* ReferenceHost::faultGuard() {
   return &m_parts->faultGuard;
+}
+IRegistry* ReferenceHost::registry() {
+  return &m_parts->registry;
+}
+ILibraries* ReferenceHost::libraries() {
+  return &m_parts->libraries;
 }
 IProgress* ReferenceHost::progress() {
   return m_parts->progress;

@@ -68,6 +68,8 @@ class ReferenceHost : public Host {
   Undoer* undoer() override;
   LogTrace* trace() override;
   CSignal2Exception* faultGuard() override;
+  IRegistry* registry() override;
+  ILibraries* libraries() override;
   IProgress* progress() override;
   QuickATMFacade* quickReload() override;
   std::unique_ptr<ATMFacade> createATMFacade(IUnit* owner) override;

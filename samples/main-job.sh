@@ -3,6 +3,7 @@
 # check-in, history and listing. After each step it asks the tool itself, not the module, whether the
 # archive holds what it should.
 #   samples/main-job.sh VELDRA-CM SAMPLE FOLDER TOOL
+# The tool is Subversion, RCS, or Provider for Subversion through a provider library.
 set -eu
 
 veldra_cm=$1
@@ -50,7 +51,7 @@ is_read_only() { [ -z "$(find "$1" -perm -u+w)" ]; }
 
 # What the tool itself says.
 case "$tool" in
-  Subversion)
+  Subversion|Provider)
     # The model is a working copy, so the tool can be asked by the local name.
     svn() { env LC_ALL=C.UTF-8 svn --non-interactive "$@"; }
     archived_files() { svn ls -R "$(svn info --show-item url "$model")" | grep -v '/$'; }
@@ -79,7 +80,17 @@ esac
 unit="Brewing/Water Circuit/Pump.vcmp"
 comment='Raise the pump pressure to 15 bar > 9 bar; "Hans" agrees, costs $0 & 100%'
 
-show init "$model" --name "Coffee Machine" --tool "$tool" --archive "$archive"
+if [ "$tool" = Provider ]; then
+  # A registry of its own, so that the user's stays as it is.
+  export VELDRA_USER_REGISTRY="$where/registry.toml" VELDRA_MACHINE_REGISTRY="$where/no-registry"
+  show init "$model" --name "Coffee Machine"
+  show provider install
+  show -p "$model" provider use "Veldra Subversion"
+  verify "the registry names the library" contains SCCServerPath "$where/registry.toml"
+  show -p "$model" connect --archive "$archive"
+else
+  show init "$model" --name "Coffee Machine" --tool "$tool" --archive "$archive"
+fi
 verify "the archive exists" test -d "$archive"
 
 show -p "$model" add --all -m "The coffee machine as drawn"
@@ -114,6 +125,16 @@ show -p "$model" status >"$where/status" || fail "status"
 sed -n '1,12p' "$where/status"
 verify "status knows the unit" contains "$unit" "$where/status"
 
+environment=
+if [ "$tool" = Provider ]; then
+  environment="
+  export VELDRA_USER_REGISTRY='$VELDRA_USER_REGISTRY'"
+  svn log -v "file://$archive" >"$where/revisions"
+  verify "svn log shows the revisions that were made" contains "$unit" "$where/revisions"
+  printf '\n$ svn log file://%s\n' "$archive"
+  svn log "file://$archive"
+fi
+
 cat <<TEXT
 
 Everything did what it should.
@@ -121,7 +142,7 @@ Everything did what it should.
   the model    $model
   the archive  $archive
 
-What to type next:
+What to type next:$environment
   $veldra_cm -p $model checkout Brewing/Grinder.vcmp
   $veldra_cm -p $model status
   $veldra_cm -p $model undo Brewing/Grinder.vcmp

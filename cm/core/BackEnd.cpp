@@ -111,6 +111,13 @@ int BackEnd::movePackageContent(const PackageMoveCall& call) {
   return notAvailable("Move Package", call.diagnostics);
 }
 
+int BackEnd::refreshStatus(const UnitList& /*units*/) {
+  return notAvailable("Refresh Status");
+}
+int BackEnd::queryStatus(const UnitList& /*units*/, std::vector<UnitStatus>& /*status*/) {
+  return notAvailable("Query Status");
+}
+
 void BackEnd::locate() {
   notifyUserAndAsk(loadMessage(MessageId::ProviderNotLocated), MessageBox::IconError);
 }

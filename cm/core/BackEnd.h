@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "cm/core/CMArchiveItemList.h"
 #include "cm/core/CMArgument.h"
@@ -8,6 +9,8 @@
 #include "cm/host/IUnit.h"
 
 namespace veldra {
+
+struct UnitStatus;
 
 /// What an operation on units is called with. The lists are the caller's own.
 struct UnitCall {
@@ -90,6 +93,11 @@ class BackEnd {
   virtual int deleteDirectory(const DirectoryCall& call);
   virtual int renameMember(const RenameCall& call);
   virtual int movePackageContent(const PackageMoveCall& call);
+
+  /// Reads the CM states of units and stores them in the units.
+  virtual int refreshStatus(const UnitList& units);
+  /// Reads them without storing: one answer per unit.
+  virtual int queryStatus(const UnitList& units, std::vector<UnitStatus>& status);
 
   /// Looks for what the back end needs when a project selects it; tells the user when it is not
   /// there.

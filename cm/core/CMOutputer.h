@@ -4,16 +4,9 @@
 #include <string>
 
 #include "cm/host/Export.h"
+#include "cm/host/IAbstractCMManager.h"
 
 namespace veldra {
-
-/// A window of the dialog toolkit; the module's core only passes it along.
-class IWindow {
- public:
-  virtual ~IWindow() = default;
-  virtual bool isEnabled() const = 0;
-  virtual IWindow* lastActivePopup() = 0;
-};
 
 /// Writes to the CM output window.
 class VELDRA_CM_EXPORT CMOutputer {

@@ -3,9 +3,14 @@
 #include <fstream>
 #include <iterator>
 
+#include "cm/core/BackEnd.h"
 #include "cm/core/DebugEcho.h"
+#include "cm/core/FacadeEntry.h"
+#include "cm/core/TextTools.h"
+#include "cm/core/WorkspaceUnits.h"
 #include "cm/host/IPN.h"
-#include "cm/host/IUnit.h"
+#include "cm/host/IUserMessages.h"
+#include "cm/host/MessageIds.h"
 #include "cm/templates/CMProperty.h"
 #include "cm/templates/PropertyPattern.h"
 
@@ -57,6 +62,39 @@ std::string CMTraitFacade::getVersion(const IUnit* unit) {
 
 std::string CMTraitFacade::getLocker(const IUnit* unit) {
   return CMHeaderReader().getLocker(unit);
+}
+
+CMTraitFacade& CMTraitFacade::instance() {
+  static CMTraitFacade facade;
+  return facade;
+}
+
+namespace {
+
+bool isRefreshWanted() {
+  std::string setting;
+  if (CMProperty::getShowCMStatus() == 0 || CMProperty::getUseSCCtool() == 0) return false;
+  CMProperty::getToolPropertyValue("RefreshCMStatusAtProjectOpenup", setting);
+  if (equalsNoCase(setting, "Yes")) return true;
+  return equalsNoCase(setting, "Ask User") &&
+         notifyUserAndAsk(loadMessage(MessageId::RefreshQuestion),
+                          MessageBox::YesNo | MessageBox::IconQuestion) == MessageBox::AnswerYes;
+}
+
+}  // namespace
+
+void CMTraitFacade::RefreshCMStatus() {
+  withoutEscape(TxnProperties, [] {
+    return isRefreshWanted() ? backEnds().provider->refreshStatus(workspaceUnits()) : 0;
+  });
+}
+
+int CMTraitFacade::queryStatus(const UnitList& units, std::vector<UnitStatus>& status) {
+  status.clear();
+  return withoutEscape(TxnProperties, [&] {
+    return CMProperty::useSccCompliantTool() != 0 ? backEnds().provider->queryStatus(units, status)
+                                                  : 0;
+  });
 }
 
 }  // namespace veldra

@@ -1,13 +1,16 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
+#include "cm/core/CMStatus.h"
 #include "cm/host/Export.h"
+#include "cm/host/IBaseCMFacade.h"
+#include "cm/host/IUnit.h"
 
 namespace veldra {
-
-class IUnit;
 
 /// Reads version and locker of any number of units; the patterns are looked up once, when it is
 /// made.
@@ -27,10 +30,28 @@ class VELDRA_CM_EXPORT CMHeaderReader {
   std::unique_ptr<Patterns> m_patterns;
 };
 
-/// Reads what a CM tool's keyword expansion wrote into a unit's CM header, and supplies the header
-/// of new units.
-class VELDRA_CM_EXPORT CMTraitFacade {
+/// What the provider knows of a unit's file.
+struct UnitStatus {
+  std::int32_t state = CMState::Invalid;
+  std::string holder;  ///< Who has it out; empty when nobody does or the provider does not tell.
+};
+
+/// Reads what a CM tool's keyword expansion wrote into a unit's CM header, supplies the header of
+/// new units, and refreshes CM states.
+class VELDRA_CM_EXPORT CMTraitFacade : public IBaseCMFacade {
  public:
+  /// The one through which a host reaches the services of its interface.
+  static CMTraitFacade& instance();
+
+  std::string getTheDefaultHeader() override { return getDefaultHeader(); }
+  /// Only under the provider back end, in a project that shows CM status, and as the setting
+  /// "RefreshCMStatusAtProjectOpenup" says: "Yes", "Ask User", or not.
+  void RefreshCMStatus() override;
+  /// Asks the provider about units, whatever the project shows; their own states stay as they are.
+  /// One answer per unit, in their order. 1 on success; 0, and no answers, when there is no
+  /// provider or it cannot be asked: the user has then been told.
+  static int queryStatus(const UnitList& units, std::vector<UnitStatus>& status);
+
   /// The text of the file that the tool property "CMHeaderFile" names, up to a byte 0xFF; empty
   /// when there is none.
   static std::string getDefaultHeader();

@@ -32,6 +32,11 @@ struct FacadeSlots {
   IMainFrame* afterReloadParameter = nullptr;
 };
 
+/// What a back end remembers, in a form that only it knows.
+struct BackEndMemory {
+  virtual ~BackEndMemory() = default;
+};
+
 /// Everything that the module remembers between calls. Only the host's user-interface thread uses
 /// it.
 struct ModuleState {
@@ -44,6 +49,7 @@ struct ModuleState {
   BackEndSelection backEnd;
   std::string sccToolName;
   bool providerLoaded = false;
+  std::unique_ptr<BackEndMemory> provider;  ///< Made by the provider back end at its first use.
   int showCMStatus = 0;
 
   ExpansionUse expansion;

@@ -87,6 +87,12 @@ std::string_view baseName(std::string_view path) {
   return at == std::string_view::npos ? path : path.substr(at + 1);
 }
 
+std::string_view afterLastBackslash(std::string_view path) {
+  const std::size_t backslash = path.rfind('\\');
+  const std::size_t at = backslash != std::string_view::npos ? backslash : path.rfind('/');
+  return at == std::string_view::npos ? path : path.substr(at + 1);
+}
+
 std::string joinPath(std::string_view directory, std::string_view name) {
   if (directory.empty()) return std::string(name);
   std::string path;

@@ -30,6 +30,10 @@ std::string_view cutAtLastSeparator(std::string_view path);
 /// What stands after the last separator; the whole path when there is none.
 std::string_view baseName(std::string_view path);
 
+/// What stands after the last backslash, or without one after the last slash. Archive listings are
+/// read this way whatever the system.
+std::string_view afterLastBackslash(std::string_view path);
+
 /// A directory and a name with the host's separator between them; the name alone without a
 /// directory.
 std::string joinPath(std::string_view directory, std::string_view name);

@@ -8,8 +8,10 @@
 #include "cm/host/Export.h"
 #include "cm/host/IAbstractCMManager.h"
 #include "cm/host/IEnvironment.h"
+#include "cm/host/ILibraries.h"
 #include "cm/host/IModel.h"
 #include "cm/host/IProgress.h"
+#include "cm/host/IRegistry.h"
 #include "cm/host/IUserMessages.h"
 #include "cm/host/LogTrace.h"
 #include "cm/host/Reload.h"
@@ -36,6 +38,9 @@ class Host {
   virtual LogTrace* trace() { return nullptr; }
   virtual CSignal2Exception* faultGuard() { return nullptr; }
   virtual IProgress* progress() { return nullptr; }
+  /// Both are needed to find and load a source control provider; without them there is none.
+  virtual IRegistry* registry() { return nullptr; }
+  virtual ILibraries* libraries() { return nullptr; }
 
   /// Reload services. Without them units keep what they had in memory, and a command that would
   /// need a reload reports the unit as not reloaded.

@@ -42,6 +42,9 @@ class IEnvironment {
   /// contains no blank beyond those of that directory. Empty when it could not be written.
   virtual std::string createTempFile(const std::string& content) = 0;
   virtual void removeFile(const std::string& path) = 0;
+  /// Gives a file another name or place, on another volume too, and makes the directories that it
+  /// needs. False, and nothing changed, when that fails or something has the new name already.
+  virtual bool moveFile(const std::string& from, const std::string& to) = 0;
 };
 
 // The same as free functions, for the module's own use. Without a host they answer as for things

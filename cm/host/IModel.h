@@ -4,6 +4,7 @@
 #include <string>
 
 #include "cm/host/IProject.h"
+#include "cm/host/IProperty.h"
 
 namespace veldra {
 
@@ -32,6 +33,15 @@ class IModel {
   virtual IWorkspace* workspace() = 0;
   /// Hands the units that reloads have saved up to the projects that are open but not active.
   virtual void applySavedUnitsListToNonActiveProjects() {}
+
+  /// A free-standing text property, to be attached to an object. Null when the host cannot make
+  /// any: then only settings that exist somewhere can be changed.
+  virtual std::unique_ptr<IProperty> createTextProperty(const std::string& name,
+                                                        const std::string& value) {
+    (void)name;
+    (void)value;
+    return nullptr;
+  }
 
   /// See the functions of the same names in `IUnit` and `IProject`.
   virtual IUnit* unitByFile(const std::string& fileName) = 0;

@@ -32,6 +32,12 @@ class IProgress {
   virtual void unitStarted(const ProgressStep& step) = 0;
   /// `words` is what the tool or the module said about a failure; empty otherwise.
   virtual void unitEnded(const ProgressStep& step, UnitEnd end, const std::string& words) = 0;
+  /// Around every call into a source control provider, with the name of its entry point. The call
+  /// runs on the thread that called the module and nothing can take it back: a host that wants to
+  /// tell the user that a provider does not answer, or to offer the end of the program, watches
+  /// these two from a thread of its own. They come for calls that crash, too.
+  virtual void providerCallStarted(const char* entryPoint) { (void)entryPoint; }
+  virtual void providerCallEnded() {}
   /// Asked between units: true ends the operation before the next one.
   virtual bool isCancelled() { return false; }
 };

@@ -1,7 +1,6 @@
 #include "cm/host/IUserMessages.h"
 
 #include <cstddef>
-#include <vector>
 
 #include "cm/host/Host.h"
 
@@ -24,6 +23,11 @@ std::string bareMessage(int id, const std::vector<std::string_view>& values) {
 }
 
 }  // namespace
+
+std::optional<std::string> askForText(const std::string& question,
+                                      const std::vector<std::string>& proposals) {
+  return messages() != nullptr ? messages()->askForText(question, proposals) : std::nullopt;
+}
 
 int notifyUserAndAsk(const std::string& text, int flags, int level) {
   return messages() != nullptr ? messages()->notifyUserAndAsk(text, flags, level)

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace veldra {
 
@@ -12,6 +14,7 @@ namespace MessageBox {
 inline constexpr int Ok = 0x0;
 inline constexpr int YesNoCancel = 0x3;
 inline constexpr int YesNo = 0x4;
+inline constexpr int DefaultSecond = 0x100;  ///< The second button is the default.
 inline constexpr int IconError = 0x10;
 inline constexpr int IconQuestion = 0x20;
 inline constexpr int IconWarning = 0x30;
@@ -49,11 +52,23 @@ class IUserMessages {
   /// "cancel". A host that cannot ask answers "no": nothing is overwritten.
   virtual std::string askOverwrite(const std::string& text) = 0;
 
+  /// Asks for a short text, for example the activity or the task that the following check-outs
+  /// belong to. `proposals` are texts to choose from, the likeliest first; the user may type
+  /// another one. Nothing when the user gives up or the host cannot ask.
+  virtual std::optional<std::string> askForText(const std::string& question,
+                                                const std::vector<std::string>& proposals) {
+    (void)question;
+    (void)proposals;
+    return std::nullopt;
+  }
+
   /// Shows the window in which the user names the archive to connect to. A host without windows
   /// does nothing.
   virtual void showConnectToArchive() {}
 };
 
+std::optional<std::string> askForText(const std::string& question,
+                                      const std::vector<std::string>& proposals);
 int notifyUserAndAsk(const std::string& text, int flags, int level = MessageLevel);
 void notifyUser(const std::string& text, int level = MessageLevel);
 void OneTimeMessageBox(const std::string& key, const std::string& text, int flags);

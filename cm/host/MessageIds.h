@@ -6,13 +6,26 @@ namespace veldra::MessageId {
 
 inline constexpr int UnitOutsideWorkingDirectory =
     949;                                       ///< File, working dir, unit's dir, archive dir.
+inline constexpr int AlreadyCheckedOut = 948;  ///< File.
 inline constexpr int OverwriteQuestion = 953;  ///< File name, full file name.
 inline constexpr int ErrorPatternMatched = 958;
 inline constexpr int WarningPatternMatched = 959;
 inline constexpr int CommandTimedOut = 962;
+inline constexpr int NotControlled = 954;      ///< File.
+inline constexpr int NotCheckedOut = 955;      ///< File.
+inline constexpr int AddedOnCheckIn = 966;     ///< File.
+inline constexpr int NotCheckedOutEnds = 967;  ///< File.
+inline constexpr int NoArchive = 46547;
 inline constexpr int NoCMToolSelected = 46554;
+inline constexpr int RefreshQuestion = 46560;
 inline constexpr int ProviderNotLocated = 46563;
-inline constexpr int FileNotLoaded = 47640;        ///< Full file name.
+inline constexpr int AssociateAnew = 46565;
+inline constexpr int Associated = 46566;
+inline constexpr int ConnectionBroken = 46567;
+inline constexpr int FileNotLoaded = 47640;  ///< Full file name.
+inline constexpr int CheckOutIncomplete = 48312;
+inline constexpr int CheckedIn = 49982;
+inline constexpr int ProviderQuestion = 50055;     ///< Text.
 inline constexpr int DirectoryNotEntered = 48352;  ///< Directory, system error.
 
 // The module's own texts.
@@ -27,5 +40,37 @@ inline constexpr int PatternGivenUp = 60008;        ///< Pattern.
 inline constexpr int CommentNotWritten = 60009;     ///< Directory.
 inline constexpr int NoProcessRunner = 60010;
 inline constexpr int InternalError = 60011;  ///< Operation, what happened.
+
+// What a provider answers: prefixes, the texts of the codes -1 and 1 (the others lie below them in
+// order), one for any other code, and what ends every message.
+inline constexpr int ProviderErrorPrefix = 48318;
+inline constexpr int ProviderInformationPrefix = 48319;
+inline constexpr int ProviderError = 48321;
+inline constexpr int ProviderUnknownCode = 48350;
+inline constexpr int ProviderTrailer = 48351;
+inline constexpr int ProviderInformation = 48358;
+
+// Labels of a unit's CM state.
+inline constexpr int StateDeleted = 49434;
+inline constexpr int StateNotControlled = 49488;
+inline constexpr int StateControlled = 49494;
+inline constexpr int StateCheckedOut = 49762;
+inline constexpr int StateOutOther = 49763;
+inline constexpr int StateOutElsewhere = 49764;
+inline constexpr int StateNotCheckedOut = 49765;
+
+// The module's own texts about providers.
+inline constexpr int ProviderFailed = 60101;     ///< Entry point, what happened.
+inline constexpr int ProviderNotLoaded = 60102;  ///< Library, reason.
+inline constexpr int ProviderLacks = 60103;      ///< Operation, entry point.
+inline constexpr int ActivityQuestion = 60104;
+inline constexpr int TaskQuestion = 60105;
+inline constexpr int AddedToArchive = 60106;  ///< Number of files.
+inline constexpr int TargetMissing = 60107;   ///< File.
+inline constexpr int TargetExists = 60108;    ///< File.
+inline constexpr int FileNotMoved = 60109;    ///< File.
+inline constexpr int NowhereToMove = 60110;   ///< File.
+inline constexpr int NameMissing = 60111;
+inline constexpr int ChangedAndStale = 60112;  ///< File.
 
 }  // namespace veldra::MessageId

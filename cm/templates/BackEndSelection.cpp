@@ -61,4 +61,8 @@ bool CMProperty::getIsLoaded() {
   return moduleState().providerLoaded;
 }
 
+void CMProperty::setIsLoaded(bool isLoaded) {
+  moduleState().providerLoaded = isLoaded;
+}
+
 }  // namespace veldra

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "cm/core/CMArgument.h"
 #include "cm/host/Export.h"
@@ -11,6 +12,8 @@ namespace veldra {
 class IDObject;
 class IProperty;
 class IUnit;
+class SCCdll;
+class pvContextStruct;
 
 /// The module's settings and the expansion of command templates.
 ///
@@ -51,6 +54,51 @@ class VELDRA_CM_EXPORT CMProperty {
   static void setSCCToolName(const std::string& name);
   /// Whether the provider library is loaded.
   static bool getIsLoaded();
+  static void setIsLoaded(bool isLoaded);
+
+  // --- the provider and its contexts ---
+
+  /// The one provider library of the process.
+  static SCCdll& getSCCdll();
+  /// Where the registry says that it lies; empty when it was not found.
+  static std::string getSCCProviderDLL();
+  /// False when the look-up in the registry failed.
+  static bool getDLLokay();
+  /// Whether any context has been opened.
+  static bool getIsConnected();
+  static void setIsConnected(bool isConnected);
+  /// Capabilities that a provider has shown once: a non-zero argument sets the flag for good, zero
+  /// reads it.
+  static int isSetSCC_CAP_REENTRANT(int set);
+  static int isSetSCC_CAP_COMMENTCHECKOUT(int set);
+  /// The context that set-up, close and clean-up use; it has nothing to do with the records below.
+  static void* getPvContext();
+  static void setPvContext(void* context);
+  /// What the provider gets as the options of a command; always null: none are asked for.
+  static void* getPvOptions();
+  /// The files that the provider's list callback has brought.
+  static std::vector<std::string>& getFileNamesList();
+
+  /// The open contexts, one per archive project, the newest last.
+  static std::vector<pvContextStruct*> getPvContextStructList();
+  /// Appends an empty record. The list owns it.
+  static pvContextStruct* addPvStruct();
+  /// The first record of that name, without regard to case; null for an empty name.
+  static pvContextStruct* findPvStructByContextName(const std::string& name);
+  /// Takes the first record of that name out of the list, without closing its context: 1 when there
+  /// was one. Pointers to the record stay valid.
+  static int removePvStructByContextName(const std::string& name);
+
+  // --- trace lines around provider calls ---
+
+  /// For the first `count` of the files; nothing at all when `files` is null.
+  static void getPreSCCCallLogMsg(const std::string& name, long count, const char* const* files,
+                                  std::string& out);
+  /// For one file; nothing when it is null.
+  static void getPreSCCCallLogMsg(const std::string& name, const char* file, std::string& out);
+  static void getPreSCCCallLogMsg(const std::string& name, std::string& out);
+  static void getPostSCCCallLogMsg(const std::string& name, std::string& out);
+  static void getSCCReturnLogMsg(const std::string& name, long code, std::string& out);
 
   // --- single settings ---
   static int isHybridModePossible();

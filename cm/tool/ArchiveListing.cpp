@@ -21,13 +21,6 @@ bool showsAllFiles() {
   return setting != nullptr && setting->getBool();
 }
 
-/// What follows the last backslash, or without one the last slash.
-std::string_view lastPart(std::string_view path) {
-  const std::size_t backslash = path.rfind('\\');
-  const std::size_t at = backslash != std::string_view::npos ? backslash : path.rfind('/');
-  return at == std::string_view::npos ? path : path.substr(at + 1);
-}
-
 /// The mode of a record: unknown when the record does not have the field at all, otherwise
 /// read-write or read-only as the pattern's group took part or not. An empty pattern says nothing.
 int listedMode(const PropertyPattern::Answer& answer) {
@@ -68,7 +61,7 @@ bool ArchiveListing::isListed(const std::string& workingFile) const {
       workingFile.find(m_projectExtension) == std::string::npos) {
     return true;
   }
-  return trimmed(lastPart(workingFile)) == m_projectFile;
+  return trimmed(afterLastBackslash(workingFile)) == m_projectFile;
 }
 
 void ArchiveListing::echo(std::initializer_list<std::string_view> pieces) const {

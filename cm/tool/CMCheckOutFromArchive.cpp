@@ -38,19 +38,6 @@ std::string fileToLoad(const ItemRun& run) {
   return name.empty() ? run.item.getFileNameForRepFiles() : name;
 }
 
-IUnit* load(const CMArchiveItem& item, const std::string& name) {
-  Host* const host = installedHost();
-  IUnit* const known = IUnit::getByFile(name);
-  // A unit of the same file elsewhere must not be replaced by this one.
-  if (known != nullptr && known->getDirectory() == item.getLocalPath()) {
-    bool canReload = false;
-    IUnit* const reloaded = reloadInPlace(*known, canReload);
-    if (canReload) return reloaded;
-  }
-  return host != nullptr ? addToModel(host->createATMFacade(item.getLocalPath()).get(), name)
-                         : nullptr;
-}
-
 }  // namespace
 
 void CMCheckOutFromArchive::after(ItemRun& run) const {
@@ -60,7 +47,7 @@ void CMCheckOutFromArchive::after(ItemRun& run) const {
   }
   const std::string name = fileToLoad(run);
   VELDRA_TRACE("Performing ATM for the file ", name);
-  if (load(run.item, name) != nullptr) return;
+  if (loadItem(run.item, name) != nullptr) return;
   run.errorText =
       formatMessage(MessageId::FileNotLoaded,
                     {run.item.getLocalPath() + omPathSeparator() + run.item.getFileName()});

@@ -1,33 +1,12 @@
 #include "cm/tool/CMListWorkspace.h"
 
-#include <memory>
+#include "cm/core/WorkspaceUnits.h"
 
 namespace veldra {
 
-namespace {
-
-bool belongsToWorkspace(IUnit& unit) {
-  if (unit.isExcludedFromWorkspace()) return false;
-  if (unit.asEmbededFile() != nullptr) {
-    const IUnit* const owner = unit.getSaveUnit();
-    if (owner != nullptr && owner->isExcludedFromWorkspace()) return false;
-  }
-  if (unit.asWorkspace() != nullptr) return false;
-  if (unit.asProject() != nullptr) return true;
-  // A package inside another unit's file has nothing of its own to put under control.
-  return unit.asSubsystem() == nullptr || (unit.getFlags() & UnitFlag::SavedSeparately) != 0;
-}
-
-}  // namespace
-
 int CMListWorkspace::operator()(UnitList& units, ArgumentList& /*arguments*/,
                                 DiagnosticList& /*diagnostics*/, bool /*hybrid*/) {
-  units.clear();
-  const std::unique_ptr<IObIterator> files = IUnit::repositoryFiles();
-  for (IUnit* unit = files != nullptr ? files->first() : nullptr; unit != nullptr;
-       unit = files->next()) {
-    if (belongsToWorkspace(*unit)) units.push_back(unit);
-  }
+  units = workspaceUnits();
   return 1;
 }
 

@@ -42,11 +42,7 @@ int CMUnCheckout::operator()(CMArchiveItemList& items, ArgumentList& arguments,
 
 void CMUnCheckout::renameFileIfNeeded(IUnit* unit, const std::string& nameBefore,
                                       const std::string& nameNow) const {
-  if (unit == nullptr || nameBefore != nameNow) return;
-  const std::string computed = unit->getComputedFileName();
-  if (computed != nameBefore && !unit->ownerForbidsRename() && unit->_approveCMRename(computed)) {
-    unit->setFileName(computed);
-  }
+  renameToComputedName(unit, nameBefore, nameNow);
 }
 
 void CMUnCheckout::after(UnitRun& run) const {

@@ -18,14 +18,6 @@ void chooseArchiveOf(const IUnit* unit) {
   CMArchive::setMainArchive(archive);
 }
 
-void updateHeaderAndMode(IUnit& unit) {
-  const std::string file = unit.getFullFileName();
-  VELDRA_TRACE("Updating CM Header for unit ", file);
-  unit.updateCMHeader();
-  VELDRA_TRACE("Updating Mode for unit ", file);
-  unit.updateMode("");
-}
-
 const char* UnitCommand::templateFor(IUnit& /*unit*/) const {
   return row().templateProperty;
 }

@@ -7,6 +7,7 @@
 
 #include "cm/core/CMOperation.h"
 #include "cm/core/CMUnitValidator.h"
+#include "cm/core/UnitReload.h"
 #include "cm/host/Reload.h"
 #include "cm/tool/ToolFrame.h"
 
@@ -56,8 +57,5 @@ class UnitCommand : public CMWorkspaceOperation {
 
 /// Makes the unit's archive the main one, unless the user chooses the archive.
 void chooseArchiveOf(const IUnit* unit);
-
-/// The trace-accompanied refresh of a unit's CM header and mode.
-void updateHeaderAndMode(IUnit& unit);
 
 }  // namespace veldra

@@ -31,6 +31,14 @@ std::string reasonForNoRecords() {
   return {};
 }
 
+std::vector<UnitRecord> describeItems(const CMArchiveItemList& items) {
+  std::vector<UnitRecord> records;
+  for (const CMArchiveItem* item : items) {
+    if (item != nullptr) records.push_back(describeItem(*item));
+  }
+  return records;
+}
+
 }  // namespace
 
 ArchiveContent listArchive(Session& session) {
@@ -41,9 +49,14 @@ ArchiveContent listArchive(Session& session) {
   DiagnosticList diagnostics;
   const std::vector<UnitTrace>& traces = session.progress().traces();
   const std::size_t before = traces.size();
-  CMFacade::ListArchive(items.list(), arguments.list(), diagnostics);
+  const bool isListed = CMFacade::ListArchive(items.list(), arguments.list(), diagnostics) != 0;
 
   ArchiveContent content;
+  // A provider is asked without a command.
+  if (isListed && CMProperty::useSccCompliantTool() != 0) {
+    content.files = describeItems(items.list());
+    return content;
+  }
   if (traces.size() == before) {
     content.failure = reasonForNothing(session, diagnostics);
     return content;
@@ -51,9 +64,7 @@ ArchiveContent listArchive(Session& session) {
   content.commands = traces.back().commands;
   content.failure = failureOf(traces.back(), IPN::CMListArchive);
   if (content.failure.empty()) content.failure = reasonForNoRecords();
-  for (const CMArchiveItem* item : items.list()) {
-    if (item != nullptr) content.files.push_back(describeItem(*item));
-  }
+  content.files = describeItems(items.list());
   return content;
 }
 

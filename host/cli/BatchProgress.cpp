@@ -22,13 +22,15 @@ void BatchProgress::unitStarted(const ProgressStep& step) {
                 << textForPeople(baseName(step.unit)) << std::flush;
 }
 
-void BatchProgress::unitEnded(const ProgressStep& /*step*/, UnitEnd end, const std::string& words) {
+void BatchProgress::unitEnded(const ProgressStep& step, UnitEnd end, const std::string& words) {
   m_console.clearProgress();
   m_isInUnit = false;
+  // Units that go to a provider together have all begun before the first one ends.
+  m_current.file = step.unit;
   m_current.end = end;
   m_current.words = words;
   m_current.output = m_window.take();
-  m_traces.push_back(std::move(m_current));
+  m_traces.push_back(std::exchange(m_current, {}));
   if (m_listener) m_listener(m_traces.back());
 }
 

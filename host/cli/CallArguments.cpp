@@ -1,5 +1,6 @@
 #include "host/cli/CallArguments.h"
 
+#include "cm/templates/CMProperty.h"
 #include "host/model/PathNames.h"
 
 namespace veldra::host::cli {
@@ -12,8 +13,18 @@ std::string PlannedLogFile::substitute(const std::string& keyword) {
   return isNamed(keyword) != 0 ? PlannedCommentFile : keyword;
 }
 
+int ProviderComment::isNamed(const std::string& keyword) const {
+  return lowerCase(keyword) == "log" ? 1 : 0;
+}
+
+std::string ProviderComment::substitute(const std::string& keyword) {
+  return isNamed(keyword) != 0 ? m_comment : keyword;
+}
+
 CallArguments callArguments(const CallValues& values) {
   CallArguments arguments;
+  // First, because the provider back end asks nobody else.
+  if (CMProperty::useSccCompliantTool() != 0) arguments.add<ProviderComment>(values.comment);
   arguments.add<CMMode>(values.mode);
   arguments.add<CMLabel>(values.label);
   if (values.isPlan) {

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "cm/core/CMArgument.h"
@@ -32,6 +33,17 @@ class PlannedLogFile : public CMUserBasedArgument {
  public:
   int isNamed(const std::string& keyword) const override;
   std::string substitute(const std::string& keyword) override;
+};
+
+/// "log" as a provider gets it: byte for byte, with nothing quoted.
+class ProviderComment : public CMUserBasedArgument {
+ public:
+  explicit ProviderComment(std::string comment) : m_comment(std::move(comment)) {}
+  int isNamed(const std::string& keyword) const override;
+  std::string substitute(const std::string& keyword) override;
+
+ private:
+  std::string m_comment;
 };
 
 /// What every operation on units is called with.

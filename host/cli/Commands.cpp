@@ -20,6 +20,7 @@ std::span<const Command> commandTable() {
       {"property", "Show and change settings", Property, runProperty},
       {"expand", "Show what a command template becomes", Expansion, runExpand},
       {"pack", "Show the tool packs", Pack, runPack},
+      {"provider", "Show, install and choose source-control providers", Provider, runProvider},
   };
   return rows;
 }

@@ -45,5 +45,6 @@ ExitCode runHistory(const Invocation& invocation);
 ExitCode runProperty(const Invocation& invocation);
 ExitCode runExpand(const Invocation& invocation);
 ExitCode runPack(const Invocation& invocation);
+ExitCode runProvider(const Invocation& invocation);
 
 }  // namespace veldra::host::cli

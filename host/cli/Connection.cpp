@@ -10,6 +10,7 @@
 #include "cm/tool/CMToolShellInterface.h"
 #include "cm/tool/CommandText.h"
 #include "host/cli/CallArguments.h"
+#include "host/cli/ProviderConnection.h"
 #include "host/cli/UnitOutcome.h"
 #include "host/model/PathNames.h"
 
@@ -52,6 +53,7 @@ std::optional<std::string> createArchive(const std::string& place) {
 
 std::optional<std::string> connectToArchive(Session& session,
                                             const std::optional<std::string>& place) {
+  if (CMProperty::useSccCompliantTool() != 0) return connectToProvider(session, place);
   if (place && CMArchive::setMainArchive(*place) == 0) {
     return "The project's tool knows no archive. Choose a tool with \"veldra-cm property set "
            "CMTool NAME\".";

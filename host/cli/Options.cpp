@@ -45,6 +45,12 @@ std::span<const OptionRow> optionTable() {
 
       {Pack, "action", "list|show", "What to do", &Options::action, true},
       {Pack, "name", "NAME", "The pack", &Options::key},
+
+      {Provider, "action", "list|install|use", "What to do", &Options::action, true},
+      {Provider, "provider", "NAME",
+       "The provider; for install its library, otherwise the one that comes with this program",
+       &Options::key},
+      {Provider, "--machine", "", "Install it for every user of the machine", &Options::forMachine},
   };
   return rows;
 }

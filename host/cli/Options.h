@@ -38,6 +38,7 @@ struct Options {
   std::optional<std::string> key;
   std::optional<std::string> value;
   bool forUser = false;
+  bool forMachine = false;
 };
 
 /// Sets of options; a command takes one or several of them.
@@ -53,6 +54,7 @@ inline constexpr unsigned Archive = 0x80;
 inline constexpr unsigned Expansion = 0x100;
 inline constexpr unsigned Property = 0x200;
 inline constexpr unsigned Pack = 0x400;
+inline constexpr unsigned Provider = 0x2000;
 }  // namespace OptionSet
 
 /// One option or positional argument.

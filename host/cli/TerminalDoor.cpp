@@ -24,6 +24,8 @@ void TerminalDoor::notify(const std::string& text, int /*level*/) {
 }
 
 int TerminalDoor::ask(const std::string& text, int flags) {
+  if (const auto prepared = m_answers.find(text); prepared != m_answers.end())
+    return prepared->second;
   const int buttons = flags & ButtonBits;
   if (buttons == MessageBox::Ok) {
     show(text);

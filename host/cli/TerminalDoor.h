@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <unordered_map>
 #include <unordered_set>
 
 #include "host/UserDoor.h"
@@ -18,6 +19,8 @@ class TerminalDoor : public UserDoor {
 
   /// A text that is not shown, because the command tells the same with more detail.
   void mute(const std::string& text) { m_shown.insert(text); }
+  /// A question that the command line has answered already.
+  void prepareAnswer(const std::string& question, int answer) { m_answers[question] = answer; }
   /// Told when the user answers that it is enough.
   void setQuitListener(std::function<void()> listener) { m_quit = std::move(listener); }
   /// The text that was shown last; empty when there was none.
@@ -37,6 +40,7 @@ class TerminalDoor : public UserDoor {
   std::function<void()> m_quit;
   std::string m_last;
   std::unordered_set<std::string> m_shown;
+  std::unordered_map<std::string, int> m_answers;
 };
 
 }  // namespace veldra::host::cli

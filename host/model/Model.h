@@ -38,6 +38,10 @@ class Model : public IModel {
   std::string folderExtension() const override { return {}; }
   std::string newFileExtension() const override { return FileExtension::Project; }
   std::string oldFileExtension() const override { return FileExtension::OldProject; }
+  std::unique_ptr<IProperty> createTextProperty(const std::string& name,
+                                                const std::string& value) override {
+    return std::make_unique<Property>(name, value, Origin::Project);
+  }
   HostFlags& flags() override { return m_flags; }
 
  private:

@@ -49,6 +49,7 @@ class Environment : public IEnvironment {
   /// The file is named "veldra-cm-<process>-<unique>" and readable by its owner alone.
   std::string createTempFile(const std::string& content) override;
   void removeFile(const std::string& path) override;
+  bool moveFile(const std::string& from, const std::string& to) override;
 
  private:
   std::string m_root;

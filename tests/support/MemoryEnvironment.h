@@ -42,6 +42,9 @@ class MemoryEnvironment : public IEnvironment {
   std::string omGetErrorCodeString() override { return m_lastError; }
   std::string createTempFile(const std::string& content) override;
   void removeFile(const std::string& path) override { m_files.remove(path); }
+  bool moveFile(const std::string& from, const std::string& to) override {
+    return m_files.move(from, to);
+  }
 
  private:
   MemoryFiles& m_files;

@@ -7,6 +7,15 @@ void MemoryFiles::write(const std::string& path, std::string content, bool writa
   makeDirectory(directoryOf(path));
 }
 
+bool MemoryFiles::move(const std::string& from, const std::string& to) {
+  if (!m_files.contains(from) || m_files.contains(to)) return false;
+  auto node = m_files.extract(from);
+  node.key() = to;
+  m_files.insert(std::move(node));
+  makeDirectory(directoryOf(to));
+  return true;
+}
+
 void MemoryFiles::makeDirectory(const std::string& path) {
   for (std::string rest = path; !rest.empty(); rest = directoryOf(rest)) m_directories.insert(rest);
 }

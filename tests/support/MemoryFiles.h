@@ -17,6 +17,8 @@ class MemoryFiles {
 
   void write(const std::string& path, std::string content, bool writable = false);
   void remove(const std::string& path) { m_files.erase(path); }
+  /// False when there is no such file, or one of the new name.
+  bool move(const std::string& from, const std::string& to);
   void makeDirectory(const std::string& path);
 
   /// Null when there is no such file. The pointer lives until the file is removed.

@@ -8,8 +8,10 @@
 #include "tests/support/Journal.h"
 #include "tests/support/MemoryEnvironment.h"
 #include "tests/support/MemoryFiles.h"
+#include "tests/support/MemoryLibraries.h"
 #include "tests/support/MemoryMessages.h"
 #include "tests/support/MemoryModel.h"
+#include "tests/support/MemoryRegistry.h"
 #include "tests/support/MemoryReload.h"
 #include "tests/support/Recorders.h"
 #include "tests/support/ScriptedProcesses.h"
@@ -31,7 +33,14 @@ class MemoryHost : public Host {
   MemoryTrace traceLog;
   MemoryFaultGuard memoryFaultGuard;
   MemoryProgress memoryProgress;
+  MemoryRegistry memoryRegistry;
+  MemoryLibraries memoryLibraries;
   ReloadScript reloads;
+
+  /// Where libraries come from: memory, unless a test loads real ones.
+  ILibraries* loader = &memoryLibraries;
+  /// What stands between a fault and the end of the process; tests of real faults need a real one.
+  CSignal2Exception* guard = &memoryFaultGuard;
 
   /// Without them the host has only what every host must have.
   bool offersOptionalFacilities = true;
@@ -45,8 +54,10 @@ class MemoryHost : public Host {
   IAbstractCMManager* cmManager() override { return offered(manager); }
   Undoer* undoer() override { return offered(undo); }
   LogTrace* trace() override { return offered(traceLog); }
-  CSignal2Exception* faultGuard() override { return offered(memoryFaultGuard); }
+  CSignal2Exception* faultGuard() override { return offered<CSignal2Exception>(*guard); }
   IProgress* progress() override { return offered(memoryProgress); }
+  IRegistry* registry() override { return offered(memoryRegistry); }
+  ILibraries* libraries() override { return offered<ILibraries>(*loader); }
   QuickATMFacade* quickReload() override { return offered(m_quickReload); }
   std::unique_ptr<ATMFacade> createATMFacade(IUnit* owner) override;
   std::unique_ptr<ATMFacade> createATMFacade(const std::string& directory) override;

@@ -33,4 +33,11 @@ std::string MemoryMessages::askOverwrite(const std::string& text) {
   return given;
 }
 
+std::optional<std::string> MemoryMessages::askForText(const std::string& question,
+                                                      const std::vector<std::string>& proposals) {
+  textQuestions.push_back(question);
+  lastProposals = proposals;
+  return textAnswer;
+}
+
 }  // namespace veldra::test

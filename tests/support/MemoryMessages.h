@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,9 @@ class MemoryMessages : public IUserMessages {
   std::vector<std::string> overwriteQuestions;
   std::deque<std::string> overwriteAnswers;  ///< Used up from the front; then "no".
   int answer = MessageBox::AnswerOk;
+  std::vector<std::string> textQuestions;
+  std::vector<std::string> lastProposals;
+  std::optional<std::string> textAnswer;
 
   /// The id and the places of its values, so that tests see which text was used and in which order
   /// it was filled: "48352: %1 %2".
@@ -32,6 +36,8 @@ class MemoryMessages : public IUserMessages {
   int notifyUserAndAsk(const std::string& text, int flags, int level) override;
   void oneTimeMessageBox(const std::string& key, const std::string& text, int flags) override;
   std::string askOverwrite(const std::string& text) override;
+  std::optional<std::string> askForText(const std::string& question,
+                                        const std::vector<std::string>& proposals) override;
   void showConnectToArchive() override { ++connectDialogs; }
   int connectDialogs = 0;
 };

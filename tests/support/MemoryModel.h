@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "cm/host/IModel.h"
+#include "tests/support/MemoryProperty.h"
 #include "tests/support/MemoryUnit.h"
 
 namespace veldra::test {
@@ -37,6 +38,10 @@ class MemoryModel : public IModel {
   bool fullPathRepFiles = false;
 
   // --- what the module asks ---
+  std::unique_ptr<IProperty> createTextProperty(const std::string& name,
+                                                const std::string& value) override {
+    return std::make_unique<MemoryProperty>(name, value);
+  }
   IProject* activeProject() override { return m_activeProject; }
   IWorkspace* workspace() override { return m_workspace; }
   void applySavedUnitsListToNonActiveProjects() override { m_journal.add("apply-saved-units"); }

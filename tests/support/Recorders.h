@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -94,7 +95,15 @@ class MemoryProgress : public IProgress {
   void unitEnded(const ProgressStep& step, UnitEnd end, const std::string& words) override {
     ended.push_back({step.unit, end, words});
   }
+  void providerCallStarted(const char* entryPoint) override {
+    ++openProviderCalls;
+    if (onProviderCall) onProviderCall(entryPoint);
+  }
+  void providerCallEnded() override { --openProviderCalls; }
   bool isCancelled() override { return ended.size() >= cancelAfter; }
+
+  int openProviderCalls = 0;
+  std::function<void(const char*)> onProviderCall;
 
   std::vector<ProgressStep> started;
   std::vector<End> ended;

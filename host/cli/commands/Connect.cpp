@@ -1,10 +1,12 @@
 #include "host/cli/CommandPlan.h"
 #include "host/cli/Connection.h"
+#include "host/cli/ProviderConnection.h"
 #include "host/cli/Session.h"
 #include "host/cli/printing/BytesAsText.h"
 #include "host/cli/printing/Report.h"
 
 #include "cm/core/CMArchive.h"
+#include "cm/templates/CMProperty.h"
 
 namespace veldra::host::cli {
 
@@ -17,7 +19,7 @@ ExitCode runConnect(const Invocation& invocation) {
   if (const std::optional<std::string> failure = connectToArchive(session, place)) {
     throw CommandError(wasInterrupted() ? ExitCode::Interrupted : ExitCode::NothingDone, *failure);
   }
-  if (options.dryRun) {
+  if (options.dryRun && !session.progress().traces().empty()) {
     printCommandPlan(invocation, {}, session.progress().traces().back().commands);
     return ExitCode::AllDone;
   }
@@ -25,7 +27,10 @@ ExitCode runConnect(const Invocation& invocation) {
   if (options.json) {
     printJson(Report{.command = invocation.command.name}, invocation.console.out);
   } else {
-    invocation.console.out << "connected  " << textForPeople(CMArchive::getMainArchive()) << '\n';
+    const bool hasProvider = CMProperty::useSccCompliantTool() != 0;
+    const std::string archive =
+        hasProvider ? connectedProject(session) : CMArchive::getMainArchive();
+    invocation.console.out << "connected  " << textForPeople(archive) << '\n';
   }
   return ExitCode::AllDone;
 }

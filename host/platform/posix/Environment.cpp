@@ -183,6 +183,26 @@ std::string Environment::createTempFile(const std::string& content) {
   return {};
 }
 
+bool Environment::moveFile(const std::string& from, const std::string& to) {
+  namespace fs = std::filesystem;
+  std::error_code error;
+  if (cannotBeNamed(from) || cannotBeNamed(to))
+    error = std::make_error_code(std::errc::invalid_argument);
+  if (!error) fs::create_directories(fs::path(to).parent_path(), error);
+  if (!error && fs::exists(fs::symlink_status(to, error))) {
+    error = std::make_error_code(std::errc::file_exists);
+  } else if (error == std::errc::no_such_file_or_directory) {
+    error.clear();
+  }
+  if (!error) fs::rename(from, to, error);
+  if (error == std::errc::cross_device_link) {
+    fs::copy_file(from, to, error);
+    if (!error) fs::remove(from, error);
+  }
+  m_lastError = error.value();
+  return !error;
+}
+
 void Environment::removeFile(const std::string& path) {
   if (!cannotBeNamed(path)) ::unlink(path.c_str());
 }

@@ -1,0 +1,87 @@
+#include "cm/core/UnitBatch.h"
+
+#include <utility>
+
+#include "cm/core/CCMSyncQuestionDlg.h"
+#include "cm/core/CMFacade.h"
+#include "cm/core/TextTools.h"
+#include "cm/host/Host.h"
+#include "cm/host/IPN.h"
+#include "cm/host/IProperty.h"
+#include "cm/host/MessageIds.h"
+#include "cm/templates/CMProperty.h"
+
+namespace veldra {
+
+namespace {
+IProgress* progress() {
+  Host* const host = installedHost();
+  return host != nullptr ? host->progress() : nullptr;
+}
+}  // namespace
+
+ReloadBracket::ReloadBracket(bool isNeeded) : m_isNeeded(isNeeded) {
+  const CMFacade::ReloadCallback& before = CMFacade::ATMCallbackFunc();
+  if (m_isNeeded && before) before(CMFacade::ATMCallbackFuncParameter());
+}
+
+ReloadBracket::~ReloadBracket() {
+  try {
+    close();
+  } catch (...) {
+    // The batch is over, perhaps by an exception already.
+    VELDRA_TRACE("The host failed after a reload");
+  }
+}
+
+void ReloadBracket::close() {
+  const CMFacade::ReloadCallback& after = CMFacade::afterATMCallbackFunc();
+  if (!std::exchange(m_isNeeded, false) || !after) return;
+  after(CMFacade::afterATMCallbackFuncParameter());
+}
+
+UnitReport::UnitReport(const char* operation, std::size_t position, std::size_t count,
+                       std::string unit)
+    : m_step{operation, position, count, std::move(unit)} {
+  if (progress() != nullptr) progress()->unitStarted(m_step);
+}
+
+UnitReport::~UnitReport() {
+  if (std::uncaught_exceptions() > m_exceptions) m_end = UnitEnd::ToolFailed;
+  if (progress() != nullptr) progress()->unitEnded(m_step, m_end, m_words);
+}
+
+void UnitReport::endsAs(UnitEnd end, std::string words) {
+  m_end = end;
+  m_words = std::move(words);
+}
+
+bool UnitReport::isCancelled() {
+  return progress() != nullptr && progress()->isCancelled();
+}
+
+void saveModel(SaveRule rule, bool isListEmpty) {
+  if (rule == SaveRule::Never || isListEmpty) return;
+  if (rule == SaveRule::IfSaveOnCheckOut) {
+    const IProperty* const setting = CMProperty::getToolProperty(IPN::CMSaveOnCheckOut);
+    if (setting == nullptr || !setting->getBool()) return;
+  }
+  if (const CMFacade::SaveCallback& save = CMFacade::saveCallbackFunc()) save();
+}
+
+OverwriteQuestion::OverwriteQuestion(bool isNeeded) : m_asks(isNeeded) {
+  if (!isNeeded) return;
+  std::string setting;
+  CMProperty::getToolPropertyValue("AskOnCheckoutReadWrite", setting);
+  m_asks = !equalsNoCase(setting, "No");
+}
+
+bool OverwriteQuestion::allows(const IUnit& unit) const {
+  const std::string fullName = unit.getFullFileName();
+  if (!m_asks || !omFileHasWritePermission(fullName)) return true;
+  CCMSyncQuestionDlg question(
+      formatMessage(MessageId::OverwriteQuestion, {unit.getFileName(), fullName}));
+  return question.DoModal() == MessageBox::AnswerYes;
+}
+
+}  // namespace veldra

@@ -1,0 +1,106 @@
+#include "cm/scc/ProviderUnit.h"
+
+#include "cm/core/CMOutputer.h"
+#include "cm/core/TextTools.h"
+#include "cm/core/UnitReload.h"
+#include "cm/host/Host.h"
+#include "cm/host/MessageIds.h"
+#include "cm/scc/SCCConnectToCMRepository.h"
+#include "cm/scc/SCCTextOutProc.h"
+#include "cm/scc/SccQuery.h"
+#include "cm/scc/pvContextStruct.h"
+
+namespace veldra {
+
+ProviderFile::ProviderFile(const IUnit& unit, int kind) {
+  Host* const host = installedHost();
+  const bool isProject = const_cast<IUnit&>(unit).asProject() != nullptr;
+  if (isProject && kind != 0 && host != nullptr) {
+    m_handler = host->createModelFileHandler(unit.getFullFileName());
+  }
+  if (m_handler != nullptr) {
+    m_handler->prepare(static_cast<CMVDYHandler::Kind>(kind));
+    m_name = m_handler->fileNameToLoad();
+  }
+  if (m_name.empty()) m_name = joinPath(unit.getDirectory(), unit.getFileName());
+  m_name = replaceAll(m_name, "\\\\", "\\");
+}
+
+void ProviderFile::succeeded() {
+  if (m_handler != nullptr) m_handler->complete();
+}
+
+pvContextStruct* contextFor(IUnit* unit, const char* traceLine) {
+  if (traceLine != nullptr) VELDRA_TRACE(traceLine);
+  pvContextStruct* context = nullptr;
+  SCCConnectToCMRepository().getSccContext(context, unit);
+  return context;
+}
+
+std::string commentOf(const ArgumentList& arguments) {
+  CMArgument* const first = arguments.empty() ? nullptr : arguments.front();
+  return first != nullptr ? first->substitute("log") : std::string();
+}
+
+std::string argumentValue(const ArgumentList& arguments, const char* keyword) {
+  for (CMArgument* argument : arguments) {
+    if (argument != nullptr && argument->isNamed(keyword) != 0) {
+      return argument->substitute(keyword);
+    }
+  }
+  return {};
+}
+
+bool isGone(const CMUnitValidator& validator, IUnit* unit) {
+  return validator.isUnitMarkedForValidation(unit) != 0 && validator.isValidUnit(unit) == 0;
+}
+
+bool succeeds(long code, UnitReport* report) {
+  if (code == 0) return true;
+  SCCTextOutProc::InternalTextOutProc(code, 0);
+  if (report != nullptr) markFailed(code, *report);
+  return false;
+}
+
+void markFailed(long code, UnitReport& report) {
+  report.endsAs(UnitEnd::ToolFailed, SCCTextOutProc::messageOf(code).text);
+}
+
+IUnit* reloadTraced(IUnit& unit, const std::string& file, CMUnitValidator& validator,
+                    ReloadMode mode, UnitReport& report) {
+  const std::string recordedName = unit.getRecordedFileName();
+  const std::string fileName = unit.getFileName();
+  VELDRA_TRACE("Performing ATM for the file ", file);
+  bool canReload = false;
+  IUnit* reloaded = reloadInPlace(unit, canReload);
+  if (!canReload) {
+    reloaded = addAgain(unit);
+  } else if (mode == ReloadMode::FollowsName) {
+    renameToComputedName(reloaded, recordedName, fileName);
+  }
+  if (reloaded != nullptr) {
+    validator.replaceUnit(&unit, reloaded);
+    return reloaded;
+  }
+  const std::string message = formatMessage(MessageId::FileNotLoaded, {file});
+  CMOutputer::reportLoadingErrror(message);
+  report.endsAs(UnitEnd::NotReloaded, message);
+  return nullptr;
+}
+
+void updateUnit(IUnit& unit, const UnitUpdate& update, const pvContextStruct* context) {
+  const std::string file = unit.getFullFileName();
+  if (update.headerLine != nullptr) {
+    VELDRA_TRACE(update.headerLine, file);
+    unit.updateCMHeader();
+  }
+  if (update.modeLine != nullptr) {
+    VELDRA_TRACE(update.modeLine, file);
+    unit.updateMode("");
+  }
+  if (update.statusLine == nullptr) return;
+  VELDRA_TRACE(update.statusLine, file);
+  SccQuery::queryAndSetStatus(&unit, context != nullptr ? context->getpvContextPtr() : nullptr);
+}
+
+}  // namespace veldra

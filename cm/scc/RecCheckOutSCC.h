@@ -1,0 +1,15 @@
+#pragma once
+
+#include "cm/core/CMOperation.h"
+
+namespace veldra {
+
+/// Checks units out with everything below those that are packages: the list grows by these, and is
+/// then checked out as `CheckOutSCC` does it.
+class RecCheckOutSCC : public CMWorkspaceOperation {
+ public:
+  int operator()(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics,
+                 bool hybrid) override;
+};
+
+}  // namespace veldra

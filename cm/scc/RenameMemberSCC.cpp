@@ -1,0 +1,43 @@
+#include "cm/scc/RenameMemberSCC.h"
+
+#include "cm/core/TextTools.h"
+#include "cm/host/IEnvironment.h"
+#include "cm/host/IUserMessages.h"
+#include "cm/host/MessageIds.h"
+#include "cm/scc/MemberMove.h"
+#include "cm/scc/ProviderBatch.h"
+
+namespace veldra {
+
+namespace {
+
+constexpr char Name[] = "Rename";
+
+std::string inDirectoryOf(const IUnit& unit, const std::string& name) {
+  return omIsAbsolutePath(name) ? name : joinPath(unit.getDirectory(), name);
+}
+
+}  // namespace
+
+int RenameMemberSCC::operator()(UnitList& units, ArgumentList& arguments,
+                                DiagnosticList& diagnostics, bool hybrid) {
+  IUnit* const unit = units.size() == 1 ? units.front() : nullptr;
+  return (*this)(unit, argumentValue(arguments, "oldName"), argumentValue(arguments, "newName"),
+                 diagnostics, hybrid);
+}
+
+int RenameMemberSCC::operator()(IUnit* unit, const std::string& oldName, const std::string& newName,
+                                DiagnosticList& diagnostics, bool /*hybrid*/) {
+  if (unit == nullptr || newName.empty()) {
+    diagnostics.emplace_back(CMDiagnostic::Failed, loadMessage(MessageId::NameMissing), unit);
+    return 0;
+  }
+  const std::string from =
+      oldName.empty() ? unit->getFullFileName() : inDirectoryOf(*unit, oldName);
+  const pvContextStruct* const context = contextFor(unit, "Getting SCC Context to perform rename");
+  if (context == nullptr || !offers(providerState().dll.SccRename, Name, diagnostics)) return 0;
+  UnitReport report(Name, 1, 1, from);
+  return moveMember(*context, from, inDirectoryOf(*unit, newName), report) ? 1 : 0;
+}
+
+}  // namespace veldra

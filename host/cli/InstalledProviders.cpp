@@ -1,0 +1,118 @@
+#include "host/cli/InstalledProviders.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+
+#include "cm/scc/SccInterface.h"
+#include "host/cli/ExitCode.h"
+#include "host/platform/Libraries.h"
+
+namespace veldra::host::cli {
+
+using namespace scc;
+
+namespace {
+
+// The places that the interface's documentation gives.
+constexpr char ProvidersKey[] = "Software\\SourceCodeControlProvider";
+constexpr char InstalledKey[] = "Software\\SourceCodeControlProvider\\InstalledSCCProviders";
+constexpr char DefaultName[] = "ProviderRegKey";
+constexpr char NameName[] = "SCCServerName";
+constexpr char PathName[] = "SCCServerPath";
+
+/// What every provider has, because no capability stands for it.
+constexpr const char* Mandatory[] = {"SccGetVersion",  "SccInitialize",   "SccUninitialize",
+                                     "SccOpenProject", "SccCloseProject", "SccSetOption",
+                                     "SccGet",         "SccCheckout",     "SccUncheckout",
+                                     "SccCheckin",     "SccAdd"};
+
+/// A key of our own for a provider. Percent signs and backslashes mean something in keys.
+std::string keyFor(const std::string& name) {
+  std::string key = name;
+  std::ranges::replace_if(
+      key, [](char c) { return c == '\\' || c == '%' || c < ' '; }, '_');
+  return "Software\\Veldra\\" + key;
+}
+
+template <class Change>
+void changeRegistry(const std::string& file, Change change) {
+  if (file.empty()) {
+    throw CommandError(ExitCode::NothingDone,
+                       "There is no place for a registry of your own: set HOME, XDG_CONFIG_HOME or "
+                       "VELDRA_USER_REGISTRY.");
+  }
+  Result<RegistryFile> content = RegistryFile::read(file);
+  if (!content) throw CommandError(ExitCode::NothingDone, content.error());
+  change(*content);
+  if (const std::optional<std::string> failure = content->write(file))
+    throw CommandError(ExitCode::NothingDone, *failure);
+}
+
+}  // namespace
+
+std::vector<InstalledProvider> installedProviders(Registry& registry) {
+  const std::string standard = registry.localMachineText(ProvidersKey, DefaultName).value_or("");
+  std::vector<InstalledProvider> providers;
+  for (const auto& [name, key] : registry.localMachineTexts(InstalledKey)) {
+    providers.push_back({name, key, registry.localMachineText(key, PathName).value_or(""),
+                         !RegistryOrder()(key, standard) && !RegistryOrder()(standard, key)});
+  }
+  return providers;
+}
+
+std::string providerNameOf(const std::string& library) {
+  std::string error;
+  const std::unique_ptr<ILibrary> loaded = Libraries().load(library, error);
+  if (!loaded) throw CommandError(ExitCode::NothingDone, error);
+  for (const char* name : Mandatory) {
+    if (loaded->find(name)) continue;
+    throw CommandError(
+        ExitCode::NothingDone,
+        "The library " + library + " is no provider: it has no entry point " + name + ".");
+  }
+  const auto initialize = reinterpret_cast<SccInitializeFn*>(loaded->find("SccInitialize"));
+  const auto uninitialize = reinterpret_cast<SccUninitializeFn*>(loaded->find("SccUninitialize"));
+  LPVOID context = nullptr;
+  std::array<char, SCC_NAME_SIZE> name{};
+  std::array<char, SCC_AUXLABEL_SIZE> label{};
+  LONG number = 0;
+  const SCCRTN result =
+      initialize(&context, nullptr, "Veldra", name.data(), &number, label.data(), &number, &number);
+  if (result != SCC_OK) {
+    throw CommandError(ExitCode::NothingDone, "The provider " + library +
+                                                  " cannot be initialised; it returned " +
+                                                  std::to_string(result) + ".");
+  }
+  uninitialize(context);
+  name.back() = '\0';
+  return name[0] != '\0' ? name.data() : std::filesystem::path(library).stem().string();
+}
+
+void installProvider(const std::string& registryFile, const std::string& name,
+                     const std::string& library) {
+  const std::string key = keyFor(name);
+  changeRegistry(registryFile, [&](RegistryFile& file) {
+    file.keys[key][NameName] = name;
+    file.keys[key][PathName] = library;
+    file.keys[InstalledKey][name] = key;
+    file.keys[ProvidersKey].try_emplace(DefaultName, key);
+  });
+}
+
+void makeDefaultProvider(const std::string& registryFile, const InstalledProvider& provider) {
+  changeRegistry(registryFile,
+                 [&](RegistryFile& file) { file.keys[ProvidersKey][DefaultName] = provider.key; });
+}
+
+std::string shippedProvider(const std::string& installationRoot) {
+  const std::filesystem::path prefix =
+      std::filesystem::path(installationRoot).parent_path().parent_path();
+#if defined(_WIN32)
+  return (prefix / "lib" / "veldra-cm" / "veldra-subversion.dll").string();
+#else
+  return (prefix / "lib" / "veldra-cm" / "libveldra-subversion.so").string();
+#endif
+}
+
+}  // namespace veldra::host::cli
