@@ -1,5 +1,6 @@
 #include "host/ReferenceHost.h"
 
+#include <charconv>
 #include <utility>
 
 #include "host/UserMessages.h"
@@ -12,7 +13,11 @@
 #include "host/platform/PatternEngine.h"
 #include "host/platform/Processes.h"
 #include "host/platform/Registry.h"
+#include "host/platform/Secrets.h"
+#include "host/platform/StaleFiles.h"
 #include "host/platform/TraceLog.h"
+#include "host/resources/MessageNumbers.h"
+#include "host/trust/GuardedProcesses.h"
 
 namespace veldra::host {
 namespace {
@@ -55,6 +60,20 @@ PropertyLayers loadedLayers(const HostOptions& options, const std::string& root,
   return layers;
 }
 
+/// A whole number of the section "General", or what holds without it.
+std::uint64_t numberOf(const PropertyLayers& layers, const char* name, std::uint64_t otherwise) {
+  const std::string text = layers.setting("General", name).value_or("");
+  std::uint64_t number = otherwise;
+  std::from_chars(text.data(), text.data() + text.size(), number);
+  return number;
+}
+
+KeptLimits keptLimits(const PropertyLayers& layers) {
+  const KeptLimits standard;
+  return {numberOf(layers, "KeptCopiesMegabytes", standard.bytes >> 20U) << 20U,
+          static_cast<unsigned>(numberOf(layers, "KeptCopiesDays", standard.days))};
+}
+
 }  // namespace
 
 struct ReferenceHost::Parts {
@@ -73,11 +92,33 @@ struct ReferenceHost::Parts {
         undo(model),
         trace(options.traceLog),
         progress(options.progress),
-        givenProcesses(options.processes) {
+        trustedCommands(layers, trustFileBeside(layers.files().userFile)),
+        kept(
+            [this] {
+              const Project* open = model.project();
+              return open ? open->getProjectDirectory() : std::string();
+            },
+            keptLimits(layers)),
+        onlyPlans(options.onlyPlans),
+        guarded(options.processes ? *options.processes : processes,
+                [this](const std::string& command) { return objectionTo(command); }) {
     processes.setChildEnvironment(options.childEnvironment);
+    removeStaleTempFiles(environment.omGetTempDir());
     if (!trace.error().empty()) {
       problems.push_back({options.traceLog, trace.error(), "No trace log is written."});
     }
+  }
+
+  std::string adviceForTrust() {
+    const Project* open = model.project();
+    return catalogue.format(MessageNumber::CommandsNotTrusted,
+                            {open ? open->getFullFileName() : std::string()});
+  }
+  std::optional<std::string> objectionTo(const std::string& command) {
+    if (onlyPlans) return std::nullopt;
+    if (!trustedCommands.isTrusted()) return adviceForTrust();
+    if (holdsSecret(command)) return catalogue.text(MessageNumber::PasswordInCommand);
+    return std::nullopt;
   }
 
   Problems problems;
@@ -97,7 +138,10 @@ struct ReferenceHost::Parts {
   Libraries libraries;
   QuickReload quickReload;
   IProgress* progress;
-  IProcesses* givenProcesses;
+  CommandTrust trustedCommands;
+  KeptCopies kept;
+  bool onlyPlans;
+  GuardedProcesses guarded;
 };
 
 ReferenceHost::ReferenceHost(const HostOptions& options)
@@ -138,6 +182,18 @@ const std::string& ReferenceHost::installationRoot() const {
   return m_parts->root;
 }
 
+CommandTrust& ReferenceHost::trust() {
+  return m_parts->trustedCommands;
+}
+
+KeptCopies& ReferenceHost::kept() {
+  return m_parts->kept;
+}
+
+std::string ReferenceHost::trustAdvice() {
+  return m_parts->adviceForTrust();
+}
+
 void ReferenceHost::requestCancel() noexcept {
   m_parts->processes.requestCancel();
 }
@@ -156,7 +212,7 @@ IPatternEngine& ReferenceHost::patterns() {
 }
 
 IProcesses* ReferenceHost::processes() {
-  return m_parts->givenProcesses ? m_parts->givenProcesses : &m_parts->processes;
+  return &m_parts->guarded;
 }
 
 IAbstractCMManager* ReferenceHost::cmManager() {
@@ -179,6 +235,9 @@ ILibraries* ReferenceHost::libraries() {
 }
 IProgress* ReferenceHost::progress() {
   return m_parts->progress;
+}
+IKeptCopies* ReferenceHost::keptCopies() {
+  return m_parts->onlyPlans ? nullptr : &m_parts->kept;
 }
 QuickATMFacade* ReferenceHost::quickReload() {
   return &m_parts->quickReload;

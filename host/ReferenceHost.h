@@ -8,9 +8,11 @@
 
 #include "cm/host/Host.h"
 #include "host/UserDoor.h"
+#include "host/kept/KeptCopies.h"
 #include "host/model/Problem.h"
 #include "host/model/Project.h"
 #include "host/model/PropertyLayers.h"
+#include "host/trust/CommandTrust.h"
 
 namespace veldra::host {
 
@@ -27,6 +29,7 @@ struct HostOptions {
   std::string language;                                 ///< For messages; empty: the process's.
   std::optional<SettingsFiles> settings;                ///< In place of the standard places.
   std::optional<std::string> seenMessagesFile;          ///< In place of the standard place.
+  bool onlyPlans = false;  ///< `processes` start nothing, so whatever the project brings may pass.
 };
 
 /// The reference host: a model on disk, its properties, and this machine's processes and files.
@@ -54,6 +57,13 @@ class ReferenceHost : public Host {
   /// What was wrong with settings, tool packs, message files and the trace log.
   const Problems& problems() const;
   const std::string& installationRoot() const;
+  /// What the open project brings to be run, and whether the user has trusted it. As long as he has
+  /// not, `processes` starts nothing and says so.
+  CommandTrust& trust();
+  /// The copies of files of the open project that commands have overwritten.
+  KeptCopies& kept();
+  /// The sentence for commands that are not trusted, with the way out.
+  std::string trustAdvice();
   /// Ends the running child process and lets no other start; may be called from a signal handler.
   /// Does nothing to processes that the options brought.
   void requestCancel() noexcept;
@@ -71,6 +81,7 @@ class ReferenceHost : public Host {
   IRegistry* registry() override;
   ILibraries* libraries() override;
   IProgress* progress() override;
+  IKeptCopies* keptCopies() override;
   QuickATMFacade* quickReload() override;
   std::unique_ptr<ATMFacade> createATMFacade(IUnit* owner) override;
   std::unique_ptr<ATMFacade> createATMFacade(const std::string& directory) override;

@@ -43,6 +43,7 @@ struct RenameCall {
   const std::string& newName;
   DiagnosticList& diagnostics;
   bool hybrid = false;
+  ArgumentList* arguments = nullptr;  ///< Comment and the like; null when there are none.
 };
 
 /// What moving the content of a package is called with.

@@ -78,6 +78,20 @@ std::string CMTargetFile::substitute(const std::string& keyword) {
   return isNamed(keyword) != 0 ? m_directory : keyword;
 }
 
+int CMNameChange::isNamed(const std::string& keyword) const {
+  return equalsNoCase(keyword, "oldName") || equalsNoCase(keyword, "newName") ||
+                 equalsNoCase(keyword, "olddir") || equalsNoCase(keyword, "newdir")
+             ? 1
+             : 0;
+}
+
+std::string CMNameChange::substitute(const std::string& keyword) {
+  if (isNamed(keyword) == 0) return keyword;
+  const std::string& name = startsWithNoCase(keyword, "old") ? m_oldName : m_newName;
+  const bool isDirectory = keyword.size() == std::string_view("olddir").size();
+  return isDirectory ? std::string(cutAtLastSeparator(name)) : name;
+}
+
 int CMWorkspace::isNamed(const std::string& keyword) const {
   return equalsNoCase(keyword, "workspace") ? 1 : 0;
 }

@@ -73,6 +73,20 @@ class VELDRA_CM_EXPORT CMTargetFile : public CMUserBasedArgument {
   std::string m_directory;
 };
 
+/// A file's name before and after, in full: "oldName" and "newName", and their directories "olddir"
+/// and "newdir".
+class VELDRA_CM_EXPORT CMNameChange : public CMArgument {
+ public:
+  CMNameChange(std::string oldName, std::string newName)
+      : m_oldName(std::move(oldName)), m_newName(std::move(newName)) {}
+  int isNamed(const std::string& keyword) const override;
+  std::string substitute(const std::string& keyword) override;
+
+ private:
+  std::string m_oldName;
+  std::string m_newName;
+};
+
 /// "workspace".
 class VELDRA_CM_EXPORT CMWorkspace : public CMPropertyArgument {
  public:

@@ -156,6 +156,15 @@ std::unique_ptr<IgnoreCGModification> ignoreCGModification() {
   return host != nullptr ? host->model().ignoreCGModification() : nullptr;
 }
 
+int renameMember(RenameCall call) {
+  return enterFacade(TxnRename, [&] {
+    const bool provider = takesProvider(Selected);
+    call.hybrid = provider && HybridRule::appliesToRename(call.oldName, call.newName);
+    BackEnd& backEnd = provider && !call.hybrid ? *backEnds().provider : *backEnds().tool;
+    return backEnd.renameMember(call);
+  });
+}
+
 }  // namespace
 
 int CMFacade::ConnectToArchive(UnitList& units, ArgumentList& arguments,
@@ -298,12 +307,12 @@ int CMFacade::DeleteDirectory(const std::string& directory, ArgumentList& argume
 
 int CMFacade::RenameMember(IUnit* unit, const std::string& oldName, const std::string& newName,
                            DiagnosticList& diagnostics) {
-  return enterFacade(TxnRename, [&] {
-    const bool provider = takesProvider(Selected);
-    const bool hybrid = provider && HybridRule::appliesToRename(oldName, newName);
-    BackEnd& backEnd = provider && !hybrid ? *backEnds().provider : *backEnds().tool;
-    return backEnd.renameMember({unit, oldName, newName, diagnostics, hybrid});
-  });
+  return renameMember({unit, oldName, newName, diagnostics});
+}
+
+int CMFacade::RenameMember(IUnit* unit, const std::string& oldName, const std::string& newName,
+                           ArgumentList& arguments, DiagnosticList& diagnostics) {
+  return renameMember({unit, oldName, newName, diagnostics, false, &arguments});
 }
 
 int CMFacade::movePackageContent(IUnit* package, UnitList& units, const std::string& oldPath,

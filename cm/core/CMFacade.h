@@ -73,6 +73,9 @@ class VELDRA_CM_EXPORT CMFacade {
                              DiagnosticList& diagnostics, bool flag, IDObject* object);
   static int RenameMember(IUnit* unit, const std::string& oldName, const std::string& newName,
                           DiagnosticList& diagnostics);
+  /// The same with a comment and the like.
+  static int RenameMember(IUnit* unit, const std::string& oldName, const std::string& newName,
+                          ArgumentList& arguments, DiagnosticList& diagnostics);
   static int movePackageContent(IUnit* package, UnitList& units, const std::string& oldPath,
                                 const std::string& newPath, ArgumentList& arguments,
                                 DiagnosticList& diagnostics, bool flag);

@@ -59,6 +59,7 @@ struct ModuleState {
   bool providerLoaded = false;
   std::unique_ptr<BackEndMemory> provider;  ///< Made by the provider back end at its first use.
   int showCMStatus = 0;
+  bool saveOnCheckoutDue = true;  ///< See `CMProperty::saveOnCheckout`.
 
   ExpansionUse expansion;
 

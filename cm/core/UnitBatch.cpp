@@ -62,11 +62,24 @@ bool UnitReport::isCancelled() {
 
 void saveModel(SaveRule rule, bool isListEmpty) {
   if (rule == SaveRule::Never || isListEmpty) return;
-  if (rule == SaveRule::IfSaveOnCheckOut) {
+  const bool isDueOnce = rule == SaveRule::IfSaveOnCheckOutIsDue;
+  if (isDueOnce || rule == SaveRule::IfSaveOnCheckOut) {
     const IProperty* const setting = CMProperty::getToolProperty(IPN::CMSaveOnCheckOut);
     if (setting == nullptr || !setting->getBool()) return;
   }
-  if (const CMFacade::SaveCallback& save = CMFacade::saveCallbackFunc()) save();
+  if (isDueOnce && CMProperty::saveOnCheckout(-1) == 0) return;
+  const CMFacade::SaveCallback& save = CMFacade::saveCallbackFunc();
+  if (!save) return;
+  save();
+  if (isDueOnce) CMProperty::saveOnCheckout(0);
+}
+
+std::string argumentValue(const ArgumentList& arguments, const char* keyword) {
+  for (CMArgument* argument : arguments) {
+    if (argument != nullptr && argument->isNamed(keyword) != 0)
+      return argument->substitute(keyword);
+  }
+  return {};
 }
 
 OverwriteQuestion::OverwriteQuestion(bool isNeeded) : m_asks(isNeeded) {

@@ -11,7 +11,12 @@
 namespace veldra {
 
 /// When an operation saves the model before its first command.
-enum class SaveRule { Never, Always, IfSaveOnCheckOut };
+enum class SaveRule {
+  Never,
+  Always,
+  IfSaveOnCheckOut,
+  IfSaveOnCheckOutIsDue,  ///< As before, and only while `CMProperty::saveOnCheckout` says so.
+};
 
 /// An argument on the end of a list, for as long as this lives.
 class PushedArgument {
@@ -69,6 +74,9 @@ class UnitReport {
 
 /// Calls the facade's save callback as the rule demands; nothing for an empty list.
 void saveModel(SaveRule rule, bool isListEmpty);
+
+/// What the first argument that answers to the keyword says; empty when none does.
+std::string argumentValue(const ArgumentList& arguments, const char* keyword);
 
 /// The overwrite question for a writable file: true when the command may go on.
 class OverwriteQuestion {

@@ -9,6 +9,7 @@
 #include "cm/host/IAbstractCMManager.h"
 #include "cm/host/IEnvironment.h"
 #include "cm/host/ILibraries.h"
+#include "cm/host/IKeptCopies.h"
 #include "cm/host/IModel.h"
 #include "cm/host/IProgress.h"
 #include "cm/host/IRegistry.h"
@@ -41,6 +42,7 @@ class Host {
   /// Both are needed to find and load a source control provider; without them there is none.
   virtual IRegistry* registry() { return nullptr; }
   virtual ILibraries* libraries() { return nullptr; }
+  virtual IKeptCopies* keptCopies() { return nullptr; }
 
   /// Reload services. Without them units keep what they had in memory, and a command that would
   /// need a reload reports the unit as not reloaded.

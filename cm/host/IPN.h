@@ -29,6 +29,10 @@ inline constexpr char CMListArchive[] = "ListArchive";
 inline constexpr char CMLockItem[] = "Lock";
 inline constexpr char CMUnLockItem[] = "UnLock";
 inline constexpr char Delete[] = "Delete";
+inline constexpr char DeleteDirectory[] = "DeleteDirectory";
+inline constexpr char MoveDirectory[] = "MoveDirectory";
+inline constexpr char Rename[] = "Rename";
+inline constexpr char RenameDirectory[] = "RenameDirectory";
 
 // Words that the keyword "mode" stands for.
 inline constexpr char CMReadOnly[] = "ReadOnly";

@@ -40,6 +40,9 @@ inline constexpr int PatternGivenUp = 60008;        ///< Pattern.
 inline constexpr int CommentNotWritten = 60009;     ///< Directory.
 inline constexpr int NoProcessRunner = 60010;
 inline constexpr int InternalError = 60011;  ///< Operation, what happened.
+inline constexpr int NoMoveTarget = 60020;
+inline constexpr int NoNewName = 60021;
+inline constexpr int CopyNotKept = 60030;  ///< File, reason.
 
 // What a provider answers: prefixes, the texts of the codes -1 and 1 (the others lie below them in
 // order), one for any other code, and what ends every message.
@@ -60,18 +63,17 @@ inline constexpr int StateOutElsewhere = 49764;
 inline constexpr int StateNotCheckedOut = 49765;
 
 // The module's own texts about providers.
-inline constexpr int ProviderFailed = 60101;     ///< Entry point, what happened.
-inline constexpr int ProviderNotLoaded = 60102;  ///< Library, reason.
-inline constexpr int ProviderLacks = 60103;      ///< Operation, entry point.
-inline constexpr int ActivityQuestion = 60104;
-inline constexpr int TaskQuestion = 60105;
-inline constexpr int AddedToArchive = 60106;  ///< Number of files.
-inline constexpr int TargetMissing = 60107;   ///< File.
-inline constexpr int TargetExists = 60108;    ///< File.
-inline constexpr int FileNotMoved = 60109;    ///< File.
-inline constexpr int NowhereToMove = 60110;   ///< File.
-inline constexpr int NameMissing = 60111;
-inline constexpr int ChangedAndStale = 60112;  ///< File.
+inline constexpr int ProviderFailed = 60201;     ///< Entry point, what happened.
+inline constexpr int ProviderNotLoaded = 60202;  ///< Library, reason.
+inline constexpr int ProviderLacks = 60203;      ///< Operation, entry point.
+inline constexpr int ActivityQuestion = 60204;
+inline constexpr int TaskQuestion = 60205;
+inline constexpr int AddedToArchive = 60206;  ///< Number of files.
+inline constexpr int TargetMissing = 60207;   ///< File.
+inline constexpr int TargetExists = 60208;    ///< File.
+inline constexpr int FileNotMoved = 60209;    ///< File.
+inline constexpr int NowhereToMove = 60210;   ///< File.
+inline constexpr int ChangedAndStale = 60211;  ///< File.
 
 // What the dialogs say. A group with one text per command begins at the number given and goes on in
 // the order of `DialogCommand`.

@@ -47,6 +47,8 @@ bool ItemCheckOut::checkOut(const CMArchiveItem& item, UnitReport& report) {
     return false;
   }
   const std::string file = item.getFullUnitFileName();
+  const KeptCopy kept(KeepRule::WritableFiles, file, Name);
+  if (mustStay(kept, report)) return false;
   FileNames files(file);
   const long code = callOnFiles(providerState().dll.SccCheckout, CallLines::PrePostAndReturn,
                                 context->getpvContextPtr(), parentWindow(), files,

@@ -25,6 +25,7 @@ struct Candidate {
   IUnit* unit;
   ProviderFile file;
   std::unique_ptr<UnitReport> report;
+  std::unique_ptr<KeptCopy> kept{};
 };
 
 enum class Choice { Take, Skip, Stop };
@@ -86,6 +87,9 @@ Choice CheckOutRun::choose(IUnit* unit, const char* traceLine, std::vector<Candi
     candidate.report->endsAs(UnitEnd::Declined);
     return Choice::Skip;
   }
+  candidate.kept =
+      std::make_unique<KeptCopy>(KeepRule::WritableFiles, unit->getFullFileName(), "Check Out");
+  if (mustStay(*candidate.kept, *candidate.report)) return Choice::Skip;
   candidates.push_back(std::move(candidate));
   return Choice::Take;
 }

@@ -59,6 +59,8 @@ bool FetchRun::fetch(IUnit& unit, UnitReport& report) {
     return false;
   }
   ProviderFile file(unit, CMVDYHandler::Fetch);
+  const KeptCopy kept(KeepRule::EveryFile, file.name(), "Fetch");
+  if (mustStay(kept, report)) return true;
   FileNames files(file.name());
   const long code = callOnFiles(providerState().dll.SccGet, CallLines::PrePostAndReturn,
                                 m_context->getpvContextPtr(), parentWindow(), files, scc::LONG{0},

@@ -42,15 +42,6 @@ std::string commentOf(const ArgumentList& arguments) {
   return first != nullptr ? first->substitute("log") : std::string();
 }
 
-std::string argumentValue(const ArgumentList& arguments, const char* keyword) {
-  for (CMArgument* argument : arguments) {
-    if (argument != nullptr && argument->isNamed(keyword) != 0) {
-      return argument->substitute(keyword);
-    }
-  }
-  return {};
-}
-
 bool isGone(const CMUnitValidator& validator, IUnit* unit) {
   return validator.isUnitMarkedForValidation(unit) != 0 && validator.isValidUnit(unit) == 0;
 }
@@ -60,6 +51,12 @@ bool succeeds(long code, UnitReport* report) {
   SCCTextOutProc::InternalTextOutProc(code, 0);
   if (report != nullptr) markFailed(code, *report);
   return false;
+}
+
+bool mustStay(const KeptCopy& kept, UnitReport& report) {
+  if (kept.objection().empty()) return false;
+  report.endsAs(UnitEnd::Refused, kept.objection());
+  return true;
 }
 
 void markFailed(long code, UnitReport& report) {

@@ -6,6 +6,7 @@
 
 #include "cm/core/CMArgument.h"
 #include "cm/core/CMUnitValidator.h"
+#include "cm/core/KeptCopy.h"
 #include "cm/core/UnitBatch.h"
 #include "cm/host/CMVDYHandler.h"
 #include "cm/host/IUnit.h"
@@ -37,9 +38,6 @@ pvContextStruct* contextFor(IUnit* unit, const char* traceLine);
 /// What the first argument makes of the keyword "log", whether or not it answers to it.
 std::string commentOf(const ArgumentList& arguments);
 
-/// What the first argument that answers to the keyword makes of it; empty when none does.
-std::string argumentValue(const ArgumentList& arguments, const char* keyword);
-
 /// True for a unit that was marked and is no longer the object that it was.
 bool isGone(const CMUnitValidator& validator, IUnit* unit);
 
@@ -48,6 +46,10 @@ bool isGone(const CMUnitValidator& validator, IUnit* unit);
 bool succeeds(long code, UnitReport* report);
 
 void markFailed(long code, UnitReport& report);
+
+/// True when the host could not keep a copy of what is about to be overwritten: then the file is
+/// left alone, and the report says why.
+bool mustStay(const KeptCopy& kept, UnitReport& report);
 
 /// How a unit is brought up to date with its file.
 enum class ReloadMode { Plain, FollowsName };

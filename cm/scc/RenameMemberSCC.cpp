@@ -29,7 +29,7 @@ int RenameMemberSCC::operator()(UnitList& units, ArgumentList& arguments,
 int RenameMemberSCC::operator()(IUnit* unit, const std::string& oldName, const std::string& newName,
                                 DiagnosticList& diagnostics, bool /*hybrid*/) {
   if (unit == nullptr || newName.empty()) {
-    diagnostics.emplace_back(CMDiagnostic::Failed, loadMessage(MessageId::NameMissing), unit);
+    diagnostics.emplace_back(CMDiagnostic::Failed, loadMessage(MessageId::NoNewName), unit);
     return 0;
   }
   const std::string from =

@@ -98,6 +98,8 @@ bool fetchBesideByProvider(IUnit* unit, const std::string& file, const std::stri
 
 bool fetchInPlace(IUnit* unit, const std::string& file, UnitReport& report) {
   const pvContextStruct* const context = contextFor(unit, ContextLine);
+  const KeptCopy kept(KeepRule::EveryFile, file, "Fetch from Archive");
+  if (mustStay(kept, report)) return false;
   if (context != nullptr) return getFile(file, context->getpvContextPtr(), report);
   report.endsAs(UnitEnd::NotRun);
   return false;

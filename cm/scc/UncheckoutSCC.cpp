@@ -68,6 +68,8 @@ bool UndoRun::undo(IUnit& unit, UnitReport& report) {
     report.endsAs(UnitEnd::ToolFailed, text);
     return false;
   }
+  const KeptCopy kept(KeepRule::EveryFile, file, "Undo Check Out");
+  if (mustStay(kept, report)) return true;
   FileNames files(file);
   const long code = callOnFiles(providerState().dll.SccUncheckout, CallLines::PrePostAndReturn,
                                 m_context.getpvContextPtr(), parentWindow(), files, scc::LONG{0},

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -102,6 +103,10 @@ class VELDRA_CM_EXPORT CMProperty {
 
   // --- single settings ---
   static int isHybridModePossible();
+  /// Whether a recursive check-out from the archive still has to save the model first: -1 only
+  /// asks, 0 says that it is saved, any other value that it has to be saved again. The result is
+  /// what holds now; at first a save is due.
+  static int saveOnCheckout(std::int16_t flag);
   static int closeProjectNeeded();
   static int CheckCustomButton();
   static int getShowCMStatus();

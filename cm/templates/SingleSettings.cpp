@@ -21,6 +21,12 @@ int CMProperty::isHybridModePossible() {
   return getProjectBool(IPN::General, "UseHybridModeWhenPossible", false) ? 1 : 0;
 }
 
+int CMProperty::saveOnCheckout(std::int16_t flag) {
+  bool& isDue = moduleState().saveOnCheckoutDue;
+  if (flag != -1) isDue = flag != 0;
+  return isDue ? 1 : 0;
+}
+
 int CMProperty::closeProjectNeeded() {
   return projectValue(IPN::SCC, "ProjName").empty() ? 1 : 0;
 }

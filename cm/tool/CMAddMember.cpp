@@ -53,12 +53,10 @@ int CMAddMember::operator()(UnitList& units, ArgumentList& arguments, Diagnostic
                            : UnitCommand::operator()(units, arguments, diagnostics, hybrid);
 }
 
-const char* CMAddMember::templateFor(IUnit& unit) const {
+CommandTemplate CMAddMember::templateFor(IUnit& unit, const UnitCallFrame& /*call*/) const {
   static constexpr char ControlledFile[] = "AddMember_ControlledFile";
-  std::string value;
-  const bool isOwn = unit.asEmbededFile() != nullptr &&
-                     CMProperty::getToolPropertyValue(ControlledFile, value) && !value.empty();
-  return isOwn ? ControlledFile : row().templateProperty;
+  const bool isOwn = unit.asEmbededFile() != nullptr && hasValue({.property = ControlledFile});
+  return {.property = isOwn ? ControlledFile : row().templateProperty};
 }
 
 bool CMAddMember::accepts(IUnit& unit) const {

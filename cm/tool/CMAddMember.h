@@ -18,7 +18,7 @@ class CMAddMember : public UnitCommand {
 
  protected:
   const OperationRow& row() const override;
-  const char* templateFor(IUnit& unit) const override;
+  CommandTemplate templateFor(IUnit& unit, const UnitCallFrame& call) const override;
   bool accepts(IUnit& unit) const override;
   void after(UnitRun& run) const override;
 };

@@ -17,6 +17,7 @@ const OperationRow& CMCheckOut::row() const {
       .tracksUnits = true,
       .asksOverwrite = true,
       .choosesArchive = true,
+      .keeps = KeepRule::WritableFiles,
       .handlerKind = CMVDYHandler::CheckOut};
   return row;
 }

@@ -5,7 +5,6 @@
 #include "cm/host/Host.h"
 #include "cm/host/IPN.h"
 #include "cm/host/MessageIds.h"
-#include "cm/tool/CMToolShellInterface.h"
 #include "cm/tool/Reloading.h"
 
 namespace veldra {
@@ -19,6 +18,7 @@ const OperationRow& CMCheckOutFromArchive::row() const {
       .save = SaveRule::IfSaveOnCheckOut,
       .tracksUnits = true,
       .asksOverwrite = true,
+      .keeps = KeepRule::WritableFiles,
       .handlerKind = CMVDYHandler::CheckOut};
   return row;
 }
@@ -42,9 +42,7 @@ std::string fileToLoad(const ItemRun& run) {
 
 void CMCheckOutFromArchive::after(ItemRun& run) const {
   if (run.item.getType().empty()) return;
-  if (run.handler != nullptr && !theCMToolShellInterface().lastCommandEnd().failed) {
-    run.handler->complete();
-  }
+  completeHandler(run);
   const std::string name = fileToLoad(run);
   VELDRA_TRACE("Performing ATM for the file ", name);
   if (loadItem(run.item, name) != nullptr) return;

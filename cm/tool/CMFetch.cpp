@@ -12,6 +12,7 @@ const OperationRow& CMFetch::row() const {
       .templateProperty = IPN::CMFetch,
       .traceBefore = "Executing the following command to fetch the file: ",
       .traceAfter = "Fetch command returned the following: ",
+      .keeps = KeepRule::EveryFile,
       .handlerKind = CMVDYHandler::Fetch};
   return row;
 }

@@ -9,7 +9,8 @@ const OperationRow& CMFetchFromArchive::row() const {
       .name = "Fetch from Archive",
       .templateProperty = IPN::CMFetchFromArchive,
       .traceBefore = "Executing the following command to fetch the file from the archive: ",
-      .traceAfter = "Fetch from the archive command returned the following: "};
+      .traceAfter = "Fetch from the archive command returned the following: ",
+      .keeps = KeepRule::EveryFile};
   return row;
 }
 

@@ -10,7 +10,8 @@ const OperationRow& CMRecFetchFromArchive::row() const {
       .templateProperty = IPN::CMFetchFromArchive,
       .traceBefore =
           "Executing the following command to recursively fetch the file(s) from the archive: ",
-      .traceAfter = "Recursive fetch from the archive command returned the following: "};
+      .traceAfter = "Recursive fetch from the archive command returned the following: ",
+      .keeps = KeepRule::EveryFile};
   return row;
 }
 

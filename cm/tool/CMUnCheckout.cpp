@@ -14,7 +14,8 @@ const OperationRow& CMUnCheckout::row() const {
       .templateProperty = IPN::CMUnLockItem,
       .traceBefore = "Executing the following command to uncheck out the file: ",
       .traceAfter = "Uncheck out command returned the following: ",
-      .tracksUnits = true};
+      .tracksUnits = true,
+      .keeps = KeepRule::EveryFile};
   return row;
 }
 
@@ -28,7 +29,8 @@ class UncheckoutItems : public ItemCommand {
         .name = "Undo Check Out",
         .templateProperty = IPN::CMUnLockItem,
         .traceBefore = "Executing the following command to uncheck out the file from the archive: ",
-        .traceAfter = "Uncheck out from the archive command returned the following: "};
+        .traceAfter = "Uncheck out from the archive command returned the following: ",
+        .keeps = KeepRule::EveryFile};
     return row;
   }
 };

@@ -10,7 +10,9 @@ const OperationRow& CMUnLockItem::row() const {
       .templateProperty = IPN::CMUnLockItem,
       .traceBefore = "Executing the following command to unlock the file: ",
       .traceAfter = "Unlock command returned the following: ",
-      .choosesArchive = true};
+      .choosesArchive = true,
+      // Some tools give the changes up with the lock.
+      .keeps = KeepRule::EveryFile};
   return row;
 }
 

@@ -5,26 +5,12 @@
 #include <utility>
 #include <vector>
 
-#include "cm/core/TextTools.h"
-#include "cm/host/IEnvironment.h"
-#include "cm/templates/CMProperty.h"
+#include "cm/tool/DirectoryCommand.h"
 #include "cm/tool/ToolFrame.h"
 
 namespace veldra {
 
 namespace {
-
-struct Replacement {
-  std::string_view keyword;
-  std::string_view value;
-};
-
-/// One of the three commands, whose keywords are replaced as plain text.
-struct DirectoryCommand {
-  const char* property;
-  const char* traceBefore;
-  const char* traceAfter;
-};
 
 constexpr DirectoryCommand CheckOutDirectory{
     "CheckOut", "Executing the following command to check out the directory: ",
@@ -35,24 +21,6 @@ constexpr DirectoryCommand CheckInDirectory{
 constexpr DirectoryCommand AddFile{"AddMember_WithoutCheckOutCheckInDirectory",
                                    "Executing the following command to add the file",
                                    "Add member command returned the following: "};
-
-int runDirectoryCommand(const DirectoryCommand& row, std::initializer_list<Replacement> values,
-                        CMOperation& operation, DiagnosticList& diagnostics) {
-  if (!hasCMTool(operation, diagnostics)) return 0;
-  std::string command;
-  std::string root;
-  if (!CMProperty::getToolPropertyValue(row.property, command) || command.empty() ||
-      omGetRoot(root) != 1) {
-    return 0;
-  }
-  for (const Replacement& value : values) {
-    command = replaceAll(command, value.keyword, value.value);
-  }
-  std::string output;
-  std::string errorText;
-  return runTraced(replaceAll(command, "$OMROOT", root), row.traceBefore, row.traceAfter, output,
-                   errorText);
-}
 
 /// Units that are saved in one directory, in the order of the list.
 using Group = std::pair<std::string, UnitList>;

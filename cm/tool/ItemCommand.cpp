@@ -45,6 +45,12 @@ bool mayOverwrite(const CMArchiveItem& item, const OverwriteQuestion& question) 
 
 }  // namespace
 
+void completeHandler(const ItemRun& run) {
+  if (run.handler != nullptr && !theCMToolShellInterface().lastCommandEnd().failed) {
+    run.handler->complete();
+  }
+}
+
 void ItemCommand::after(ItemRun& /*run*/) const {}
 
 int ItemCommand::operator()(CMArchiveItemList& items, ArgumentList& arguments,
@@ -84,6 +90,11 @@ int ItemCommand::runAll(CMArchiveItemList& items, ArgumentList& arguments,
 }
 
 void ItemCommand::runItem(ItemRun& run, ArgumentList& arguments, UnitProgress& progress) const {
+  const KeptCopy kept(row().keeps, localFile(run.item), row().name);
+  if (!kept.objection().empty()) {
+    progress.endsAs(UnitEnd::Refused, kept.objection());
+    return;
+  }
   CMUnit argument(&run.item);
   const PushedArgument pushed(arguments, argument);
   std::string command;

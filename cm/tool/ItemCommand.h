@@ -33,4 +33,8 @@ class ItemCommand : public CMArchiveOperation {
   void runItem(ItemRun& run, ArgumentList& arguments, UnitProgress& progress) const;
 };
 
+/// Tells the model-file handler, if there is one, that the command succeeded. A tool that failed
+/// may have left half a file behind; then the handler puts the old one back.
+void completeHandler(const ItemRun& run);
+
 }  // namespace veldra

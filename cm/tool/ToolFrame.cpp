@@ -2,8 +2,11 @@
 
 #include <optional>
 
+#include "cm/core/CMArchive.h"
+#include "cm/core/HybridRule.h"
 #include "cm/host/Host.h"
 #include "cm/host/MessageIds.h"
+#include "cm/templates/CMProperty.h"
 #include "cm/tool/CMToolShellInterface.h"
 #include "cm/tool/CommandText.h"
 
@@ -20,6 +23,17 @@ void UnitProgress::endsByCommand(int expanded, int executed) {
   }
 }
 
+CommandTemplate templateForDirectory(IUnit& unit, const CommandTemplate& forDirectory,
+                                     const CommandTemplate& forFile) {
+  return isPackageWithDirectory(&unit) && hasValue(forDirectory) ? forDirectory : forFile;
+}
+
+bool hasValue(const CommandTemplate& command) {
+  std::string value;
+  return CMProperty::getToolPropertyValue(command.property, value, command.providerMetaclass) &&
+         !value.empty();
+}
+
 bool hasCMTool(CMOperation& operation, DiagnosticList& diagnostics, bool hybrid) {
   std::string message;
   if (operation.isCMTool(message, nullptr, hybrid) != 0) return true;
@@ -28,12 +42,22 @@ bool hasCMTool(CMOperation& operation, DiagnosticList& diagnostics, bool hybrid)
 }
 
 bool refuseUnsafeName(const IUnit& unit, DiagnosticList& diagnostics) {
-  const std::string file = unit.getFullFileName();
-  const std::optional<std::string> reason = unsafeInCommand(file);
+  return refuseUnsafeName(&unit, unit.getFullFileName(), diagnostics);
+}
+
+bool refuseUnsafeName(const IUnit* unit, const std::string& name, DiagnosticList& diagnostics) {
+  const std::optional<std::string> reason = unsafeInCommand(name);
   if (!reason) return false;
   diagnostics.emplace_back(CMDiagnostic::Failed,
-                           formatMessage(MessageId::UnsafeFileName, {file, *reason}), &unit);
+                           formatMessage(MessageId::UnsafeFileName, {name, *reason}), unit);
   return true;
+}
+
+void chooseArchiveOf(const IUnit* unit) {
+  if (CMArchive::getArchiveSelection() == CMArchive::ArchiveUnset) return;
+  std::string archive;
+  CMProperty::getBatchArchiveRecursive(unit, archive);
+  CMArchive::setMainArchive(archive);
 }
 
 int runTraced(const std::string& command, const char* traceBefore, const char* traceAfter,

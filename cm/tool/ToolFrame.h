@@ -4,6 +4,7 @@
 
 #include "cm/core/CMDiagnostic.h"
 #include "cm/core/CMOperation.h"
+#include "cm/core/KeptCopy.h"
 #include "cm/core/UnitBatch.h"
 #include "cm/host/CMVDYHandler.h"
 
@@ -18,8 +19,16 @@ struct OperationRow {
   SaveRule save = SaveRule::Never;
   bool tracksUnits = false;  ///< Brackets the batch with the reload callbacks and validates units.
   bool asksOverwrite = false;
-  bool choosesArchive = false;  ///< Makes the unit's archive the main one.
-  int handlerKind = 0;          ///< Of `CMVDYHandler::Kind`; 0 without a handler.
+  bool choosesArchive = false;         ///< Makes the unit's archive the main one.
+  KeepRule keeps = KeepRule::Nothing;  ///< What it may overwrite.
+  int handlerKind = 0;                 ///< Of `CMVDYHandler::Kind`; 0 without a handler.
+  bool isHybrid = false;               ///< Serves projects that select the provider, too.
+};
+
+/// The template of a command, and where it is looked up when a provider is selected.
+struct CommandTemplate {
+  const char* property;
+  bool providerMetaclass = false;
 };
 
 /// Reports one unit's or item's way through an operation that runs commands.
@@ -30,12 +39,24 @@ class UnitProgress : public UnitReport {
   void endsByCommand(int expanded, int executed);
 };
 
+/// Whether the tool has the template, and it is not empty.
+bool hasValue(const CommandTemplate& command);
+/// `forDirectory` for a package that has a directory of its own, when that template has a value;
+/// otherwise `forFile`.
+CommandTemplate templateForDirectory(IUnit& unit, const CommandTemplate& forDirectory,
+                                     const CommandTemplate& forFile);
+
 /// Asks whether a CM tool is configured. When it is not, one diagnostic says why and the answer is
 /// false.
 bool hasCMTool(CMOperation& operation, DiagnosticList& diagnostics, bool hybrid = false);
 
 /// Refuses a unit whose file name no command can carry: true, and a diagnostic that says why.
 bool refuseUnsafeName(const IUnit& unit, DiagnosticList& diagnostics);
+/// The same for another name that its command carries; without a unit the diagnostic has none.
+bool refuseUnsafeName(const IUnit* unit, const std::string& name, DiagnosticList& diagnostics);
+
+/// Makes the unit's archive the main one, unless the user chooses the archive.
+void chooseArchiveOf(const IUnit* unit);
 
 /// Runs an expanded command between its two trace lines; the result of `Execute`.
 int runTraced(const std::string& command, const char* traceBefore, const char* traceAfter,

@@ -11,15 +11,13 @@
 
 namespace veldra {
 
-void chooseArchiveOf(const IUnit* unit) {
-  if (CMArchive::getArchiveSelection() == CMArchive::ArchiveUnset) return;
-  std::string archive;
-  CMProperty::getBatchArchiveRecursive(unit, archive);
-  CMArchive::setMainArchive(archive);
+CommandTemplate UnitCommand::templateFor(IUnit& /*unit*/, const UnitCallFrame& /*call*/) const {
+  return {.property = row().templateProperty};
 }
 
-const char* UnitCommand::templateFor(IUnit& /*unit*/) const {
-  return row().templateProperty;
+std::optional<CMNameChange> UnitCommand::nameChange(const IUnit& /*unit*/,
+                                                    const UnitCallFrame& /*call*/) const {
+  return std::nullopt;
 }
 
 bool UnitCommand::accepts(IUnit& /*unit*/) const {
@@ -32,35 +30,73 @@ std::unique_ptr<CCMFileCompare> UnitCommand::snapshot(IUnit& /*unit*/) const {
 
 void UnitCommand::after(UnitRun& /*run*/) const {}
 
-std::unordered_set<const IUnit*> UnitCommand::refused(const UnitList& units,
-                                                      DiagnosticList& diagnostics) const {
-  std::unordered_set<const IUnit*> result;
+UnitCommand::Verdicts UnitCommand::refuse(const UnitList& units, const UnitCallFrame& call,
+                                          DiagnosticList& diagnostics) const {
+  Verdicts verdicts;
   for (const IUnit* unit : units) {
-    if (unit == nullptr || result.contains(unit)) continue;
-    if (refuseUnsafeName(*unit, diagnostics)) result.insert(unit);
+    if (unit == nullptr || verdicts.contains(unit)) continue;
+    std::optional<CMNameChange> change = nameChange(*unit, call);
+    if (refuseUnsafeName(*unit, diagnostics) ||
+        (change && refuseUnsafeName(unit, change->substitute("newName"), diagnostics))) {
+      verdicts.emplace(unit, UnitEnd::Refused);
+    }
   }
-  return result;
+  return verdicts;
 }
 
 int UnitCommand::operator()(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics,
-                            bool /*hybrid*/) {
-  if (!hasCMTool(*this, diagnostics)) return 0;
+                            bool hybrid) {
+  if (!hasCMTool(*this, diagnostics, row().isHybrid && hybrid)) return 0;
   saveModel(row().save, units.empty());
   CMArchive archive{std::string()};
   const PushedArgument pushed(arguments, archive);
   const ReloadBracket bracket(row().tracksUnits && !units.empty());
-  return runAll(units, arguments, diagnostics);
+  UnitBatches batches(row(), arguments);
+  return runAll(units, {arguments, hybrid, batches}, diagnostics);
 }
 
-int UnitCommand::runAll(UnitList& units, ArgumentList& arguments,
+void UnitCommand::runBatches(const UnitList& units, const UnitCallFrame& call,
+                             const OverwriteQuestion& asks, Verdicts& verdicts) const {
+  for (IUnit* unit : units) {
+    if (unit == nullptr || verdicts.contains(unit)) continue;
+    if (nameChange(*unit, call)) return;  // Names cannot be told by a list of units.
+    const CommandTemplate single = templateFor(*unit, call);
+    if (!call.batches.offers(single)) continue;
+    const UnitEnd verdict = !asks.allows(*unit) ? UnitEnd::Declined
+                            : !accepts(*unit)   ? UnitEnd::Refused
+                                                : UnitEnd::Done;
+    verdicts.emplace(unit, verdict);
+    if (verdict == UnitEnd::Done) call.batches.add(*unit, single);
+  }
+  if (!UnitProgress::isCancelled()) {
+    call.batches.run([this](IUnit& unit) { return prepare(unit); });
+  }
+}
+
+UnitPreparation UnitCommand::prepare(IUnit& unit) const {
+  UnitPreparation preparation;
+  preparation.kept = std::make_unique<KeptCopy>(row().keeps, unit.getFullFileName(), row().name);
+  if (preparation.mustNotRun()) return preparation;
+  if (row().handlerKind != 0 && installedHost() != nullptr) {
+    preparation.handler = installedHost()->createModelFileHandler(unit.getFullFileName());
+  }
+  if (preparation.handler != nullptr) {
+    preparation.handler->prepare(static_cast<CMVDYHandler::Kind>(row().handlerKind));
+  }
+  preparation.compare = snapshot(unit);
+  return preparation;
+}
+
+int UnitCommand::runAll(UnitList& units, const UnitCallFrame& call,
                         DiagnosticList& diagnostics) const {
   CMUnitValidator validator;
   if (row().tracksUnits) {
     CMFacade::removeDuplicatesFromItemList(units);
     validator.init(units);
   }
-  const std::unordered_set<const IUnit*> refusedUnits = refused(units, diagnostics);
-  const OverwriteQuestion question(row().asksOverwrite);
+  Verdicts verdicts = refuse(units, call, diagnostics);
+  const OverwriteQuestion asks(row().asksOverwrite);
+  runBatches(units, call, asks, verdicts);
   const std::size_t count = units.size();
   std::size_t position = 0;
   int status = 0;
@@ -71,12 +107,13 @@ int UnitCommand::runAll(UnitList& units, ArgumentList& arguments,
         validator.isUnitMarkedForValidation(run.unit) != 0 && validator.isValidUnit(run.unit) == 0;
     if (run.unit != nullptr && !isGone) {
       UnitProgress progress(row().name, position, count, run.unit->getFullFileName());
-      if (refusedUnits.contains(run.unit)) {
-        progress.endsAs(UnitEnd::Refused);
-      } else if (!question.allows(*run.unit)) {
+      const auto verdict = verdicts.find(run.unit);
+      if (verdict != verdicts.end() && verdict->second != UnitEnd::Done) {
+        progress.endsAs(verdict->second);
+      } else if (verdict == verdicts.end() && !asks.allows(*run.unit)) {
         progress.endsAs(UnitEnd::Declined);
       } else {
-        runUnit(run, arguments, progress);
+        runUnit(run, call, progress);
       }
     }
     status = run.status;
@@ -90,41 +127,48 @@ int UnitCommand::runAll(UnitList& units, ArgumentList& arguments,
   return status;
 }
 
-void UnitCommand::runUnit(UnitRun& run, ArgumentList& arguments, UnitProgress& progress) const {
+void UnitCommand::runUnit(UnitRun& run, const UnitCallFrame& call, UnitProgress& progress) const {
   if (row().choosesArchive) chooseArchiveOf(run.unit);
-  if (!accepts(*run.unit)) {
+  std::optional<UnitPreparation> preparation = call.batches.takeDone(*run.unit);
+  const bool isDone = preparation.has_value();
+  if (!isDone && !accepts(*run.unit)) {
     progress.endsAs(UnitEnd::Refused);
     return;
   }
-  CMUnit argument(run.unit);
-  const PushedArgument pushed(arguments, argument);
-
-  std::string command;
-  std::string extra;
-  run.status = CMProperty::ExpandProperty(templateFor(*run.unit), arguments, command, extra);
-  const int expanded = run.status;
-
-  std::unique_ptr<CMVDYHandler> handler;
-  if (row().handlerKind != 0 && installedHost() != nullptr) {
-    handler = installedHost()->createModelFileHandler(run.unit->getFullFileName());
+  if (!isDone) preparation = prepare(*run.unit);
+  if (preparation->mustNotRun()) {
+    progress.endsAs(UnitEnd::Refused, preparation->kept->objection());
+    return;
   }
-  if (handler != nullptr) handler->prepare(static_cast<CMVDYHandler::Kind>(row().handlerKind));
-  const std::unique_ptr<CCMFileCompare> compare = snapshot(*run.unit);
-  run.handler = handler.get();
-  run.compare = compare.get();
-
-  if (run.status == 1) {
-    std::string output;
-    run.status = runTraced(command, row().traceBefore, row().traceAfter, output, run.errorText);
-  }
-  progress.endsByCommand(expanded, run.status);
+  run.handler = preparation->handler.get();
+  run.compare = preparation->compare.get();
+  run.status = isDone ? 1 : runCommand(run, call, progress);
   if (run.status != 1) return;
   // A tool that failed may have left half a file behind; then the handler puts the old one back.
-  if (handler != nullptr && !theCMToolShellInterface().lastCommandEnd().failed) {
-    handler->complete();
-  }
+  const bool isWell = isDone || !theCMToolShellInterface().lastCommandEnd().failed;
+  if (run.handler != nullptr && isWell) run.handler->complete();
   after(run);
   if (run.reloadFailed) progress.endsAs(UnitEnd::NotReloaded, run.errorText);
+}
+
+int UnitCommand::runCommand(UnitRun& run, const UnitCallFrame& call, UnitProgress& progress) const {
+  CMUnit argument(run.unit);
+  const PushedArgument pushed(call.arguments, argument);
+  std::optional<CMNameChange> change = nameChange(*run.unit, call);
+  std::optional<PushedArgument> pushedChange;
+  if (change) pushedChange.emplace(call.arguments, *change);
+  const CommandTemplate single = templateFor(*run.unit, call);
+  std::string command;
+  std::string extra;
+  const int expanded = CMProperty::ExpandProperty(single.property, call.arguments, command, extra,
+                                                  single.providerMetaclass);
+  int status = expanded;
+  if (expanded == 1) {
+    std::string output;
+    status = runTraced(command, row().traceBefore, row().traceAfter, output, run.errorText);
+  }
+  progress.endsByCommand(expanded, status);
+  return status;
 }
 
 }  // namespace veldra

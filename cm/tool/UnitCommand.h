@@ -1,17 +1,26 @@
 #pragma once
 
-#include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
-#include <unordered_set>
+#include <unordered_map>
 
+#include "cm/core/CMArguments.h"
 #include "cm/core/CMOperation.h"
 #include "cm/core/CMUnitValidator.h"
 #include "cm/core/UnitReload.h"
 #include "cm/host/Reload.h"
 #include "cm/tool/ToolFrame.h"
+#include "cm/tool/UnitBatches.h"
 
 namespace veldra {
+
+/// What all units of one call have in common.
+struct UnitCallFrame {
+  ArgumentList& arguments;
+  bool hybrid;
+  UnitBatches& batches;
+};
 
 /// One unit on its way through an operation.
 struct UnitRun {
@@ -30,7 +39,8 @@ struct UnitRun {
 ///
 /// The result is that of the last unit; what became of each is in the output window and reported as
 /// progress. Units whose file name no command can carry are refused with a diagnostic before the
-/// first command runs.
+/// first command runs. Where the tool has a batch template, one command does many units; see
+/// `UnitBatches`.
 class UnitCommand : public CMWorkspaceOperation {
  public:
   int operator()(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics,
@@ -39,7 +49,10 @@ class UnitCommand : public CMWorkspaceOperation {
  protected:
   virtual const OperationRow& row() const = 0;
   /// The template for one unit; that of the row unless an operation has several.
-  virtual const char* templateFor(IUnit& unit) const;
+  virtual CommandTemplate templateFor(IUnit& unit, const UnitCallFrame& call) const;
+  /// For operations that change names: what becomes of the unit's file.
+  virtual std::optional<CMNameChange> nameChange(const IUnit& unit,
+                                                 const UnitCallFrame& call) const;
   /// False for a unit that cannot take part; the operation has then told the user why.
   virtual bool accepts(IUnit& unit) const;
   /// Before the command; makes the comparison for operations that reload by it.
@@ -48,14 +61,18 @@ class UnitCommand : public CMWorkspaceOperation {
   virtual void after(UnitRun& run) const;
 
  private:
-  void runUnit(UnitRun& run, ArgumentList& arguments, UnitProgress& progress) const;
-  /// Refuses what cannot be carried; one diagnostic per unit.
-  std::unordered_set<const IUnit*> refused(const UnitList& units,
-                                           DiagnosticList& diagnostics) const;
-  int runAll(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics) const;
-};
+  /// Who may not take part, and who was asked about already and may.
+  using Verdicts = std::unordered_map<const IUnit*, UnitEnd>;
 
-/// Makes the unit's archive the main one, unless the user chooses the archive.
-void chooseArchiveOf(const IUnit* unit);
+  /// Refuses what no command can carry; one diagnostic per unit.
+  Verdicts refuse(const UnitList& units, const UnitCallFrame& call,
+                  DiagnosticList& diagnostics) const;
+  void runBatches(const UnitList& units, const UnitCallFrame& call, const OverwriteQuestion& asks,
+                  Verdicts& verdicts) const;
+  UnitPreparation prepare(IUnit& unit) const;
+  int runAll(UnitList& units, const UnitCallFrame& call, DiagnosticList& diagnostics) const;
+  void runUnit(UnitRun& run, const UnitCallFrame& call, UnitProgress& progress) const;
+  int runCommand(UnitRun& run, const UnitCallFrame& call, UnitProgress& progress) const;
+};
 
 }  // namespace veldra

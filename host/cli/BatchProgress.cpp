@@ -5,11 +5,12 @@
 #include "host/cli/Interrupt.h"
 #include "host/cli/printing/BytesAsText.h"
 #include "host/model/PathNames.h"
+#include "host/platform/Secrets.h"
 
 namespace veldra::host::cli {
 
 void BatchProgress::noteCommand(const std::string& command) {
-  (m_isInUnit ? m_current.commands : m_otherCommands).push_back(command);
+  (m_isInUnit ? m_current.commands : m_otherCommands).push_back(withoutSecrets(command));
 }
 
 void BatchProgress::unitStarted(const ProgressStep& step) {
@@ -28,7 +29,11 @@ void BatchProgress::unitEnded(const ProgressStep& step, UnitEnd end, const std::
   // Units that go to a provider together have all begun before the first one ends.
   m_current.file = step.unit;
   m_current.end = end;
-  m_current.words = words;
+  m_current.words = withoutSecrets(words);
+  // One command has done several units before their turns.
+  if (m_current.commands.empty() && end == UnitEnd::Done && !m_otherCommands.empty()) {
+    m_current.commands.push_back(m_otherCommands.back());
+  }
   m_current.output = m_window.take();
   m_traces.push_back(std::exchange(m_current, {}));
   if (m_listener) m_listener(m_traces.back());

@@ -5,12 +5,14 @@
 
 namespace veldra::host::cli {
 
-int PlannedLogFile::isNamed(const std::string& keyword) const {
-  return lowerCase(keyword) == "logfile" ? 1 : 0;
+int PlannedFiles::isNamed(const std::string& keyword) const {
+  const std::string name = lowerCase(keyword);
+  return name == "logfile" || name == "unitlist" ? 1 : 0;
 }
 
-std::string PlannedLogFile::substitute(const std::string& keyword) {
-  return isNamed(keyword) != 0 ? PlannedCommentFile : keyword;
+std::string PlannedFiles::substitute(const std::string& keyword) {
+  if (isNamed(keyword) == 0) return keyword;
+  return lowerCase(keyword) == "logfile" ? PlannedCommentFile : PlannedUnitList;
 }
 
 int ProviderComment::isNamed(const std::string& keyword) const {
@@ -28,7 +30,7 @@ CallArguments callArguments(const CallValues& values) {
   arguments.add<CMMode>(values.mode);
   arguments.add<CMLabel>(values.label);
   if (values.isPlan) {
-    arguments.add<PlannedLogFile>();
+    arguments.add<PlannedFiles>();
   } else {
     arguments.add<CMLogFile>(values.comment);
   }

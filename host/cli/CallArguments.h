@@ -28,8 +28,11 @@ class CallArguments {
   ArgumentList m_list;
 };
 
-/// "logFile" of a dry run.
-class PlannedLogFile : public CMUserBasedArgument {
+/// The same for the list of units that a batch command gets.
+inline constexpr char PlannedUnitList[] = "\x01units\x01";
+
+/// "logFile" and "unitList" of a dry run.
+class PlannedFiles : public CMUserBasedArgument {
  public:
   int isNamed(const std::string& keyword) const override;
   std::string substitute(const std::string& keyword) override;

@@ -42,9 +42,14 @@ ExitCode runLock(const Invocation& invocation);
 ExitCode runUnlock(const Invocation& invocation);
 ExitCode runFetch(const Invocation& invocation);
 ExitCode runHistory(const Invocation& invocation);
+ExitCode runDelete(const Invocation& invocation);
+ExitCode runMove(const Invocation& invocation);
+ExitCode runRename(const Invocation& invocation);
 ExitCode runProperty(const Invocation& invocation);
 ExitCode runExpand(const Invocation& invocation);
 ExitCode runPack(const Invocation& invocation);
 ExitCode runProvider(const Invocation& invocation);
+ExitCode runKept(const Invocation& invocation);
+ExitCode runTrust(const Invocation& invocation);
 
 }  // namespace veldra::host::cli

@@ -5,12 +5,21 @@
 #include <string_view>
 
 #include "host/cli/Options.h"
+#include "host/cli/Session.h"
 
 namespace veldra::host::cli {
 
 /// The comment that the options name, byte for byte; empty without one. Ends the command when there
 /// are two or the file cannot be read.
 std::string readComment(const Options& options, std::istream& standardInput);
+
+/// Without a comment, takes that of the last command that failed when the user wants it: by
+/// --last-comment, or by the answer to a question where one can be asked.
+void offerLastComment(Session& session, std::string& comment);
+
+/// Keeps the comment of a command that did not do all of its work, for the next try; forgets it
+/// after one that did.
+void keepComment(Session& session, const std::string& comment, ExitCode end);
 
 /// Ends the command when the comment holds one of the characters that the tool cannot take.
 void refuseForbidden(std::string_view comment, std::string_view forbiddenCharacters);

@@ -13,6 +13,7 @@
 #include "host/cli/ProviderConnection.h"
 #include "host/cli/UnitOutcome.h"
 #include "host/model/PathNames.h"
+#include "host/platform/Secrets.h"
 
 namespace veldra::host::cli {
 
@@ -47,8 +48,9 @@ std::optional<std::string> createArchive(const std::string& place) {
   std::string errorText;
   const int executed = theCMToolShellInterface().Execute(command, output, errorText, "");
   if (executed != 0 && !theCMToolShellInterface().lastCommandEnd().failed) return std::nullopt;
-  return "The archive " + place + " cannot be made.\n" +
-         toolWords(theCMToolShellInterface().lastCommandEnd().words) + "\ncommand: " + command;
+  const std::string& words = theCMToolShellInterface().lastCommandEnd().words;
+  return "The archive " + place + " cannot be made.\n" + toolWords(words) +
+         "\ncommand: " + withoutSecrets(command) + adviceLine(words);
 }
 
 std::optional<std::string> connectToArchive(Session& session,

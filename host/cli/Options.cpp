@@ -14,11 +14,17 @@ std::span<const OptionRow> optionTable() {
 
       {Units, "units", "UNIT", "Files, or names such as Package::Unit", &Options::units},
       {Units, "--all", "", "Every unit that the command can apply to", &Options::all},
+      {Recursive, "-r,--recursive", "", "Take what is in packages, too", &Options::recursive},
+      {NamedUnits, "units", "UNIT", "Files, or names such as Package::Unit", &Options::units, true},
+      {NewName, "unit", "UNIT", "A file, or a name such as Package::Unit", &Options::unit, true},
+      {NewName, "name", "NEWNAME", "Its new name", &Options::name, true},
       {Comment, "-m,--message", "TEXT", "The comment", &Options::message},
       {Comment, "-F,--file", "FILE", "A file that holds the comment; - is the standard input",
        &Options::messageFile},
+      {Comment, "--last-comment", "", "Take the comment of the last command that failed",
+       &Options::lastComment},
       {Label, "-l,--label", "LABEL", "A revision or label of the tool", &Options::label},
-      {Overwrite, "--force", "", "Overwrite writable files without asking", &Options::force},
+      {Overwrite | Kept, "--force", "", "Overwrite without asking", &Options::force},
       {Update, "-u,--update", "", "Ask the archive for versions and for who holds what",
        &Options::update},
 
@@ -43,14 +49,21 @@ std::span<const OptionRow> optionTable() {
       {Property, "value", "VALUE", "The new value", &Options::value},
       {Property, "--user", "", "Store it for the user instead of the project", &Options::forUser},
 
-      {Pack, "action", "list|show", "What to do", &Options::action, true},
-      {Pack, "name", "NAME", "The pack", &Options::key},
-
       {Provider, "action", "list|install|use", "What to do", &Options::action, true},
       {Provider, "provider", "NAME",
        "The provider; for install its library, otherwise the one that comes with this program",
        &Options::key},
       {Provider, "--machine", "", "Install it for every user of the machine", &Options::forMachine},
+
+      {Pack, "action", "list|show|check", "What to do", &Options::action, true},
+      {Pack, "name", "NAME", "The pack; for check also a file that ends with .toml", &Options::key},
+
+      {Kept, "action", "list|show|restore", "What to do", &Options::action, true},
+      {Kept, "copy", "COPY", "The copy by its name, or a file, whose newest copy is meant",
+       &Options::key},
+
+      {Trust, "--list", "", "Show the commands and do nothing", &Options::list},
+      {Trust, "--yes", "", "Trust them without a question", &Options::yes},
   };
   return rows;
 }

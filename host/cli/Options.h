@@ -17,8 +17,10 @@ struct Options {
 
   std::vector<std::string> units;
   bool all = false;
+  bool recursive = false;
   std::optional<std::string> message;
   std::optional<std::string> messageFile;
+  bool lastComment = false;
   std::string label;
   bool force = false;
   bool update = false;
@@ -39,6 +41,9 @@ struct Options {
   std::optional<std::string> value;
   bool forUser = false;
   bool forMachine = false;
+
+  bool list = false;
+  bool yes = false;
 };
 
 /// Sets of options; a command takes one or several of them.
@@ -55,6 +60,11 @@ inline constexpr unsigned Expansion = 0x100;
 inline constexpr unsigned Property = 0x200;
 inline constexpr unsigned Pack = 0x400;
 inline constexpr unsigned Provider = 0x2000;
+inline constexpr unsigned Trust = 0x800;
+inline constexpr unsigned Kept = 0x1000;
+inline constexpr unsigned Recursive = 0x10000;
+inline constexpr unsigned NamedUnits = 0x20000;  ///< Units that have to be named one by one.
+inline constexpr unsigned NewName = 0x40000;
 }  // namespace OptionSet
 
 /// One option or positional argument.

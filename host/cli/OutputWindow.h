@@ -1,16 +1,18 @@
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <ostream>
 #include <streambuf>
 #include <string>
+#include <string_view>
 #include <utility>
+
+#include "host/platform/Secrets.h"
 
 namespace veldra::host::cli {
 
 /// The CM output window of a run: what is written goes on to another stream, is kept to be taken,
-/// as far as there is room, or both.
+/// as far as there is room, or both. Passwords are masked in what arrives in one piece.
 class OutputWindow : private std::streambuf, public std::ostream {
  public:
   /// `shown` may be null; `room` is how many bytes are kept between two calls of `take`.
@@ -22,10 +24,17 @@ class OutputWindow : private std::streambuf, public std::ostream {
 
  private:
   std::streamsize xsputn(const char* text, std::streamsize size) override {
-    const std::size_t count = std::min(static_cast<std::size_t>(size), m_room - m_kept.size());
-    m_kept.append(text, count);
-    if (m_shown != nullptr) m_shown->write(text, size);
+    const std::string_view bytes(text, static_cast<std::size_t>(size));
+    if (holdsSecret(bytes)) {
+      put(withoutSecrets(bytes));
+    } else {
+      put(bytes);
+    }
     return size;
+  }
+  void put(std::string_view bytes) {
+    m_kept.append(bytes.substr(0, m_room - m_kept.size()));
+    if (m_shown != nullptr) *m_shown << bytes;
   }
   std::streambuf::int_type overflow(std::streambuf::int_type c) override {
     if (std::streambuf::traits_type::eq_int_type(c, std::streambuf::traits_type::eof()))

@@ -82,6 +82,7 @@ HostOptions Session::hostOptions() {
   options.door = &m_door;
   options.progress = &m_progress;
   options.processes = &m_watch;
+  options.onlyPlans = m_options.dryRun;
   return options;
 }
 
@@ -99,12 +100,21 @@ bool Session::openProjectIfAny() {
   return true;
 }
 
-Project& Session::openProject() {
+Project& Session::openToLook() {
   if (openProjectIfAny()) return project();
   throw CommandError(
       ExitCode::NothingDone,
       "There is no project in this folder or above it. Name one with -p, or make one "
       "with \"veldra-cm init\".");
+}
+
+Project& Session::openProject() {
+  Project& opened = openToLook();
+  // Before the first command, so that a batch of many units does not fail unit by unit.
+  if (!m_options.dryRun && !m_host.trust().isTrusted()) {
+    throw CommandError(ExitCode::NothingDone, m_host.trustAdvice());
+  }
+  return opened;
 }
 
 Project& Session::openProject(const std::string& directoryOrFile) {

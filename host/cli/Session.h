@@ -29,9 +29,12 @@ class Session {
   Session& operator=(const Session&) = delete;
   ~Session();
 
-  /// Opens the project that the options name, else that of the current folder or the nearest above.
-  /// Ends the command when there is none or it cannot be opened.
+  /// Opens the project that the options name, else that of the current folder or the nearest above,
+  /// for a command that runs the tool. Ends the command when there is none, when it cannot be
+  /// opened, and when it brings commands that the user has not trusted.
   Project& openProject();
+  /// The same for a command that runs nothing.
+  Project& openToLook();
   /// The same for a folder or file.
   Project& openProject(const std::string& directoryOrFile);
   /// Opens the project when there is one. False without; one that is named must exist.

@@ -1,5 +1,6 @@
 #include "host/cli/UnitOperation.h"
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -17,6 +18,7 @@
 #include "host/cli/printing/BytesAsText.h"
 #include "host/cli/printing/Listing.h"
 #include "host/cli/printing/Report.h"
+#include "host/model/Reloading.h"
 
 namespace veldra::host::cli {
 
@@ -51,17 +53,19 @@ std::string resultText(const UnitTrace& trace) {
 class UnitBatch {
  public:
   UnitBatch(Session& session, const UnitOperation& operation, std::string comment)
-      : m_session(session), m_operation(operation), m_comment(std::move(comment)) {}
+      : m_session(session),
+        m_operation(operation),
+        m_comment(std::move(comment)),
+        m_rearranging(operation.plan, session.options().dryRun) {}
 
   void select() {
     const Options& options = m_session.options();
-    m_selection =
-        options.all ? selectAll(m_operation.all) : selectByName(m_session.project(), options.units);
-    if (options.all && !options.dryRun) filterByArchive();
-    for (IUnit* unit : m_selection.units) {
-      m_indexOf.emplace(unit->getFullFileName(), m_records.size());
-      m_records.push_back({.path = projectPath(*unit)});
-    }
+    m_selection = options.all ? selectAll(m_operation.all)
+                              : selectByName(m_session.project(), options.units, options.recursive);
+    if (options.recursive) addContents();
+    if (options.all && !options.dryRun) filterByArchive(m_selection.units);
+    for (IUnit* unit : m_selection.units) addRecord(*unit);
+    if (m_operation.plan) std::erase_if(m_selection.units, [this](IUnit* u) { return !admit(*u); });
   }
 
   bool isEmpty() const { return m_records.empty() && m_selection.unknown.empty(); }
@@ -77,17 +81,23 @@ class UnitBatch {
                        .isPlan = options.dryRun});
     const CMAskOnCheckoutGuard guard;
     UnitList units = m_selection.units;
-    if (!units.empty()) m_operation.run(units, arguments.list(), m_diagnostics);
+    if (units.empty()) return;
+    const bool isRecursive = options.recursive && m_operation.runRecursive;
+    const UnitOperation::Run& run = isRecursive ? m_operation.runRecursive : m_operation.run;
+    run(units, arguments.list(), m_diagnostics);
+    if (isRecursive && m_operation.recursiveReloads && !options.dryRun) reload();
   }
 
   Report report(const std::string& command) {
     Report report{.command = command};
-    report.message = generalMessage(m_diagnostics, m_session.progress().traces());
+    const std::vector<UnitTrace> traces = m_session.progress().traces();
+    report.message = generalMessage(m_diagnostics, traces);
     const std::string& reason =
         report.message.empty() ? m_session.door().lastText() : report.message;
-    applyTraces();
+    for (const UnitTrace& trace : traces) apply(trace);
     for (const auto& [file, index] : m_indexOf) {
       if (m_reached.contains(index)) continue;
+      (void)m_rearranging.takeBack(file);
       applyAbsence(m_session.progress().isCancelled(), reason, m_records[index]);
     }
     describe();
@@ -97,13 +107,64 @@ class UnitBatch {
   }
 
  private:
+  void addRecord(IUnit& unit) {
+    m_indexOf.emplace(unit.getFullFileName(), m_records.size());
+    m_records.push_back({.path = projectPath(unit)});
+  }
+
+  /// Packages get their content behind them, unless the tool does it with the package at once.
+  void addContents() {
+    UnitList whole;
+    if (m_operation.wholePackage != nullptr) {
+      std::erase_if(m_selection.units, [&](IUnit* unit) {
+        const bool isWhole = m_operation.wholePackage(*UnitCore::of(unit));
+        if (isWhole) whole.push_back(unit);
+        return isWhole;
+      });
+    }
+    const std::unordered_set<const IUnit*> added = addContent(m_operation.all, m_selection.units);
+    if (!m_session.options().dryRun && !m_operation.plan) {
+      UnitList kept(m_selection.units);
+      std::erase_if(kept, [&](IUnit* unit) { return !added.contains(unit); });
+      const std::unordered_set<IUnit*> asked(kept.begin(), kept.end());
+      filterByArchive(kept);
+      const std::unordered_set<IUnit*> left(kept.begin(), kept.end());
+      std::erase_if(m_selection.units,
+                    [&](IUnit* unit) { return asked.contains(unit) && !left.contains(unit); });
+    }
+    // What a package owns goes before the package itself.
+    if (m_operation.plan) std::ranges::reverse(m_selection.units);
+    m_selection.units.insert(m_selection.units.end(), whole.begin(), whole.end());
+  }
+
   /// An archive that cannot be listed decides nothing; the tool itself will tell.
-  void filterByArchive() {
+  void filterByArchive(UnitList& units) {
+    if (units.empty()) return;
     const ArchiveContent content = listArchive(m_session);
     if (!content.failure.empty()) return;
     std::unordered_set<std::string> archived;
     for (const UnitRecord& file : content.files) archived.insert(file.path);
-    keepByArchive(m_operation.archived, archived, m_selection.units);
+    keepByArchive(m_operation.archived, archived, units);
+  }
+
+  bool admit(IUnit& unit) {
+    const std::optional<std::string> reason = m_rearranging.admit(*UnitCore::of(&unit));
+    if (!reason) return true;
+    const std::size_t index = m_indexOf.at(unit.getFullFileName());
+    m_records[index].result = UnitResult::Refused;
+    m_records[index].message = *reason;
+    m_reached.insert(index);
+    return false;
+  }
+
+  /// Recursive operations leave the model as it was.
+  void reload() {
+    for (const UnitTrace& trace : m_session.progress().traces()) {
+      UnitCore* const unit = m_session.project().unitByFile(trace.file);
+      if (unit == nullptr || trace.end != UnitEnd::Done || reloadUnit(*unit) != nullptr) continue;
+      unit->updateHeader();
+      unit->updateMode({});
+    }
   }
 
   /// A short line for who watches.
@@ -118,25 +179,38 @@ class UnitBatch {
                             << std::flush;
   }
 
-  void applyTraces() {
-    for (const UnitTrace& trace : m_session.progress().traces()) {
-      const auto at = m_indexOf.find(trace.file);
-      if (at == m_indexOf.end()) continue;
-      UnitRecord& record = m_records[at->second];
-      m_reached.insert(at->second);
-      applyTrace(trace, m_operation.templateProperty, m_diagnostics, record);
-      if (m_session.options().dryRun) makePlan(trace, m_operation.lock, record);
-      if (m_operation.outputIsResult && record.result == UnitResult::Done) {
-        record.message = resultText(trace);
-      }
+  void apply(const UnitTrace& trace) {
+    const auto at = m_indexOf.find(trace.file);
+    if (at == m_indexOf.end()) return;
+    UnitRecord& record = m_records[at->second];
+    m_reached.insert(at->second);
+    applyTrace(trace, m_operation.templateProperty, m_diagnostics, record);
+    if (m_session.options().dryRun) return makePlan(trace, m_operation.lock, record);
+    if (m_operation.outputIsResult && record.result == UnitResult::Done) {
+      record.message = resultText(trace);
     }
+    if (m_operation.plan) rearrange(trace.file, record);
+  }
+
+  /// Lets the model follow what the tool did, or takes everything back.
+  void rearrange(const std::string& file, UnitRecord& record) {
+    if (record.result == UnitResult::Done) {
+      m_nowAt[file] = m_rearranging.follow(file);
+      return;
+    }
+    const std::string lost = m_rearranging.takeBack(file);
+    if (record.result != UnitResult::Failed) return;
+    record.message += '\n' + (lost.empty() ? "" : lost + '\n') +
+                      archiveState(m_session, file, m_rearranging.targetOf(file));
   }
 
   /// Units may be other objects than before, so they are looked up by their files.
   void describe() {
     const CMHeaderReader headers;
     for (const auto& [file, index] : m_indexOf) {
-      UnitCore* const unit = m_session.project().unitByFile(file);
+      const auto moved = m_nowAt.find(file);
+      UnitCore* const unit =
+          m_session.project().unitByFile(moved != m_nowAt.end() ? moved->second : file);
       if (unit == nullptr) continue;
       UnitRecord described = describeUnit(unit->unit(), headers);
       UnitRecord& record = m_records[index];
@@ -155,6 +229,8 @@ class UnitBatch {
   std::unordered_map<std::string, std::size_t> m_indexOf;
   std::unordered_set<std::size_t> m_reached;
   DiagnosticList m_diagnostics;
+  Rearranging m_rearranging;
+  std::unordered_map<std::string, std::string> m_nowAt;  ///< Files that units have since.
 };
 
 void print(const Report& report, const UnitOperation& operation, const Invocation& invocation) {
@@ -181,9 +257,10 @@ void print(const Report& report, const UnitOperation& operation, const Invocatio
 
 ExitCode runUnitOperation(const Invocation& invocation, const UnitOperation& operation) {
   checkUsage(invocation.options);
-  const std::string comment = readComment(invocation.options, invocation.console.in);
+  std::string comment = readComment(invocation.options, invocation.console.in);
   Session session(invocation, operation.outputIsResult ? WindowUse::Result : WindowUse::Quiet);
   session.openProject();
+  if ((invocation.command.options & OptionSet::Comment) != 0) offerLastComment(session, comment);
   checkComment(comment);
   UnitBatch batch(session, operation, comment);
   batch.select();
@@ -196,7 +273,9 @@ ExitCode runUnitOperation(const Invocation& invocation, const UnitOperation& ope
     invocation.console.err << "There is no unit to " << operation.action << ".\n";
     return ExitCode::AllDone;
   }
-  return wasInterrupted() ? ExitCode::Interrupted : exitCodeOf(report.units);
+  const ExitCode code = wasInterrupted() ? ExitCode::Interrupted : exitCodeOf(report.units);
+  keepComment(session, comment, code);
+  return code;
 }
 
 }  // namespace veldra::host::cli

@@ -1,24 +1,35 @@
 #pragma once
 
+#include <functional>
+
 #include "cm/core/CMArguments.h"
 #include "cm/core/CMDiagnostic.h"
 #include "cm/host/IUnit.h"
 #include "host/cli/Commands.h"
+#include "host/cli/Rearranging.h"
 #include "host/cli/UnitSelection.h"
 
 namespace veldra::host::cli {
 
 /// What distinguishes one command on units from another.
 struct UnitOperation {
-  int (*run)(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics);
+  using Run =
+      std::function<int(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics)>;
+
+  Run run;
+  Run runRecursive{};            ///< For "-r"; without one, `run` does it.
   const char* templateProperty;  ///< Where the tool's command stands.
   const char* action;            ///< "check in"
   const char* pastAction;        ///< "checked in"
   CMMode::Mode mode;
-  AllUnits all;      ///< What "--all" means for it.
+  AllUnits all;      ///< What "--all" means for it, and the content of packages for "-r".
   const char* lock;  ///< What it does to the lock: "taken", "given back" or "untouched".
   ArchivedUnits archived = ArchivedUnits::Only;  ///< The same, by what the archive holds.
   bool outputIsResult = false;                   ///< What the tool prints is what the user wants.
+  bool recursiveReloads = false;  ///< The recursive operation leaves it to the host to load files.
+  Rearranging::Plan plan{};       ///< For operations that take units from their places.
+  /// With "-r": whether a package is done with everything in it at once.
+  bool (*wholePackage)(const UnitCore& package) = nullptr;
 };
 
 /// The sequence that all of them share: comment and label, project, units, the call, the report.

@@ -6,6 +6,7 @@
 #include "host/cli/CallArguments.h"
 #include "host/cli/printing/BytesAsText.h"
 #include "host/platform/CommandLine.h"
+#include "host/settings/KnownFailures.h"
 
 namespace veldra::host::cli {
 
@@ -65,6 +66,12 @@ std::string toolWords(const std::string& words) {
   return firstLines(words, ShownToolLines);
 }
 
+std::string adviceLine(const std::string& words) {
+  Host* const host = installedHost();
+  const std::string advice = host != nullptr ? adviceOn(*host, words) : std::string();
+  return advice.empty() ? advice : "\nadvice:  " + advice;
+}
+
 std::string failureOf(const UnitTrace& trace, const char* templateProperty) {
   if (trace.end == UnitEnd::Done) return {};
   std::string failure = toolWords(trace.words);
@@ -72,7 +79,7 @@ std::string failureOf(const UnitTrace& trace, const char* templateProperty) {
   if (trace.end == UnitEnd::NotRun) failure = toolWords(trace.output);
   if (failure.empty()) failure = wordsFor(trace.end, templateProperty);
   for (const std::string& command : trace.commands) failure += "\ncommand: " + command;
-  return failure;
+  return failure + adviceLine(trace.end == UnitEnd::NotRun ? trace.output : trace.words);
 }
 
 void applyTrace(const UnitTrace& trace, const char* templateProperty,
@@ -118,6 +125,7 @@ std::vector<std::string> plannedArguments(const std::string& command) {
   Result<std::vector<std::string>> split = splitCommandLine(command);
   std::vector<std::string> arguments = split ? *split : std::vector<std::string>{command};
   std::ranges::replace(arguments, std::string(PlannedCommentFile), std::string("<comment>"));
+  std::ranges::replace(arguments, std::string(PlannedUnitList), std::string("<units>"));
   return arguments;
 }
 

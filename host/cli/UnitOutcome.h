@@ -9,13 +9,17 @@
 
 namespace veldra::host::cli {
 
-/// Why the work on a unit came to nothing: the tool's first words, or what the end means, and the
-/// commands that were run. `templateProperty` names the property to look at when the command could
-/// not be made. Empty for work that is done.
+/// Why the work on a unit came to nothing: the tool's first words, or what the end means, the
+/// commands that were run, and for a known failure what to do about it. `templateProperty` names
+/// the property to look at when the command could not be made. Empty for work that is done.
 std::string failureOf(const UnitTrace& trace, const char* templateProperty);
 
 /// The first words of what a tool said about its failure.
 std::string toolWords(const std::string& words);
+
+/// A line that says what to do about a failure with these words, behind a line end; empty when we
+/// do not know.
+std::string adviceLine(const std::string& words);
 
 /// What became of a unit whose way through the operation is known; see `failureOf`.
 void applyTrace(const UnitTrace& trace, const char* templateProperty,

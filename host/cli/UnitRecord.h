@@ -20,7 +20,8 @@ enum class UnitResult {
 /// The word for a result, as the JSON document has it.
 const char* resultWord(UnitResult result);
 
-/// What a dry run would do for a unit. The comment's file, which is not made, is "<comment>".
+/// What a dry run would do for a unit. The comment's file and that with a list of units,
+/// which are not made, are "<comment>" and "<units>".
 struct UnitPlan {
   std::vector<std::vector<std::string>> commands;  ///< Each split into its arguments.
   std::string file;                                ///< The file that is touched, in full.
@@ -35,6 +36,7 @@ struct UnitRecord {
   std::string version{};
   std::string mode{};  ///< "RO", "RW" or "U" for unknown.
   std::string locker{};
+  std::string state{};  ///< Where it stands, in words; empty where nobody asked.
   UnitResult result = UnitResult::Done;
   std::string message{};
   UnitPlan plan{};

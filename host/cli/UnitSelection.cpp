@@ -1,7 +1,10 @@
 #include "host/cli/UnitSelection.h"
 
+#include <filesystem>
 #include <optional>
 #include <set>
+#include <system_error>
+#include <utility>
 
 #include "cm/core/CMFacade.h"
 #include "cm/host/IPN.h"
@@ -11,6 +14,8 @@
 #include "host/model/PathNames.h"
 
 namespace veldra::host::cli {
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -28,11 +33,34 @@ UnitCore* byPath(const Project& project, const std::string& name) {
   return plain ? project.unitByFile(*plain) : nullptr;
 }
 
-std::vector<UnitCore*> candidates(const Project& project, const std::string& name) {
+/// The package of a folder, or the project for its own.
+UnitCore* byFolder(Project& project, const std::string& name) {
+  const std::string& root = project.record().folder->path;
+  if (name.empty()) return nullptr;
+  for (const std::string& path : {absolutePath(name), joinPath(root, name)}) {
+    const std::string folder = realPath(path);
+    std::error_code unknown;
+    if (folder.empty() || !isInside(root, folder) || !fs::is_directory(folder, unknown)) continue;
+    return &project.ownerOf(project.folders().below(
+        folder.size() > root.size() ? folder.substr(root.size() + 1) : std::string()));
+  }
+  return nullptr;
+}
+
+std::vector<UnitCore*> candidates(Project& project, const std::string& name, bool withPackages) {
   if (UnitCore* const unit = byPath(project, name)) return {unit};
+  UnitCore* const package = byFolder(project, name);
+  if (package != nullptr && (withPackages || package->hasFile())) return {package};
   std::vector<UnitCore*> named = project.unitsByName(name);
-  std::erase_if(named, [](const UnitCore* unit) { return !unit->hasFile(); });
+  std::erase_if(named, [&](const UnitCore* unit) { return !unit->hasFile() && !withPackages; });
   return named;
+}
+
+void addBelow(const UnitCore& owner, UnitList& units) {
+  for (UnitCore* child : owner.children()) {
+    if (child->hasFile()) units.push_back(&child->unit());
+    addBelow(*child, units);
+  }
 }
 
 std::string reasonAgainst(const std::vector<UnitCore*>& found) {
@@ -61,11 +89,38 @@ bool isListable(IUnit& unit) {
 
 }  // namespace
 
-UnitSelection selectByName(Project& project, const std::vector<std::string>& names) {
+UnitCore* unitNamed(Project& project, const std::string& name) {
+  const std::vector<UnitCore*> found = candidates(project, name, true);
+  return found.size() == 1 ? found.front() : nullptr;
+}
+
+std::unordered_set<const IUnit*> addContent(AllUnits which, UnitList& units) {
+  UnitList all;
+  std::unordered_set<const IUnit*> added;
+  for (IUnit* unit : units) {
+    const UnitCore* const core = UnitCore::of(unit);
+    if (core == nullptr || core->children().empty()) {
+      all.push_back(unit);
+      continue;
+    }
+    UnitList content;
+    if (core->hasFile()) content.push_back(unit);
+    addBelow(*core, content);
+    std::erase_if(content, [which](const IUnit* one) { return !isMeant(*one, which); });
+    added.insert(content.begin(), content.end());
+    all.insert(all.end(), content.begin(), content.end());
+  }
+  CMFacade::removeDuplicatesFromItemList(all);
+  units = std::move(all);
+  return added;
+}
+
+UnitSelection selectByName(Project& project, const std::vector<std::string>& names,
+                           bool withPackages) {
   UnitSelection selection;
   std::set<const UnitCore*> taken;
   for (const std::string& name : names) {
-    const std::vector<UnitCore*> found = candidates(project, name);
+    const std::vector<UnitCore*> found = candidates(project, name, withPackages);
     if (found.size() == 1) {
       if (taken.insert(found.front()).second) selection.units.push_back(&found.front()->unit());
       continue;

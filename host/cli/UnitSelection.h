@@ -29,9 +29,19 @@ enum class ArchivedUnits {
   LeaveOut  ///< It is for the others.
 };
 
+/// The unit, the package or the project that a name means: a folder means its package. Null when
+/// there is none or several.
+UnitCore* unitNamed(Project& project, const std::string& name);
+
+/// Puts what each package owns, and what is below that, behind it. Of a package and its content
+/// only those stay that `which` means; they are returned. Other units stay as they are.
+std::unordered_set<const IUnit*> addContent(AllUnits which, UnitList& units);
+
 /// The units that the names mean: a file by its path, relative to the current folder or to the
 /// project, or a unit by the names from the outermost package down to it, joined by "::".
-UnitSelection selectByName(Project& project, const std::vector<std::string>& names);
+/// `withPackages`: folders, and packages without a file of their own, may be meant, too.
+UnitSelection selectByName(Project& project, const std::vector<std::string>& names,
+                           bool withPackages = false);
 
 /// The units of the workspace that "--all" means.
 UnitSelection selectAll(AllUnits which);

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "host/model/PathNames.h"
+#include "host/platform/AtomicFile.h"
 #include "host/platform/FolderList.h"
 
 namespace veldra::host {
@@ -24,15 +25,16 @@ struct Entry {
   bool operator<(const Entry& other) const { return name < other.name; }
 };
 
-bool isRecordFolder(const std::string& name) {
-  return name.starts_with('.') ||
-         std::find(RecordFolders.begin(), RecordFolders.end(), name) != RecordFolders.end();
-}
-
 /// Files that belong to a CM tool or to Veldra itself.
 bool isRecordFile(const std::string& name) {
   return name.starts_with(WorkingFilePrefix) || name.ends_with(",v") || name == ".git" ||
          name == ".svn";
+}
+
+/// A file that is being written, or that a killed program left half written.
+bool isTemporary(const Entry& entry) {
+  return !entry.isFolder && entry.name.starts_with(WorkingFilePrefix) &&
+         entry.name.ends_with(".tmp");
 }
 
 class Walk {
@@ -62,6 +64,7 @@ class Walk {
       m_scan.folders.pop_back();
       return;
     }
+    if (std::ranges::any_of(entries, isTemporary)) removeStaleTemporaries(pathOf(relative));
     for (const Entry& entry : entries) {
       if (!entry.isFolder) addFile(folder, relative, entry);
     }
@@ -166,6 +169,11 @@ class Walk {
 };
 
 }  // namespace
+
+bool isRecordFolder(std::string_view name) {
+  return name.starts_with('.') ||
+         std::find(RecordFolders.begin(), RecordFolders.end(), name) != RecordFolders.end();
+}
 
 FolderScan scanFolder(const std::string& root, const FileTypes& types, bool otherFiles,
                       Problems& problems) {

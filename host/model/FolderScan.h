@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/model/FileTypes.h"
@@ -32,12 +33,17 @@ inline constexpr int MaximumFolderDepth = 64;
 
 /// Walks a folder for unit files, and for all other files when `otherFiles` is set.
 ///
+/// Half-written files of a program that was killed are removed on the way.
+///
 /// Left out without a word: hidden folders and those in which CM tools keep their own records, and
 /// Veldra's own working files. Reported and left out: links to folders, links that lead out of the
 /// root, folders that cannot be read, folders nested too deep, and folders that are projects of
 /// their own. Links to files inside the root are listed.
 FolderScan scanFolder(const std::string& root, const FileTypes& types, bool otherFiles,
                       Problems& problems);
+
+/// Whether it is the name of a folder in which CM tools keep their own records, or of a hidden one.
+bool isRecordFolder(std::string_view name);
 
 /// What the names of Veldra's own working files begin with.
 inline constexpr char WorkingFilePrefix[] = ".veldra";

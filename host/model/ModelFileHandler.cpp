@@ -87,6 +87,14 @@ std::string ModelFileHandler::fileNameToLoad() const {
 std::optional<Problem> leftBehindCopy(const std::string& projectFile) {
   const std::string copy = copyNameOf(projectFile);
   if (!isFile(copy)) return std::nullopt;
+  const Result<std::string> before = readFile(copy, ModelFileLimit);
+  const Result<std::string> now = readFile(projectFile, ModelFileLimit);
+  if (before && now && *before == *now) {
+    // Nothing had happened to the file yet.
+    std::error_code failed;
+    fs::remove(copy, failed);
+    return std::nullopt;
+  }
   return Problem{
       copy, "A command on the project file was interrupted; this is how the file was before.",
       "Compare the two, keep the better one under the project's name, and remove the copy."};

@@ -33,7 +33,8 @@ class ModelFileHandler : public CMVDYHandler {
   bool m_prepared = false;
 };
 
-/// The problem of a copy that was left behind when the program died during a command.
+/// The problem of a copy that was left behind when the program died during a command. A copy that is
+/// just like the file is removed instead.
 std::optional<Problem> leftBehindCopy(const std::string& projectFile);
 
 }  // namespace veldra::host

@@ -98,6 +98,14 @@ class Project : public UnitOf<IProject> {
   /// `releaseRetired`.
   UnitCore& replace(UnitCore& former, UnitRecord record);
   void releaseRetired() { m_retired.clear(); }
+  /// Takes a unit out of the model and out of the project's lists; what it owned goes to its owner.
+  /// The object is dead afterwards but stays in memory until `releaseRetired`. Not for the project.
+  void remove(UnitCore& unit);
+  /// The file of a unit has got another name or folder; the name is relative to the project.
+  void moveFile(UnitCore& unit, const std::string& relativeFileName);
+  /// A folder with everything in it has got another name or place; both are relative to the
+  /// project, and nothing is known of the new one yet.
+  void moveFolder(const std::string& relative, const std::string& newRelative);
   /// A unit has got another file name.
   void unitMoved(UnitCore& unit, const std::string& formerFullName);
   /// The nearest package of a folder, or the project; packages without a file are made for folders
@@ -117,6 +125,8 @@ class Project : public UnitOf<IProject> {
                           const std::string& auxProjPath);
   /// The archive of its own that a unit has for command-line tools; empty for none.
   void setBatchArchive(const std::string& relativeFileName, const std::string& archive);
+  /// Whether the project's file names the file or folder, or something in it, in one of its lists.
+  bool lists(const std::string& relative) const;
   /// Lists one more controlled file.
   void addControlled(const std::string& relativeFileName);
   /// Reads the project's own file again. False, with the reason in `problem`, when it cannot be
@@ -139,6 +149,9 @@ class Project : public UnitOf<IProject> {
 
  private:
   void takeProperties();
+  void renumberFiles(std::size_t from);
+  void moveFolderOf(UnitCore& unit, const std::string& relative, const std::string& newRelative);
+  void changeLists(const std::string& relative, const std::string& newRelative);
   template <class Change>
   void changeArchive(const std::string& relativeFileName, Change change);
 

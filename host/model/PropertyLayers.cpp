@@ -123,7 +123,7 @@ Property* PropertyLayers::findIn(Origin origin, const PropertyKeyView& key) cons
   return layer(origin).find(key);
 }
 
-Property* PropertyLayers::inherited(const PropertyKeyView& key) const {
+Property* PropertyLayers::belowProject(const PropertyKeyView& key) const {
   for (const Origin origin : LayersBelowProject) {
     if (Property* property = layer(origin).find(key)) return property;
   }
@@ -181,15 +181,23 @@ std::optional<std::string> PropertyLayers::setForUser(const PropertyKey& key,
 }
 
 void PropertyLayers::clearProject() {
-  for (const auto& [key, property] : layer(Origin::Project)) putEffective(key, inherited(key));
+  for (const auto& [key, property] : layer(Origin::Project)) putEffective(key, belowProject(key));
   layer(Origin::Project).clear();
   m_pinned.clear();
+  m_unitEntries.clear();
+}
+
+void PropertyLayers::noteUnitProperty(const PropertyKey& key, const Property& property) {
+  const bool isKnown = std::ranges::any_of(m_unitEntries, [&](const PropertyEntry& entry) {
+    return entry.key == key && entry.source == property.source() && entry.value == property.value();
+  });
+  if (!isKnown) m_unitEntries.push_back(entryOf(key, property));
 }
 
 std::vector<PropertyEntry> PropertyLayers::projectEntries() const {
   std::vector<PropertyEntry> entries;
   for (const auto& [key, property] : layer(Origin::Project)) {
-    const Property* below = inherited(key);
+    const Property* below = belowProject(key);
     const bool repeats = below && below->value() == property->value();
     if (!repeats || m_pinned.contains(key)) entries.push_back(entryOf(key, *property));
   }

@@ -53,6 +53,9 @@ class PropertyLayers {
   /// The property of one layer, or null.
   Property* findIn(Origin layer, const PropertyKeyView& key) const;
 
+  /// The property that would count without the project, or null.
+  Property* belowProject(const PropertyKeyView& key) const;
+
   /// Puts a property into the project's layer as it was read from the project file.
   void addLoaded(const PropertyKey& key, std::string value, const std::string& source);
   /// Puts a property into the project's layer. The listener is told only when that changes the
@@ -65,12 +68,16 @@ class PropertyLayers {
   /// not.
   [[nodiscard]] std::optional<std::string> setForUser(const PropertyKey& key,
                                                       const std::string& value);
-  /// Takes all properties of the project away, without telling anybody.
+  /// A unit's own property has been handed out to somebody.
+  void noteUnitProperty(const PropertyKey& key, const Property& property);
+  /// Takes all properties of the project and its units away, without telling anybody.
   void clearProject();
   void setProjectListener(ChangeListener listener) { m_projectChanged = std::move(listener); }
 
   /// What the project file has to hold: everything but copies that say what is inherited anyway.
   std::vector<PropertyEntry> projectEntries() const;
+  /// What units have handed out of their own, in no order.
+  const std::vector<PropertyEntry>& unitEntries() const { return m_unitEntries; }
   /// Every property that counts, by subject, metaclass and name.
   std::vector<PropertyEntry> entries() const;
 
@@ -86,7 +93,6 @@ class PropertyLayers {
   }
   void addFile(const std::string& file, Origin origin, Problems& problems);
   Property& putInProject(const PropertyKey& key, std::unique_ptr<Property> property);
-  Property* inherited(const PropertyKeyView& key) const;
   void putEffective(const PropertyKey& key, Property* property);
   void rebuildEffective();
   void tellProjectChanged() const;
@@ -94,6 +100,7 @@ class PropertyLayers {
   std::array<PropertyTable, 4> m_layers;
   PropertyMap<Property*> m_effective;
   PropertyMap<bool> m_pinned;  ///< Project properties that are written even when they only repeat.
+  std::vector<PropertyEntry> m_unitEntries;
   std::map<std::pair<std::string, std::string>, std::string> m_settings;
   std::vector<PackDescription> m_packs;
   SettingsFiles m_files;

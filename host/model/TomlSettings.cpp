@@ -66,7 +66,8 @@ class Reader {
     for (const auto& [key, node] : table) {
       std::string name(key.str());
       if (std::optional<std::string> text = textOf(node)) {
-        m_settings.properties.push_back({{subject, metaclass, std::move(name)}, std::move(*text)});
+        m_settings.properties.push_back(
+            {{subject, metaclass, std::move(name)}, std::move(*text), node.source().begin.line});
       } else {
         reject(node, name);
       }

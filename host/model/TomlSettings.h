@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <map>
 #include <optional>
 #include <string>
@@ -36,6 +37,7 @@ struct TomlSettings {
   struct Entry {
     PropertyKey key;
     std::string value;
+    std::size_t line = 0;  ///< Where it stands in its file, from 1; 0 when that is not known.
   };
   std::vector<Entry> properties;
   std::map<std::pair<std::string, std::string>, std::string> settings;  ///< By section and name.

@@ -65,6 +65,12 @@ bool UnitCore::setAttribute(const std::string& attribute, const std::string& val
   return true;
 }
 
+void UnitCore::forgetContent(const std::string& name) {
+  m_text.reset();
+  m_record.name = name;
+  m_modified = false;
+}
+
 void UnitCore::restoreBody(const Json& body) {
   Problem problem;
   ModelText* restored = content(problem);
@@ -142,6 +148,11 @@ IProperty* UnitCore::findProperty(const PropertyKeyView& key, bool localOnly) {
   for (UnitCore* unit = this; unit && unit != &m_project; unit = unit->m_owner) {
     if (!unit->m_propertiesRead) unit->readOwnProperties();
     Property* found = unit->m_properties ? unit->m_properties->find(key) : nullptr;
+    // What was set since is the user's own.
+    if (found && !found->source().empty()) {
+      m_project.properties().noteUnitProperty(
+          {std::string(key.subject), std::string(key.metaclass), std::string(key.name)}, *found);
+    }
     if (found || localOnly) return found;
   }
   return localOnly ? m_project.properties().findIn(Origin::Project, key)

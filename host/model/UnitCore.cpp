@@ -58,6 +58,16 @@ void UnitCore::setOwner(UnitCore* owner) {
   owner->m_children.push_back(this);
 }
 
+void UnitCore::leaveOwner() {
+  if (!m_owner) return;
+  std::vector<UnitCore*>& siblings = m_owner->m_children;
+  siblings.erase(siblings.begin() + static_cast<std::ptrdiff_t>(m_placeInOwner));
+  for (std::size_t at = m_placeInOwner; at < siblings.size(); ++at) {
+    siblings[at]->m_placeInOwner = at;
+  }
+  m_owner = nullptr;
+}
+
 void UnitCore::takePlaceOf(UnitCore& former) {
   m_owner = former.m_owner;
   m_placeInOwner = former.m_placeInOwner;
@@ -97,9 +107,23 @@ bool UnitCore::isExternal() const {
   return false;
 }
 
-std::string UnitCore::computedFileName() const {
+std::string UnitCore::computedFileName(const std::string& name) const {
   if (!isOwnFile() || m_record.controlledFile) return m_record.fileName;
-  return asFileName(m_record.name) + m_record.fileName.substr(stemOf(m_record.fileName).size());
+  return asFileName(name) + m_record.fileName.substr(stemOf(m_record.fileName).size());
+}
+
+void UnitCore::setFile(Folder& folder, const std::string& fileName) {
+  m_record.folder = &folder;
+  m_record.fileName = fileName;
+}
+
+void UnitCore::takeFile() {
+  takeHead(readUnitHead(fullFileName(), m_record.type));
+  if (isOwnFile()) return;
+  // Files of other tools, and files of any other type, are known by their names alone.
+  m_record.name = std::string(m_record.directoryUnit ? baseName(m_record.folder->path)
+                              : m_record.type        ? stemOf(m_record.fileName)
+                                                     : std::string_view(m_record.fileName));
 }
 
 void UnitCore::setFileName(const std::string& fileName) {

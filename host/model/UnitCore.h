@@ -68,6 +68,8 @@ class UnitCore {
   UnitCore* owner() const { return m_owner; }
   /// Makes the unit the last child of `owner`.
   void setOwner(UnitCore* owner);
+  /// The owner does not know the unit any more.
+  void leaveOwner();
   /// Takes the place of another unit in its owner's list, and its children.
   void takePlaceOf(UnitCore& former);
   const std::vector<UnitCore*>& children() const { return m_children; }
@@ -79,7 +81,9 @@ class UnitCore {
   // --- what `IUnit` asks ---
   std::uint32_t flags() const;
   bool isExternal() const;
-  std::string computedFileName() const;
+  std::string computedFileName() const { return computedFileName(m_record.name); }
+  /// The file name that the unit would have under that name.
+  std::string computedFileName(const std::string& name) const;
   void setFileName(const std::string& fileName);
   bool approveRename(const std::string& fileName) const;
   void updateHeader();
@@ -94,6 +98,10 @@ class UnitCore {
                       const IProperty& property);
 
   FileMode mode() const { return m_record.mode; }
+  /// The unit's file is that one from now on; the project tells it so.
+  void setFile(Folder& folder, const std::string& fileName);
+  /// Looks at the file anew after it has come to another place or changed its name.
+  void takeFile();
   /// The unit now stands for what the head says; used after its file has changed.
   void takeHead(const UnitHead& head);
 
@@ -108,6 +116,8 @@ class UnitCore {
   [[nodiscard]] bool rename(const std::string& name, Problem& problem);
   [[nodiscard]] bool setAttribute(const std::string& attribute, const std::string& value,
                                   Problem& problem);
+  /// The content is read again when it is next asked for; what was not saved is lost.
+  void forgetContent(const std::string& name);
   /// Puts a former body back, as undo does.
   void restoreBody(const Json& body);
   /// Writes the content when it differs from the file. False, with the reason, when that is refused

@@ -1,6 +1,7 @@
 #include "host/platform/TraceLog.h"
 
 #include "host/platform/Clock.h"
+#include "host/platform/Secrets.h"
 
 namespace veldra::host {
 
@@ -39,7 +40,7 @@ void TraceLog::write(Log, std::string_view text, const char* file, int line) {
     std::string entry = dateText(now) + ' ' + timeText(now) + ' ';
     entry.append(baseName(file == nullptr ? "" : file));
     entry += ':' + std::to_string(line) + ' ';
-    appendEscaped(entry, text);
+    appendEscaped(entry, withoutSecrets(text));
     if (m_observer) m_observer(entry);
     if (!m_file.is_open()) return;
     m_file << entry << '\n' << std::flush;

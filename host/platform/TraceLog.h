@@ -13,7 +13,7 @@ namespace veldra::host {
 /// The trace log: one line "date time file:line text" per call, added to a file and flushed.
 ///
 /// Line ends inside the text are written as \n and \r, so that a line stays a line. Of the source
-/// file only its name appears. May be called from any thread.
+/// file only its name appears, and of a password three asterisks. May be called from any thread.
 class TraceLog : public LogTrace {
  public:
   /// Told every line, without its end.

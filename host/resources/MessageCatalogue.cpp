@@ -49,6 +49,23 @@ std::string MessageCatalogue::text(int id) const {
   return found == m_texts.end() ? std::string() : found->second;
 }
 
+std::string MessageCatalogue::format(int id, const std::vector<std::string>& values) const {
+  const std::string pattern = text(id);
+  std::string out;
+  for (std::size_t at = 0; at < pattern.size(); ++at) {
+    const std::size_t place = pattern[at] == '%' && at + 1 < pattern.size()
+                                  ? static_cast<std::size_t>(pattern[at + 1] - '1')
+                                  : values.size();
+    if (place < values.size()) {
+      out += values[place];
+      ++at;
+    } else {
+      out += pattern[at];
+    }
+  }
+  return out;
+}
+
 std::string userLanguage() {
   for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
     const char* value = std::getenv(name);

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "host/model/Problem.h"
 
@@ -19,6 +20,8 @@ class MessageCatalogue {
 
   /// The text with its placeholders %1, %2, ...; empty for an unknown number.
   std::string text(int id) const;
+  /// The same with the values in place of the placeholders.
+  std::string format(int id, const std::vector<std::string>& values) const;
   std::size_t size() const { return m_texts.size(); }
 
  private:

@@ -1,10 +1,13 @@
-# add.sh KIND ARCHIVEFILE DIRECTORY/ [COMMENTFILE]: makes the archive file. KIND is "text" for a
-# file whose keywords are expanded, "plain" for one whose bytes stay.
+# add.sh KIND ARCHIVEFILE DIRECTORY/ [--label=LABEL] [COMMENTFILE]: makes the archive file. KIND is
+# "text" for a file whose keywords are expanded, "plain" for one whose bytes stay.
 . "${0%/*}/common.sh"
 . "${0%/*}/comment.sh"
+. "${0%/*}/labels.sh"
 
 kind=$1
 name_files "$2" "$3"
+shift 3
+read_options "$@"
 
 # Bytes that look like a keyword may be anything in a binary file.
 is_binary() {
@@ -16,10 +19,11 @@ mkdir -p "${archived%/*}" || exit
 if [ "$kind" = plain ] || is_binary; then
   rcs -q -i -kb -t- "$archived" </dev/null || exit
   # Without its first revision the archive file would be in the way of the next try.
-  check_in "$4" -u || {
+  check_in "$comment" -u || {
     rm -f "$archived"
     exit 1
   }
 else
-  check_in "$4" -i -u -t-
+  check_in "$comment" -i -u -t- || exit
 fi
+attach_label

@@ -1,7 +1,10 @@
-# checkin.sh ARCHIVEFILE DIRECTORY/ [COMMENTFILE]: adds a revision and gives the lock back. An
-# unchanged file only gives its lock back.
+# checkin.sh ARCHIVEFILE DIRECTORY/ [--label=LABEL] [COMMENTFILE]: adds a revision and gives the lock
+# back. An unchanged file only gives its lock back. The label is that of the newest revision.
 . "${0%/*}/common.sh"
 . "${0%/*}/comment.sh"
+. "${0%/*}/labels.sh"
 
 name_files "$1" "$2"
-check_in "$3" -u
+shift 2
+read_options "$@"
+check_in "$comment" -u && attach_label

@@ -6,5 +6,5 @@
 # A name with a line end cannot be told from two lines of the answer.
 (
   cd "$1" &&
-    find . -path '*/RCS/*,v' -type f ! -path "*$newline*" -print0 | sort -z | xargs -0 -r rlog -h
+    find . -path '*/RCS/*,v' -type f ! -path '*/RCS/*/*' ! -path "*$newline*" -print0 | sort -z | xargs -0 -r rlog -h
 ) | awk -f "${0%/*}/list.awk"

@@ -1,15 +1,15 @@
-# checkin.sh FILE@ [COMMENTFILE]: commits a file and gives its lock back.
+# checkin.sh UNITS [--label=LABEL] [COMMENTFILE]: commits files and gives their locks back.
 . "${0%/*}/common.sh"
+. "${0%/*}/labels.sh"
 
-target=$1
-commit "$2" "$target" || give_up
-if [ -n "$answer" ]; then
-  show
-  exit
-fi
-# A commit that finds nothing to send leaves the lock as it is.
-run svn unlock -- "$target" && show && exit
-case $answer in
-  *E195013:*) printf "'%s' is unchanged.\n" "${target%@}" ;;
-  *) give_up ;;
-esac
+name_targets "$1"
+shift
+read_options "$@"
+check_label
+commit "$comment" --targets "$targets" || give_up
+show
+# A commit leaves the lock of what it has not sent.
+answer=
+give_locks || give_up
+show
+attach_label

@@ -6,6 +6,9 @@ LC_ALL=C.UTF-8
 LANGUAGE=
 export LC_ALL LANGUAGE
 
+newline='
+'
+
 fail() {
   printf 'subversion: %s\n' "$1" >&2
   exit 1
@@ -15,8 +18,39 @@ for program in svn svnadmin; do
   command -v "$program" >/dev/null || fail "The program '$program' is not installed or not in PATH."
 done
 
+# in_use WORKINGCOPY: whether some process has its records open, so that it is not ours to repair.
+in_use() {
+  for open in /proc/[0-9]*/fd/*; do
+    case $(readlink "$open" 2>/dev/null) in
+      "$1"/.svn/*) return 0 ;;
+    esac
+  done
+  return 1
+}
+
+# repair: makes good what a killed svn left behind. True when it is worth another try.
+repair() {
+  [ -d /proc/self/fd ] || return
+  top=$(command svn info --non-interactive --show-item wc-root --no-newline . 2>/dev/null) || return
+  ! in_use "$top" && command svn cleanup --non-interactive "$top" >/dev/null 2>&1
+}
+
+# svn ARGUMENT...: a former command may have been killed in the middle; then its records are put in
+# order, and the same is tried once more. What svn complains about is kept aside for that.
 svn() {
-  command svn --non-interactive "$@"
+  { complaint=$(command svn --non-interactive "$@" 2>&1 >&3 3>&-); } 3>&1
+  svn_end=$?
+  case $svn_end$complaint in
+    0*) ;;
+    *E155004:* | *E155037:* | *E155009:*)
+      if repair; then
+        command svn --non-interactive "$@"
+        return
+      fi
+      ;;
+  esac
+  [ -z "$complaint" ] || printf '%s\n' "$complaint" >&2
+  return "$svn_end"
 }
 
 # absolute_path PATH
@@ -42,6 +76,11 @@ archive_url() {
   esac
 }
 
+# temporary_file: makes one; when this script is killed, the next run of the program removes it.
+temporary_file() {
+  mktemp "${TMPDIR:-/tmp}/veldra-cm-$$-XXXXXX"
+}
+
 # run COMMAND...: keeps all that it prints in $answer, so that the caller can look before it shows.
 run() {
   answer=$("$@" 2>&1)
@@ -56,20 +95,67 @@ give_up() {
   exit 1
 }
 
-# svn_commit ENCODING COMMENTFILE TARGET...
+# read_options [--label=LABEL] [COMMENTFILE]: sets $label and $comment.
+read_options() {
+  label=
+  case ${1:-} in
+    --label=*)
+      label=${1#--label=}
+      shift
+      ;;
+  esac
+  comment=${1:-}
+  # Where keywords are not replaced, the comment's stands for none.
+  [ -f "$comment" ] || comment=
+}
+
+# name_targets UNITS: sets $targets to a file with the paths as svn wants them, a line a path. UNITS is
+# the path of one file, or "@" and the path of a list. $work goes with the helper.
+name_targets() {
+  work=$(mktemp -d "${TMPDIR:-/tmp}/veldra-cm-$$-XXXXXX") || exit
+  trap 'rm -rf "$work"' EXIT
+  targets=$work/targets
+  case $1 in
+    @*) sed 's/$/@/' "${1#@}" ;;
+    *) printf '%s@\n' "$1" ;;
+  esac >"$targets"
+}
+
+# held: those of $targets that this folder holds a lock of; the sixth column of a status tells.
+held() {
+  tr '\n' '\000' <"$targets" | xargs -0 svn --non-interactive status --depth empty -- |
+    sed -n 's/^.....K. \(.*\)/\1@/p'
+}
+
+# give_locks: those that this folder holds. One that somebody has broken is no failure.
+give_locks() {
+  held >"$work/held"
+  [ -s "$work/held" ] || return 0
+  run svn unlock --targets "$work/held" && return
+  case $answer in
+    # svn has forgotten the broken lock by now.
+    *W160040:* | *E200009:*W160040:*) answer='A lock had been broken by somebody else.' ;;
+    *) return 1 ;;
+  esac
+}
+
+# svn_commit ENCODING COMMENTFILE TARGET...: the targets as svn takes them, "-- FILE@..." or
+# "--targets LIST".
 svn_commit() {
   encoding=$1 file=$2
   shift 2
-  svn commit --depth empty --force-log --encoding "$encoding" --file "$file" -- "$@"
+  svn commit --depth "${depth:-empty}" --force-log --encoding "$encoding" --file "$file" "$@"
 }
 
-# commit COMMENTFILE TARGET...: as `run`; an empty COMMENTFILE stands for no comment.
+# commit COMMENTFILE TARGET...: as `run`; a COMMENTFILE that is no file stands for no comment.
+# $depth is how far it goes down from each target, just the target itself without it.
 #
 # A comment in the repository is UTF-8 with single line feeds. One that is not is refused, so the
 # second try makes it so: any line end becomes a line feed, and bytes that are no UTF-8 are read as
 # ISO 8859-1, which gives every byte a character of the same number.
 commit() {
-  message=${1:-/dev/null}
+  message=$1
+  [ -f "$message" ] || message=/dev/null
   shift
   run svn_commit UTF-8 "$message" "$@" && return
   case $answer in
@@ -78,7 +164,7 @@ commit() {
   esac
   encoding=UTF-8
   iconv -f UTF-8 -t UTF-8 "$message" >/dev/null 2>&1 || encoding=ISO-8859-1
-  clean=$(mktemp) || return
+  clean=$(temporary_file) || return
   LC_ALL=C sed "s/$(printf '\r')\$//" "$message" | LC_ALL=C tr '\r' '\n' >"$clean"
   run svn_commit "$encoding" "$clean" "$@"
   result=$?

@@ -1,11 +1,8 @@
-# undo.sh FILE@: drops local changes and gives the lock back.
+# undo.sh UNITS: drops local changes and gives locks back.
 . "${0%/*}/common.sh"
 
-svn revert -- "$1" || exit
-run svn unlock -- "$1" && show && exit
-case $answer in
-  *E195013:*) ;; # It was not locked.
-  # svn has forgotten the broken lock by now.
-  *W160040:*) printf 'The lock had been broken by somebody else.\n' ;;
-  *) give_up ;;
-esac
+name_targets "$1"
+svn revert --targets "$targets" || exit
+answer=
+give_locks || give_up
+show

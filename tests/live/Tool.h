@@ -9,27 +9,45 @@
 
 namespace veldra::live {
 
+/// What users of a tool see of it.
+struct ToolTraits {
+  const char* pack;
+  const char* program;     ///< Its absence lets a test of the pack be skipped.
+  const char* noLocks;     ///< Why nobody is kept out; null where a check-out does.
+  const char* noKeywords;  ///< Why a file does not tell its version; null where it does.
+  const char* noTrail;     ///< Why a moved file leaves its history; null where that follows.
+  const char* outOfDate;   ///< What a check-in on top of somebody's newer one is told.
+};
+
 /// A CM tool, asked directly: what it says does not pass through the module.
 class Tool {
  public:
   /// The archive is the folder of that name in the sandbox.
-  Tool(const Sandbox& sandbox, std::string archive)
+  Tool(const Sandbox& sandbox, const std::string& archive)
       : m_sandbox(sandbox), m_archive(sandbox.path(archive)) {}
   virtual ~Tool() = default;
 
+  virtual const ToolTraits& traits() const = 0;
   const std::string& archive() const { return m_archive; }
 
+  /// Makes the archive, as an administrator does on a server.
+  virtual void makeArchive() const = 0;
+  /// Makes a second folder of the project, with the tool alone.
+  virtual void makeWorkingCopy(const std::string& address, const std::string& to) const = 0;
   /// The files of the archive, relative to it.
   virtual std::set<std::string> files() const = 0;
   virtual std::string newestText(const std::string& file) const = 0;
+  virtual std::string textAt(const std::string& label, const std::string& file) const = 0;
   virtual std::string newestComment(const std::string& file) const = 0;
+  /// What the tool makes of a comment.
+  virtual std::string kept(const std::string& comment) const = 0;
   /// Who holds the file; empty when nobody does.
-  virtual std::string holder(const std::string& file) const = 0;
-  /// Makes a second folder of the project.
-  virtual void makeWorkingCopy(const std::string& from, const std::string& to) const = 0;
+  virtual std::string holder(const std::string& /*file*/) const { return {}; }
 
  protected:
-  std::string outputOf(const std::vector<std::string>& command) const;
+  std::string outputOf(const std::vector<std::string>& command) const {
+    return m_sandbox.run(command).out;
+  }
   const Sandbox& sandbox() const { return m_sandbox; }
 
  private:
@@ -40,7 +58,16 @@ class Tool {
 /// One of the tools of the tests by the name of its pack.
 std::unique_ptr<Tool> makeTool(const std::string& pack, const Sandbox& sandbox);
 
-/// The program whose absence lets a test of the pack be skipped.
-std::string programOf(const std::string& pack);
+/// What stands between two texts; empty without the first.
+std::string between(const std::string& text, const std::string& before, const std::string& after);
+
+/// The pieces of a text that each end with a character.
+std::set<std::string> pieces(const std::string& text, char end);
+
+std::unique_ptr<Tool> makeSubversion(const Sandbox& sandbox);
+std::unique_ptr<Tool> makeRcs(const Sandbox& sandbox);
+std::unique_ptr<Tool> makeCvs(const Sandbox& sandbox);
+std::unique_ptr<Tool> makeGit(const Sandbox& sandbox);
+std::unique_ptr<Tool> makeMercurial(const Sandbox& sandbox);
 
 }  // namespace veldra::live

@@ -35,6 +35,7 @@ class MemoryHost : public Host {
   MemoryProgress memoryProgress;
   MemoryRegistry memoryRegistry;
   MemoryLibraries memoryLibraries;
+  MemoryKeptCopies memoryKeptCopies;
   ReloadScript reloads;
 
   /// Where libraries come from: memory, unless a test loads real ones.
@@ -58,6 +59,7 @@ class MemoryHost : public Host {
   IProgress* progress() override { return offered(memoryProgress); }
   IRegistry* registry() override { return offered(memoryRegistry); }
   ILibraries* libraries() override { return offered<ILibraries>(*loader); }
+  IKeptCopies* keptCopies() override { return offered(memoryKeptCopies); }
   QuickATMFacade* quickReload() override { return offered(m_quickReload); }
   std::unique_ptr<ATMFacade> createATMFacade(IUnit* owner) override;
   std::unique_ptr<ATMFacade> createATMFacade(const std::string& directory) override;

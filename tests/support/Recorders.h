@@ -7,6 +7,7 @@
 
 #include "cm/host/CSignal2Exception.h"
 #include "cm/host/IAbstractCMManager.h"
+#include "cm/host/IKeptCopies.h"
 #include "cm/host/IProgress.h"
 #include "cm/host/LogTrace.h"
 #include "cm/host/Undoer.h"
@@ -110,6 +111,20 @@ class MemoryProgress : public IProgress {
   std::vector<ProgressStep> started;
   std::vector<End> ended;
   std::size_t cancelAfter = static_cast<std::size_t>(-1);
+};
+
+/// Remembers what was kept; refuses every file while `refusal` is set.
+class MemoryKeptCopies : public IKeptCopies {
+ public:
+  bool keep(const std::string& file, const std::string& operation, std::string& reason) override {
+    reason = refusal;
+    if (refusal.empty()) lines.push_back("keep " + file + " before " + operation);
+    return refusal.empty();
+  }
+  void settle(const std::string& file) override { lines.push_back("settle " + file); }
+
+  std::vector<std::string> lines;
+  std::string refusal;
 };
 
 }  // namespace veldra::test

@@ -5,6 +5,7 @@ namespace veldra::host::cli {
 
 ExitCode runCheckIn(const Invocation& invocation) {
   static const UnitOperation operation{.run = CMFacade::CheckIn,
+                                       .runRecursive = CMFacade::RecCheckIn,
                                        .templateProperty = "CheckIn",
                                        .action = "check in",
                                        .pastAction = "checked in",

@@ -5,12 +5,14 @@ namespace veldra::host::cli {
 
 ExitCode runCheckOut(const Invocation& invocation) {
   static const UnitOperation operation{.run = CMFacade::CheckOut,
+                                       .runRecursive = CMFacade::RecCheckOut,
                                        .templateProperty = "CheckOut",
                                        .action = "check out",
                                        .pastAction = "checked out",
                                        .mode = CMMode::ReadWrite,
                                        .all = AllUnits::ReadOnly,
-                                       .lock = "taken"};
+                                       .lock = "taken",
+                                       .recursiveReloads = true};
   return runUnitOperation(invocation, operation);
 }
 

@@ -14,7 +14,7 @@ namespace veldra::host::cli {
 namespace {
 
 void addUnit(Session& session, const std::string& name, CallArguments& arguments) {
-  const UnitSelection selection = selectByName(session.openProject(), {name});
+  const UnitSelection selection = selectByName(session.openToLook(), {name});
   if (selection.units.empty()) {
     throw CommandError(ExitCode::NothingDone, name + ": " + selection.unknown.front().message);
   }
@@ -43,7 +43,7 @@ ExitCode runExpand(const Invocation& invocation) {
   if (options.explain) setVariable("VELDRA_DEBUG_CM", "TRUE");
   Session session(invocation, options.explain ? WindowUse::Explain : WindowUse::Quiet);
   const bool hasProject = session.openProjectIfAny();
-  if (options.property && !hasProject) session.openProject();
+  if (options.property && !hasProject) session.openToLook();
 
   CallArguments arguments;
   for (const std::string& text : options.arguments) addExpansionArgument(text, arguments);

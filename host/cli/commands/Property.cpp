@@ -7,6 +7,7 @@
 #include "host/cli/PropertyListing.h"
 #include "host/cli/PropertyName.h"
 #include "host/cli/Session.h"
+#include "host/cli/printing/BytesAsText.h"
 #include "host/cli/printing/Report.h"
 
 namespace veldra::host::cli {
@@ -105,7 +106,7 @@ class PropertyCommand {
   }
 
   void setInProject(const PropertyKey& key, const std::string& value) {
-    if (!m_hasProject) m_session.openProject();
+    if (!m_hasProject) m_session.openToLook();
     Project& project = m_session.project();
     if (project.isReadOnly()) {
       throw CommandError(ExitCode::NothingDone,
@@ -113,10 +114,26 @@ class PropertyCommand {
                              " is read-only. Check it out first, or store the property with "
                              "--user.");
     }
+    const bool wasTrusted = m_session.host().trust().isTrusted();
     layers().setInProject(key, value);
     for (const Problem& problem : m_session.host().save()) {
       throw CommandError(ExitCode::NothingDone, sentence(problem));
     }
+    if (!m_session.host().trust().isTrusted()) noteTrust(wasTrusted, project.getFullFileName());
+  }
+
+  /// What the user sets himself needs no second thought, unless others have brought something too.
+  void noteTrust(bool wasTrusted, const std::string& projectFile) {
+    std::ostream& err = invocation().console.err;
+    if (!wasTrusted) {
+      err << linesForPeople(m_session.host().trustAdvice()) << '\n';
+      return;
+    }
+    if (const std::optional<std::string> failure = m_session.host().trust().trust(projectFile)) {
+      throw CommandError(ExitCode::SomeFailed, *failure);
+    }
+    err << "You set this command yourself, so you trust it from now on. Everybody else who has the "
+           "project is asked first.\n";
   }
 
   const Invocation& m_invocation;

@@ -13,11 +13,12 @@ namespace veldra::host::cli {
 
 namespace {
 
-constexpr std::size_t ColumnCount = 6;
+constexpr std::size_t ColumnCount = 7;
 using Row = std::array<std::string, ColumnCount>;
 
 Row rowOf(const UnitRecord& unit) {
-  return {unit.mode,
+  return {unit.state,
+          unit.mode,
           textForPeople(unit.version),
           textForPeople(unit.locker),
           textForPeople(unit.type),
@@ -43,16 +44,18 @@ void printIndented(std::string_view mark, std::string_view text, std::ostream& o
 }  // namespace
 
 void printListing(const std::vector<UnitRecord>& units, std::ostream& out) {
-  std::vector<Row> rows = {{"MODE", "VERSION", "LOCKER", "TYPE", "NAME", "PATH"}};
+  std::vector<Row> rows = {{"STATE", "MODE", "VERSION", "LOCKER", "TYPE", "NAME", "PATH"}};
   rows.reserve(units.size() + 1);
   for (const UnitRecord& unit : units) rows.push_back(rowOf(unit));
   std::array<std::size_t, ColumnCount> widths{};
   for (const Row& row : rows) {
     for (std::size_t i = 0; i < ColumnCount; ++i) widths[i] = std::max(widths[i], widthOf(row[i]));
   }
+  const bool hasState =
+      std::ranges::any_of(units, [](const UnitRecord& unit) { return !unit.state.empty(); });
   std::string text;
   for (const Row& row : rows) {
-    for (std::size_t i = 0; i + 1 < ColumnCount; ++i) {
+    for (std::size_t i = hasState ? 0 : 1; i + 1 < ColumnCount; ++i) {
       text += row[i];
       text.append(widths[i] - widthOf(row[i]) + 2, ' ');
     }

@@ -32,6 +32,7 @@ Json jsonOf(const UnitRecord& unit) {
   json["version"] = jsonText(unit.version);
   json["mode"] = unit.mode;
   json["locker"] = jsonText(unit.locker);
+  if (!unit.state.empty()) json["state"] = unit.state;
   json["result"] = resultWord(unit.result);
   json["message"] = jsonText(unit.message);
   if (unit.result == UnitResult::Planned) json["plan"] = jsonOf(unit.plan);

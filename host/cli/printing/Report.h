@@ -25,8 +25,9 @@ ExitCode exitCodeOf(const std::vector<UnitRecord>& units);
 nlohmann::ordered_json jsonText(const std::string& bytes);
 
 /// The one document of a run: {"command", "units": [{"path", "name", "type", "version", "mode",
-/// "locker", "result", "message"}]}, keys in this order. A "message" follows the units when there
-/// is one, a "plan" the unit's message in a dry run.
+/// "locker", "result", "message"}]}, keys in this order; "state" follows the locker where it is
+/// known. A "message" follows the units when there is one, a "plan" the unit's message in a dry
+/// run.
 void printJson(const Report& report, std::ostream& out);
 
 /// A document of another shape.

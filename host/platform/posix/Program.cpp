@@ -1,7 +1,12 @@
 #include "host/platform/Program.h"
 
+#include <errno.h>
+#include <signal.h>
 #include <stdlib.h>
 #include <unistd.h>
+
+#include <fstream>
+#include <string>
 
 namespace veldra::host {
 
@@ -19,6 +24,20 @@ bool isTerminal(StandardStream stream) {
 
 void setVariable(const char* name, const char* value) {
   setenv(name, value, 1);
+}
+
+long processNumber() {
+  return getpid();
+}
+
+bool isProcessAlive(long number) {
+  if (kill(static_cast<pid_t>(number), 0) != 0) return errno != ESRCH;
+  // One that has ended keeps its number until its parent asks; some containers never do.
+  std::ifstream status("/proc/" + std::to_string(number) + "/stat");
+  std::string line;
+  std::getline(status, line);
+  const std::size_t name = line.rfind(')');
+  return name == std::string::npos || line.compare(name, 3, ") Z") != 0;
 }
 
 }  // namespace veldra::host

@@ -2,6 +2,7 @@
 
 #include <io.h>
 #include <stdlib.h>
+#include <windows.h>
 
 namespace veldra::host {
 
@@ -11,6 +12,20 @@ bool isTerminal(StandardStream stream) {
 
 void setVariable(const char* name, const char* value) {
   _putenv_s(name, value);
+}
+
+long processNumber() {
+  return static_cast<long>(GetCurrentProcessId());
+}
+
+bool isProcessAlive(long number) {
+  const HANDLE process =
+      OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, static_cast<DWORD>(number));
+  if (process == nullptr) return GetLastError() != ERROR_INVALID_PARAMETER;
+  DWORD code = 0;
+  const bool isRunning = GetExitCodeProcess(process, &code) == 0 || code == STILL_ACTIVE;
+  CloseHandle(process);
+  return isRunning;
 }
 
 }  // namespace veldra::host

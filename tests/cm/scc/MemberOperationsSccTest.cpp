@@ -90,7 +90,7 @@ TEST_F(MemberOperationsSccTest, AddTakesTheTypeFromTheContent) {
   EXPECT_EQ(call(CMFacade::AddMember), 1);
   ASSERT_THAT(calls("SccAdd"), SizeIs(1));
   EXPECT_TRUE(calls("SccAdd")[0].ends_with(" 'why' 1 0")) << calls("SccAdd")[0];
-  EXPECT_THAT(shown(), ElementsAre("60106: 2 %2"));
+  EXPECT_THAT(shown(), ElementsAre("60206: 2 %2"));
 }
 
 TEST_F(MemberOperationsSccTest, AddLeavesOutWhatTheArchiveHasAndFindsOutWhatBecameOfTheRest) {
@@ -166,7 +166,7 @@ TEST_F(MemberOperationsSccTest, RenameRefusesWhatCannotStayInStep) {
   EXPECT_THAT(calls("SccRename"), ElementsAre("SccRename /plan/A.vcl /plan/Engine.vcl",
                                               "SccRename /plan/Engine.vcl /plan/A.vcl"));
   EXPECT_EQ(contentOf("/plan/Engine.vcl"), "mine");
-  EXPECT_THAT(shown(), ElementsAre(HasSubstr("60109: /plan/A.vcl")));
+  EXPECT_THAT(shown(), ElementsAre(HasSubstr("60209: /plan/A.vcl")));
 }
 
 TEST_F(MemberOperationsSccTest, WhatTheArchiveDoesNotHaveIsMovedOnTheDiskAlone) {
@@ -191,7 +191,7 @@ TEST_F(MemberOperationsSccTest, MoveGoesToTheTargetAndTakesPackagesWhole) {
   forget();
   EXPECT_EQ(call(CMFacade::MoveMember), 0);
   ASSERT_THAT(m_diagnostics, SizeIs(1));
-  EXPECT_THAT(m_diagnostics[0].getMessage(), HasSubstr("60110: /plan/B.vcl"));
+  EXPECT_THAT(m_diagnostics[0].getMessage(), HasSubstr("60210: /plan/B.vcl"));
 }
 
 TEST_F(MemberOperationsSccTest, ThePackageContentOfATaskBasedProviderMovesFileByFile) {
@@ -375,7 +375,7 @@ TEST_F(MemberOperationsSccTest, TaskCommandsReachTheProviderOrSayThatItLacksThem
   EXPECT_EQ(CorvaneAdapter::CheckinTask("paint", "done"), 1);
   EXPECT_THAT(calls("SccCheckinTask"), ElementsAre("SccCheckinTask paint 'done'"));
   EXPECT_EQ(CorvaneAdapter::ShowTask("paint"), 0);
-  EXPECT_THAT(shown(), ElementsAre("60103: Show Task SccShowTask"));
+  EXPECT_THAT(shown(), ElementsAre("60203: Show Task SccShowTask"));
 }
 
 }  // namespace

@@ -47,7 +47,7 @@ TEST_F(MisbehavingProviderTest, ACrashEndsTheOperationAndTheProviderButNothingEl
     const UnitList before = m_units;
     EXPECT_EQ(fetch(), 0);
     EXPECT_THAT(shown(), SizeIs(1));
-    EXPECT_THAT(shown().front(), HasSubstr("60101: SccGet"));
+    EXPECT_THAT(shown().front(), HasSubstr("60201: SccGet"));
     ASSERT_THAT(m_diagnostics, SizeIs(1));
     EXPECT_THAT(m_diagnostics.front().getMessage(), HasSubstr("SccGet"));
     EXPECT_EQ(m_units, before);
@@ -59,7 +59,7 @@ TEST_F(MisbehavingProviderTest, ACrashEndsTheOperationAndTheProviderButNothingEl
     // Whatever it may have broken, it is not asked again.
     forget();
     EXPECT_EQ(CMFacade::CheckIn(m_units, m_arguments, m_diagnostics), 0);
-    EXPECT_THAT(shown(), Contains(HasSubstr("60101: SccGet")));
+    EXPECT_THAT(shown(), Contains(HasSubstr("60201: SccGet")));
   }
 }
 
@@ -73,7 +73,7 @@ TEST_F(MisbehavingProviderTest, ACrashWhileConnectingIsABrokenConnection) {
 TEST_F(MisbehavingProviderTest, AnUnloadDuringACallIsACrash) {
   misbehave("unload");
   EXPECT_EQ(fetch(), 0);
-  EXPECT_THAT(shown(), Contains(HasSubstr("60101: SccGet")));
+  EXPECT_THAT(shown(), Contains(HasSubstr("60201: SccGet")));
   installHost(&m_host);  // Drops the module's state, with what it holds of the library.
   useProvider();
 }
@@ -166,7 +166,7 @@ TEST_F(MisbehavingProviderTest, AProviderWithoutEntryPointsReadsAsSuccessOrIsRep
     m_diagnostics.clear();
     EXPECT_EQ(operation(m_units, m_arguments, m_diagnostics), 0);
     ASSERT_THAT(m_diagnostics, SizeIs(1));
-    EXPECT_THAT(m_diagnostics.front().getMessage(), HasSubstr("60103: "));
+    EXPECT_THAT(m_diagnostics.front().getMessage(), HasSubstr("60203: "));
   }
 }
 
@@ -175,7 +175,7 @@ TEST_F(MisbehavingProviderTest, ALibraryThatCannotBeLoadedIsReportedOnce) {
   EXPECT_EQ(fetch(), 0);
   EXPECT_EQ(fetch(), 0);
   EXPECT_THAT(shown(), SizeIs(1));
-  EXPECT_THAT(shown().front(), HasSubstr("60102"));
+  EXPECT_THAT(shown().front(), HasSubstr("60202"));
   EXPECT_EQ(m_host.memoryLibraries.loads, 1);
 }
 

@@ -166,7 +166,7 @@ TEST_F(UnitOperationsSccTest, CheckInAddsNewUnitsWhereTheProjectAllowsIt) {
   EXPECT_THAT(windowLines("966: /plan/A.vcl"), SizeIs(1));
   EXPECT_THAT(calls("SccCheckin"), IsEmpty());
   EXPECT_THAT(calls("SccAdd"), ElementsAre("SccAdd /plan/A.vcl /plan/B.vcl 'why' 0 0"));
-  EXPECT_THAT(shown(), ElementsAre("60106: 2 %2"));
+  EXPECT_THAT(shown(), ElementsAre("60206: 2 %2"));
   forget();
   m_provider->status["/plan/B.vcl"] = Mine;
   EXPECT_EQ(checkIn(), 0);

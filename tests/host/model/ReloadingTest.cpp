@@ -226,14 +226,18 @@ TEST(ModelFileHandler, knowsBothExtensionsAndLeavesOtherFilesAlone) {
   EXPECT_EQ(other.fileNameToLoad(), "");
 }
 
-TEST(ModelFileHandler, aCopyLeftByACrashIsKeptAndReported) {
+TEST(ModelFileHandler, aCopyLeftByACrashIsReportedUnlessItIsJustLikeTheFile) {
   TempModel model;
   model.putProject();
   ModelFileHandler handler(model.path("M.vdy"));
   handler.prepare(CMVDYHandler::CheckOut);
-  const auto project = model.load();
-  EXPECT_THAT(allProblems(*project), HasSubstr("interrupted"));
-  handler.complete();
+  const std::string before = model.read("M.vdy");
+  model.put("M.vdy", before + "\n");
+  EXPECT_THAT(allProblems(*model.load()), HasSubstr("interrupted"));
+  model.put("M.vdy", before);
+  EXPECT_EQ(allProblems(*model.load()), "");
+  model.put("M.vdy", before + "\n");
+  EXPECT_EQ(allProblems(*model.load()), "") << "it is gone";
 }
 
 }  // namespace

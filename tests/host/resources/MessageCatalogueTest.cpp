@@ -25,18 +25,21 @@ TEST(MessageCatalogue, hasAClearTextForEveryNumberWithItsValues) {
   Problems problems;
   const MessageCatalogue catalogue(sourceRoot(), "en", problems);
   EXPECT_TRUE(problems.empty());
-  const std::map<int, int> withValues = {{948, 1},   {949, 4},   {953, 2},   {954, 1},   {955, 1},
-                                         {966, 1},   {967, 1},   {47640, 1}, {48352, 2}, {50055, 1},
-                                         {60001, 1}, {60002, 2}, {60003, 2}, {60005, 1}, {60006, 2},
-                                         {60007, 2}, {60008, 1}, {60009, 1}, {60010, 1}, {60011, 2},
-                                         {60101, 2}, {60102, 2}, {60103, 2}, {60106, 1}, {60107, 1},
-                                         {60108, 1}, {60109, 1}, {60110, 1}, {60112, 1}};
+  const std::map<int, int> withValues = {
+      {948, 1},   {949, 4},   {953, 2},   {954, 1},   {955, 1},   {966, 1},   {967, 1},
+      {47640, 1}, {48352, 2}, {50055, 1}, {60001, 1}, {60002, 2}, {60003, 2}, {60005, 1},
+      {60006, 2}, {60007, 2}, {60008, 1}, {60009, 1}, {60010, 1}, {60011, 2}, {60100, 1},
+      {60030, 2}, {60116, 1}, {60201, 2}, {60202, 2}, {60203, 2}, {60206, 1}, {60207, 1},
+      {60208, 1}, {60209, 1}, {60210, 1}, {60211, 1}};
   std::vector<int> ids = {948,   949,   953,   954,   955,   958,   959,   962,   966,   967,
                           46547, 46554, 46560, 46563, 46565, 46566, 46567, 47640, 48312, 49434,
                           49488, 49494, 49762, 49763, 49764, 49765, 49982, 50055};
   for (int id = 48318; id <= 48359; ++id) ids.push_back(id);
   for (int id = 60001; id <= 60011; ++id) ids.push_back(id);
-  for (int id = 60101; id <= 60112; ++id) ids.push_back(id);
+  for (int id = 60100; id <= 60101; ++id) ids.push_back(id);
+  for (int id = 60110; id <= 60122; ++id) ids.push_back(id);
+  ids.insert(ids.end(), {60020, 60021, 60030});
+  for (int id = 60201; id <= 60211; ++id) ids.push_back(id);
   constexpr int EmptyTrailer = 48351;
   for (const int id : ids) {
     const std::string text = catalogue.text(id);

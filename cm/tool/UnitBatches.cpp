@@ -1,0 +1,134 @@
+#include "cm/tool/UnitBatches.h"
+
+#include <algorithm>
+#include <string_view>
+#include <unordered_set>
+#include <utility>
+
+#include "cm/core/CMArchive.h"
+#include "cm/core/TextTools.h"
+#include "cm/host/Host.h"
+#include "cm/templates/CMProperty.h"
+#include "cm/tool/CMToolShellInterface.h"
+
+namespace veldra {
+
+namespace {
+
+std::string batchProperty(const CommandTemplate& single) {
+  return std::string(single.property) + "Batch";
+}
+
+/// "unitList": a file with the names of units, for as long as this lives.
+class UnitListFile : public CMArgument {
+ public:
+  explicit UnitListFile(const std::vector<IUnit*>& units) {
+    if (installedHost() == nullptr) return;
+    std::string names;
+    for (const IUnit* unit : units) names += unit->getFullFileName() + '\n';
+    m_path = installedHost()->environment().createTempFile(names);
+  }
+  UnitListFile(const UnitListFile&) = delete;
+  UnitListFile& operator=(const UnitListFile&) = delete;
+  ~UnitListFile() override {
+    if (exists() && installedHost() != nullptr) installedHost()->environment().removeFile(m_path);
+  }
+  bool exists() const { return !m_path.empty(); }
+
+  int isNamed(const std::string& keyword) const override {
+    return equalsNoCase(keyword, "unitList") ? 1 : 0;
+  }
+  std::string substitute(const std::string& keyword) override {
+    return isNamed(keyword) != 0 ? quotedIfContains(m_path, " ") : keyword;
+  }
+
+ private:
+  std::string m_path;
+};
+
+/// The files that an answer names as done.
+std::unordered_set<std::string_view> doneFiles(std::string_view answer) {
+  constexpr std::string_view mark = "done: ";
+  std::unordered_set<std::string_view> files;
+  for (std::size_t from = 0; from < answer.size();) {
+    const std::size_t end = std::min(answer.find('\n', from), answer.size());
+    const std::string_view line = answer.substr(from, end - from);
+    if (line.starts_with(mark)) files.insert(line.substr(mark.size()));
+    from = end + 1;
+  }
+  return files;
+}
+
+}  // namespace
+
+bool UnitBatches::offers(const CommandTemplate& single) const {
+  const std::string property = batchProperty(single);
+  return hasValue({.property = property.c_str(), .providerMetaclass = single.providerMetaclass});
+}
+
+void UnitBatches::add(IUnit& unit, const CommandTemplate& single) {
+  std::string key = batchProperty(single);
+  if (m_row.choosesArchive && CMArchive::getArchiveSelection() != CMArchive::ArchiveUnset) {
+    std::string archive;
+    CMProperty::getBatchArchiveRecursive(&unit, archive);
+    key += '\n' + archive;
+  }
+  const auto [at, isNew] = m_groupOf.emplace(std::move(key), m_groups.size());
+  if (isNew) m_groups.push_back({.single = single, .units = {}});
+  m_groups[at->second].units.push_back(&unit);
+}
+
+void UnitBatches::run(const std::function<UnitPreparation(IUnit&)>& prepare) {
+  for (const Group& group : m_groups) {
+    if (group.units.size() < 2 || UnitProgress::isCancelled()) continue;
+    if (m_row.choosesArchive) chooseArchiveOf(group.units.front());
+    Group able{.single = group.single, .units = {}};
+    Preparations preparations;
+    for (IUnit* unit : group.units) {
+      UnitPreparation preparation = prepare(*unit);
+      // It is refused when its own turn comes.
+      if (preparation.mustNotRun()) continue;
+      able.units.push_back(unit);
+      preparations.emplace(unit, std::move(preparation));
+    }
+    runGroup(able, std::move(preparations));
+  }
+}
+
+std::optional<std::string> UnitBatches::runCommand(const Group& group) {
+  UnitListFile list(group.units);
+  if (!list.exists()) return std::string();
+  const PushedArgument pushed(m_arguments, list);
+  std::string command;
+  std::string extra;
+  if (CMProperty::ExpandProperty(batchProperty(group.single), m_arguments, command, extra,
+                                 group.single.providerMetaclass) != 1 ||
+      command.empty()) {
+    return std::string();
+  }
+  std::string output;
+  std::string errorText;
+  const int executed = runTraced(command, m_row.traceBefore, m_row.traceAfter, output, errorText);
+  if (executed == 1 && !theCMToolShellInterface().lastCommandEnd().failed) return std::nullopt;
+  return output;
+}
+
+void UnitBatches::runGroup(const Group& group, Preparations preparations) {
+  const std::optional<std::string> answer = runCommand(group);
+  const std::unordered_set<std::string_view> files =
+      answer ? doneFiles(*answer) : std::unordered_set<std::string_view>();
+  for (const IUnit* unit : group.units) {
+    if (answer && !files.contains(unit->getFullFileName())) continue;
+    m_done[unit] = std::move(preparations[unit]);
+  }
+}
+
+std::optional<UnitPreparation> UnitBatches::takeDone(const IUnit& unit) {
+  const auto at = m_done.find(&unit);
+  if (at == m_done.end()) return std::nullopt;
+  UnitPreparation preparation = std::move(at->second);
+  m_done.erase(at);
+  return preparation;
+}
+
+}  // namespace veldra

@@ -1,0 +1,40 @@
+#include "cm/core/CMFacade.h"
+#include "cm/host/IPN.h"
+#include "cm/templates/CMProperty.h"
+#include "host/cli/UnitOperation.h"
+
+namespace veldra::host::cli {
+
+namespace {
+
+/// A package goes with its folder when the tool can do that; otherwise its units go one by one.
+bool goesWithFolder(const UnitCore& unit) {
+  std::string command;
+  return unit.record().directoryUnit && unit.hasFile() &&
+         CMProperty::getToolPropertyValue(IPN::DeleteDirectory, command) && !command.empty();
+}
+
+}  // namespace
+
+ExitCode runDelete(const Invocation& invocation) {
+  const bool isRecursive = invocation.options.recursive;
+  const UnitOperation operation{.run = CMFacade::DeleteMember,
+                                .templateProperty = IPN::Delete,
+                                .action = "delete",
+                                .pastAction = "deleted",
+                                .mode = CMMode::ReadOnly,
+                                .all = AllUnits::Every,
+                                .lock = "given back",
+                                .plan = [isRecursive](UnitCore& unit) -> Result<Rearrangement> {
+                                  if (!isRecursive && !unit.children().empty()) {
+                                    return Result<Rearrangement>::failure(
+                                        "It holds " + std::to_string(unit.children().size()) +
+                                        " units of its own. Give -r to delete them with it.");
+                                  }
+                                  return Rearrangement::planDelete(unit, goesWithFolder(unit));
+                                },
+                                .wholePackage = goesWithFolder};
+  return runUnitOperation(invocation, operation);
+}
+
+}  // namespace veldra::host::cli

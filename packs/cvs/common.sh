@@ -1,0 +1,108 @@
+# Sourced by the helpers beside it: the surroundings of cvs, units, editors, directories.
+pack='cvs archive'
+. "${0%/*}/../shared/units.sh"
+
+# Files come read-only also where nobody may turn watching on; nobody is there to edit.
+export CVSREAD=1 CVSEDITOR=:
+unset CVSROOT
+
+needs cvs
+
+# The user's own .cvsrc may change the meaning of any command.
+cvs() {
+  command cvs -f -q "$@"
+}
+
+# on UNITS COMMAND...: a cvs command with the paths at its end, which cvs wants to be relative.
+on() {
+  paths=$1
+  shift
+  relative "$paths" | tr '\n' '\000' | xargs -0 cvs -f -q "$@"
+}
+
+open_folder() {
+  [ -f CVS/Root ] || fail "The folder is not connected to an archive; connect it first."
+}
+
+# state_of UNITS: a line a file that is not as in the archive: a letter, a blank, the path. M, A and R
+# have been changed here, U and P in the archive, C on both sides.
+state_of() {
+  on "$1" -n update -- 2>/dev/null | grep '^[AMRUPC] ' || :
+}
+
+# entries DIRECTORY: the lines that cvs keeps about its files; new ones stand in a log of their own.
+entries() {
+  cat "$1/CVS/Entries" 2>/dev/null || :
+  sed -n 's/^A //p' "$1/CVS/Entries.Log" 2>/dev/null || :
+}
+
+# in_archive UNITS: fails, naming one, unless all of them are under control. One that is scheduled to
+# be added has the revision 0.
+in_archive() {
+  relative "$1" | while read -r file; do
+    entries "$(dirname -- "$file")" | grep -F "/${file##*/}/" | grep -q -v "^/${file##*/}/0/" ||
+      fail "'$file' is not in the archive; add it first."
+  done
+}
+
+# make_folder DIRECTORY: gives a directory that exists in the archive its place here, without bringing
+# any file of it, as cvs has no command for that.
+make_folder() {
+  [ ! -d "$1/CVS" ] || return 0
+  make_folder "$(dirname -- "$1")"
+  mkdir -p -- "$1/CVS"
+  cp CVS/Root "$1/CVS/Root"
+  printf '%s/%s\n' "$(cat "$(dirname -- "$1")/CVS/Repository")" "${1##*/}" >"$1/CVS/Repository"
+  : >"$1/CVS/Entries"
+  printf 'A D/%s////\n' "${1##*/}" >>"$(dirname -- "$1")/CVS/Entries.Log"
+}
+
+make_folders() {
+  relative "$1" | sed -n 's|/[^/]*$||p' | sort -u | while read -r folder; do
+    make_folder "$folder"
+  done
+}
+
+# bring_newest UNITS: merges what is new in the archive into the files.
+bring_newest() {
+  make_folders "$1"
+  run on "$1" update -A -- || give_up
+  missing=$(relative "$1" | while read -r file; do [ -e "$file" ] || printf '%s\n' "$file"; done)
+  [ -z "$missing" ] ||
+    fail "'${missing%%"$newline"*}' is not in the archive; add it first."
+  case $newline$answer in
+    *"${newline}C "*) give_up ;;
+  esac
+  show
+}
+
+# other_editor UNITS: a file and who edits it beside the user, with a tab between; for the first one.
+other_editor() {
+  on "$1" editors -- 2>/dev/null | awk -F '\t' -v me="$(login)" '
+    $1 != "" { file = $1 }
+    $2 != me && !told { print file FS $2; told = 1 }'
+}
+
+# refuse_edited UNITS
+refuse_edited() {
+  other=$(other_editor "$1")
+  [ -z "$other" ] || fail "'${other%%"	"*}' is being edited by '${other#*"	"}'."
+}
+
+# take UNITS: registers the user as editor, which makes the files writable, unless there is another.
+take() {
+  refuse_edited "$1"
+  # cvs is content when it could serve the last of several files.
+  run on "$1" edit -c -- && [ "${answer#*existing editors}" = "$answer" ] && return
+  # Somebody else was quicker, or the user edits it already, perhaps in another folder.
+  refuse_edited "$1"
+  on "$1" edit -f --
+}
+
+# give UNITS: takes the user from the editors; what has been changed goes back to what it was when it
+# was taken.
+give() {
+  relative "$1" | while read -r file; do
+    yes | command cvs -f -q unedit -- "$file" >/dev/null
+  done
+}

@@ -1,0 +1,27 @@
+# fetch.sh UNITS [LABEL]: merges what is new in the archive into the files, or brings the revision that
+# a label names: a tag or a number.
+. "${0%/*}/common.sh"
+
+units=$1 wanted=${2:-}
+
+# has_revision FILE: cvs itself would remove a file that lacks the tag.
+has_revision() {
+  case $wanted in
+    [0-9]*) cvs log -N -r"$wanted" -- "$1" | grep -q "^revision $wanted\$" ;;
+    *) cvs log -h -- "$1" | grep -q "^	$wanted: " ;;
+  esac
+}
+
+open_folder
+if [ -z "$wanted" ]; then
+  bring_newest "$units"
+  exit
+fi
+in_archive "$units"
+changed=$(state_of "$units" | sed -n 's/^[MC] //p')
+[ -z "$changed" ] ||
+  fail "'${changed%%"$newline"*}' has local changes; check it in, or undo them first."
+relative "$units" | while read -r file; do
+  has_revision "$file" || fail "There is no label or revision '$wanted' of '$file' in the archive."
+done
+on "$units" update -r "$wanted" --

@@ -1,0 +1,17 @@
+# add.sh UNITS [--label=LABEL] [COMMENTFILE]: commits new files and pushes them.
+. "${0%/*}/common.sh"
+. "${0%/*}/commit.sh"
+
+units=$1
+shift
+read_options "$@"
+begin_commit
+present=$(about "$units" git ls-files)
+[ -z "$present" ] || fail "'${present%%"$newline"*}' is in the archive already."
+run on "$units" add -N -f || give_up
+run commit "$units" "$comment" || {
+  on "$units" reset -q
+  give_up
+}
+publish "$units"
+make_read_only "$units"

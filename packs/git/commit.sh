@@ -1,0 +1,79 @@
+# Sourced by the helpers that bring something into the archive.
+
+moved_on="The archive has newer commits than this folder. Fetch first, then do it again."
+
+unsaved="A file has local changes; check it in, or undo them first."
+
+# begin_commit: refuses what would fail in the end. Sets $old, the commit to go back to.
+begin_commit() {
+  open_repository
+  name_user
+  receive || give_up
+  ! is_behind || fail "$moved_on"
+  [ ! -e "$(git rev-parse --git-path MERGE_HEAD)" ] ||
+    fail "A merge is not finished in this folder; git commit or git merge --abort ends it."
+  old=$(git rev-parse -q --verify HEAD || :)
+  [ -z "$label" ] || check_label
+}
+
+# A label on the newest commit moves along with the next; any other stays what it is.
+check_label() {
+  git check-ref-format "refs/tags/$label" || fail "'$label' cannot be a label in git."
+  tagged=$(git rev-parse -q --verify "refs/tags/$label^{commit}" || :)
+  [ -z "$tagged" ] || [ "$tagged" = "$old" ] ||
+    fail "The label '$label' exists already, for an older state. Choose another one."
+}
+
+# commit UNITS COMMENTFILE: commits exactly these files, with the comment byte for byte.
+commit() {
+  units=$1
+  # git takes no zero bytes in comments.
+  tr -d '\000' <"${2:-/dev/null}" | {
+    message=$(mktemp "${TMPDIR:-/tmp}/veldra-cm-$$-XXXXXX")
+    trap 'rm -f "$message"' EXIT
+    cat >"$message"
+    on "$units" commit -q --only --allow-empty-message --cleanup=verbatim --file="$message" 2>&1
+  }
+}
+
+# take_back UNITS: undoes the commit; the files stay as they are.
+take_back() {
+  if [ -n "$old" ]; then
+    git reset -q --soft "$old"
+  else
+    git update-ref -d HEAD
+  fi
+  on "$1" reset -q
+}
+
+# tag_and_push: brings new commits and the label to the archive; false and nothing there when that
+# cannot be.
+tag_and_push() {
+  former=
+  if [ -n "$label" ]; then
+    former=$(git rev-parse -q --verify "refs/tags/$label" || :)
+    run git tag -f -a -m "$label" -- "$label" || return
+  fi
+  [ -n "$remote" ] || return 0
+  run git push -q --atomic "$remote" "HEAD:$target" ${label:+"+refs/tags/$label"} && return
+  if [ -n "$former" ]; then
+    git update-ref "refs/tags/$label" "$former"
+  elif [ -n "$label" ]; then
+    git update-ref -d "refs/tags/$label"
+  fi
+  return 1
+}
+
+refuse_push() {
+  case $answer in
+    *'(fetch first)'* | *'(non-fast-forward)'*) fail "$moved_on" ;;
+    *) give_up ;;
+  esac
+}
+
+# publish UNITS: as `tag_and_push`; takes the commit back when that fails.
+publish() {
+  tag_and_push && return
+  take_back "$1"
+  refuse_push
+}

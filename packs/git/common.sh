@@ -1,0 +1,87 @@
+# Sourced by the helpers beside it: the surroundings of git, units, the archive.
+pack='git archive'
+. "${0%/*}/../shared/units.sh"
+
+# Set by a hook that started us, these would lead to another repository.
+unset GIT_DIR GIT_WORK_TREE GIT_INDEX_FILE GIT_OBJECT_DIRECTORY GIT_COMMON_DIR GIT_PREFIX GIT_NAMESPACE
+
+# Nobody is there to answer, to edit or to turn pages; names are names, whatever they contain.
+export GIT_TERMINAL_PROMPT=0 GIT_EDITOR=: GIT_SEQUENCE_EDITOR=: GIT_PAGER=cat GIT_MERGE_AUTOEDIT=no
+export GIT_LITERAL_PATHSPECS=1
+unset GIT_ASKPASS SSH_ASKPASS
+
+needs git
+
+# configure NAME VALUE: for every git that is started from here on.
+configure() {
+  export "GIT_CONFIG_KEY_${GIT_CONFIG_COUNT:-0}=$1" "GIT_CONFIG_VALUE_${GIT_CONFIG_COUNT:-0}=$2"
+  export GIT_CONFIG_COUNT=$((${GIT_CONFIG_COUNT:-0} + 1))
+}
+configure color.ui false
+configure core.askPass ''
+
+# An ssh that may not ask fails at once instead of waiting.
+[ -n "${GIT_SSH_COMMAND:-${GIT_SSH:-}}" ] ||
+  export GIT_SSH_COMMAND="$(git config core.sshCommand || echo ssh) -o BatchMode=yes"
+
+# on UNITS COMMAND...: a git command that takes the paths from its input.
+on() {
+  paths=$1
+  shift
+  each "$paths" | git "$@" --pathspec-from-file=- --pathspec-file-nul
+}
+
+# open_repository: sets $remote (empty: the folder is the archive itself) and $target, the branch
+# there.
+open_repository() {
+  git rev-parse --git-dir >/dev/null 2>&1 ||
+    fail "The folder is not connected to an archive; connect it first."
+  branch=$(git symbolic-ref -q HEAD) ||
+    fail "No branch is checked out in this folder; git switch BRANCH leads back to one."
+  name=${branch#refs/heads/}
+  remote=$(git config "branch.$name.remote" || :)
+  [ -n "$remote" ] || ! git config remote.origin.url >/dev/null || remote=origin
+  target=$(git config "branch.$name.merge" || echo "$branch")
+}
+
+# receive: learns what the archive holds; sets $tip to its newest commit, empty when it has none.
+receive() {
+  tip=
+  if [ -z "$remote" ]; then
+    tip=$(git rev-parse -q --verify 'HEAD^{commit}' || :)
+    return
+  fi
+  run git fetch -q "$remote" || return
+  tip=$(git rev-parse -q --verify "refs/remotes/$remote/${target#refs/heads/}^{commit}" || :)
+}
+
+# is_behind: whether the archive has commits that this folder lacks.
+is_behind() {
+  [ -n "$tip" ] && ! git merge-base --is-ancestor "$tip" HEAD 2>/dev/null
+}
+
+# name_user: makes sure that a commit has an author.
+name_user() {
+  [ -z "$(git config user.name)" ] && [ -z "${GIT_AUTHOR_NAME:-}" ] || return 0
+  [ "$(git config --type=bool user.useConfigOnly || :)" != true ] ||
+    fail "git knows no user name. Set one with git config --global user.name NAME."
+  login=$(login)
+  email=${EMAIL:-$(git config user.email || echo "$login@$(uname -n)")}
+  export GIT_AUTHOR_NAME="$login" GIT_COMMITTER_NAME="$login"
+  export GIT_AUTHOR_EMAIL="$email" GIT_COMMITTER_EMAIL="$email"
+  printf "git knows no user name; commits name '%s'. git config --global user.name sets one.\n" \
+    "$login"
+}
+
+# in_archive UNITS: fails, naming one, unless all of them are under control.
+in_archive() {
+  run about "$1" git ls-files --error-unmatch >/dev/null || {
+    path=${answer#*pathspec \'}
+    fail "'${path%%\' did not match*}' is not in the archive; add it first."
+  }
+}
+
+# has_content_of UNITS COMMIT: whether the files have the content of a commit.
+has_content_of() {
+  each "$1" | xargs -0 git diff --quiet "$2" -- 2>/dev/null
+}

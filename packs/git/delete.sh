@@ -1,0 +1,19 @@
+# delete.sh UNITS|DIRECTORY [COMMENTFILE]: takes files, or all below a directory, out of the archive and
+# of this folder. Changed files are refused.
+. "${0%/*}/common.sh"
+. "${0%/*}/commit.sh"
+. "${0%/*}/locks.sh"
+
+units=$1
+shift
+read_options "$@"
+begin_commit
+in_archive "$units"
+has_content_of "$units" HEAD || fail "$unsaved"
+refuse_locked "$units"
+run on "$units" rm -q -r || give_up
+run commit "$units" "$comment" && tag_and_push && exit
+take_back "$units"
+on "$units" checkout -q HEAD
+make_read_only "$units"
+refuse_push

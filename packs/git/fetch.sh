@@ -1,0 +1,36 @@
+# fetch.sh UNITS [LABEL]: brings the whole folder to the newest state, or these files alone to that
+# of a label: a tag, a commit, or a version as the listing shows it.
+. "${0%/*}/common.sh"
+. "${0%/*}/newest.sh"
+
+units=$1 wanted=${2:-}
+
+# content_of FILE: the object with its content in the wanted state.
+content_of() {
+  case $(git cat-file -t "$wanted" 2>/dev/null) in
+    blob) git rev-parse -q --verify "$wanted" ;;
+    commit | tag) git rev-parse -q --verify "$wanted:./$(relative "$1")" ||
+      fail "'$1' is not in '$wanted'." ;;
+    *) fail "There is no label or revision '$wanted' in the archive." ;;
+  esac
+}
+
+# fetch_label FILE
+fetch_label() {
+  object=$(content_of "$1") || exit
+  if [ -e "$1" ] && ! is_archived "$1"; then
+    fail "'$1' has local changes; check it in, or undo them first."
+  fi
+  replace "$1" git cat-file --filters --path="$(relative "$1")" "$object"
+}
+
+open_repository
+receive || give_up
+if [ -z "$wanted" ]; then
+  bring_newest
+  in_archive "$units"
+  restore "$units"
+else
+  [ -z "$remote" ] || run git fetch -q --tags "$remote" || give_up
+  lines "$units" | while read -r unit; do fetch_label "$unit"; done
+fi

@@ -1,0 +1,40 @@
+# move.sh OLD NEW OLDFILE NEWFILE [COMMENTFILE]: gives a file, or a directory with all below it, another
+# place. For a directory OLDFILE lies in it, and becomes NEWFILE in the new one. Changes of that file
+# are checked in with the move; other changed files are refused.
+. "${0%/*}/common.sh"
+. "${0%/*}/commit.sh"
+. "${0%/*}/locks.sh"
+. "${0%/*}/../shared/moving.sh"
+
+move_files() {
+  git mv -- "$1" "$2"
+}
+
+changed_below() {
+  git diff --relative --name-only -z HEAD -- "$1" | tr '\000' '\n'
+}
+
+# both: the list of what is committed.
+both() {
+  printf '%s\n' "$old_place" "$new_place" >"$work/both"
+  printf '@%s\n' "$work/both"
+}
+
+read_move "$@"
+read_options "${5:-}"
+begin_commit
+in_archive "$old_place"
+check_move
+refuse_locked "$old_place"
+move_there || give_up
+if run commit "$(both)" "$comment" && tag_and_push; then
+  chmod a-w -- "$new_file"
+  give_locks "$old_file"
+  exit
+fi
+reason=$answer
+[ "$(git rev-parse HEAD)" = "$old" ] || git reset -q --soft "$old"
+move_back
+on "$(both)" reset -q || :
+answer=$reason
+refuse_push

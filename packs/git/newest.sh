@@ -1,0 +1,65 @@
+# Sourced by the helpers that bring a folder up to date.
+. "${0%/*}/../shared/newest.sh"
+
+content() {
+  git show "$1:./$2"
+}
+
+merge_texts() {
+  git merge-file -q -p "$@"
+}
+
+arriving() {
+  git diff --relative --name-only --no-renames -z HEAD "$tip"
+}
+
+changed() {
+  git diff --relative --name-only --no-renames -z HEAD
+}
+
+# settle: brings what is missing, and makes read-only what has the content of the archive. Files that
+# lie there already are kept as they are.
+settle() {
+  git checkout-index -q -a || :
+  git update-index -q --refresh >/dev/null || :
+  git ls-files -z | xargs -0 -r chmod -f a-w -- || :
+  git diff --relative --name-only -z | xargs -0 -r chmod -f u+w -- || :
+}
+
+# bring_newest: moves the whole folder on to $tip. Local changes are merged in, or everything stays
+# as it is.
+bring_newest() {
+  is_behind || return 0
+  if ! git rev-parse -q --verify HEAD >/dev/null; then
+    git reset -q "$tip"
+    settle
+    return
+  fi
+  git merge-base --is-ancestor HEAD "$tip" ||
+    fail "This folder has commits that the archive lacks, and the archive has newer ones. \
+Bring both together with git rebase or git merge."
+  base=HEAD
+  begin_update
+  # A stash is a commit, so that nothing is lost even when this is interrupted.
+  name_user >/dev/null
+  stash=--autostash
+  [ -s "$work/both" ] || stash=--no-autostash
+  run git merge -q --ff-only "$stash" "$tip" || give_up
+  end_update
+}
+
+# restore UNITS: brings back files that are missing, and read-only ones with an older content of the
+# archive; a read-only file with any other content is somebody's work.
+restore() {
+  about "$1" git ls-files -z --deleted | git checkout-index -q -z --stdin || return
+  about "$1" git diff --relative --name-only -z HEAD | tr '\000' '\n' | while read -r file; do
+    if [ -z "$(printf '%s\000' "$file" | writable)" ] && is_archived "./$file"; then
+      git checkout -q HEAD -- "./$file" || return
+    fi
+  done
+}
+
+# is_archived FILE: whether its content is known to the repository.
+is_archived() {
+  git cat-file -e "$(git hash-object -- "$1")" 2>/dev/null
+}

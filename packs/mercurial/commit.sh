@@ -1,0 +1,69 @@
+# Sourced by the helpers that bring something into the archive.
+
+moved_on="The archive has newer commits than this folder. Fetch first, then do it again."
+
+# begin_commit: refuses what would fail in the end.
+begin_commit() {
+  open_repository
+  name_user
+  receive || give_up
+  [ -z "$tip" ] || fail "$moved_on"
+  [ -z "$label" ] || check_label
+}
+
+# A label on the newest commit moves along with the next; any other stays what it is.
+check_label() {
+  tagged=$(hg log -r "tag('literal:$label')" -T x 2>/dev/null || :)
+  newest="tag('literal:$label') and (. + p1(. and file('path:.hgtags')))"
+  [ -z "$tagged" ] || [ -n "$(hg log -r "$newest" -T x)" ] ||
+    fail "The label '$label' exists already, for an older state. Choose another one."
+}
+
+# commit UNITS COMMENTFILE: commits exactly these files. hg wants a comment, as UTF-8; bytes that are
+# none are read as ISO 8859-1.
+commit() {
+  message=$(mktemp "${TMPDIR:-/tmp}/veldra-cm-$$-XXXXXX")
+  tr -d '\000' <"${2:-/dev/null}" >"$message"
+  if ! iconv -f UTF-8 -t UTF-8 "$message" >/dev/null 2>&1; then
+    iconv -f ISO-8859-1 -t UTF-8 "$message" >"$message.utf8"
+    mv "$message.utf8" "$message"
+  fi
+  grep -q '[^[:space:]]' "$message" || echo "No comment." >"$message"
+  result=0
+  run on "$1" commit -q --logfile "$message" || result=$?
+  rm -f "$message"
+  return $result
+}
+
+# take_back: undoes what has been committed and scheduled; the files stay as they are.
+take_back() {
+  [ "$(hg log -r . -T '{node}')" = "$base" ] ||
+    hg --config extensions.strip= strip -q --keep --no-backup -r "children($base) and ::."
+  hg debugrebuilddirstate
+}
+
+refuse_push() {
+  case $answer in
+    *'new remote head'*) fail "$moved_on" ;;
+    *) give_up ;;
+  esac
+}
+
+# publish: as `tag_and_push`; takes the commits back when that fails.
+publish() {
+  tag_and_push && return
+  reason=$answer
+  take_back
+  answer=$reason
+  refuse_push
+}
+
+# tag_and_push: brings new commits and the label to the archive.
+tag_and_push() {
+  [ -z "$label" ] || run hg tag -q -f -m "Label $label" -- "$label" || return
+  [ -n "$remote" ] || return 0
+  result=0
+  run hg push -q -r . || result=$?
+  # 1: there was nothing to push.
+  [ "$result" -le 1 ]
+}

@@ -1,0 +1,83 @@
+# Sourced by the helpers beside it: the surroundings of hg, units, the archive.
+pack='mercurial archive'
+. "${0%/*}/../shared/units.sh"
+
+# No aliases, colours, pagers or translated texts; nobody is there to answer or to edit.
+export HGPLAIN=1 HGENCODING=UTF-8 HGEDITOR=:
+unset HGPLAINEXCEPT
+
+needs hg
+settings=$(command hg config paths.default ui.ssh ui.username 2>/dev/null || :)
+
+# setting NAME: of the user's or the folder's configuration.
+setting() {
+  printf '%s\n' "$settings" | sed -n "s/^$1=//p"
+}
+
+# An ssh that may not ask fails at once instead of waiting.
+ssh=$(setting ui.ssh)
+ssh="${ssh:-ssh} -o BatchMode=yes"
+
+hg() {
+  command hg --config ui.interactive=no --config ui.ssh="$ssh" --config ui.merge=internal:fail \
+    --config phases.new-commit=draft "$@"
+}
+
+# find_top: sets $top to the folder of the repository that this folder is in; false without one.
+find_top() {
+  top=$(pwd -P)
+  until [ -d "$top/.hg" ]; do
+    [ -n "$top" ] || return
+    top=${top%/*}
+  done
+}
+
+# on UNITS COMMAND...: an hg command about these files. Their absolute paths are never taken for
+# patterns.
+on() {
+  case $1 in
+    @*) files=listfile:${1#@} ;;
+    *) files=$1 ;;
+  esac
+  shift
+  hg "$@" -- "$files"
+}
+
+# open_repository: sets $remote; empty when the folder is the archive itself.
+open_repository() {
+  find_top || fail "The folder is not connected to an archive; connect it first."
+  remote=$(setting paths.default)
+}
+
+# receive: learns what the archive holds; sets $base, the commit of this folder, and $tip, the newest
+# one of its branch in the archive, or nothing when the folder has that.
+receive() {
+  [ -z "$remote" ] || run hg pull -q || return
+  base=$(hg log -r . -T '{node}')
+  tip=
+  [ -z "$remote" ] || tip=$(hg log -r 'max(heads(public() and branch(.))) - ::.' -T '{node}')
+}
+
+# name_user: makes sure that a commit has an author.
+name_user() {
+  [ -z "${HGUSER:-}${EMAIL:-}$(setting ui.username)" ] || return 0
+  HGUSER=$(login)
+  export HGUSER
+  printf "hg knows no user name; commits name '%s'. [ui] username = NAME in ~/.hgrc sets one.\n" \
+    "$HGUSER"
+}
+
+# in_archive UNITS: fails, naming one, unless all of them are under control. Sets $states, a line a
+# file with its state before it.
+in_archive() {
+  states=$(on "$1" status --all 2>/dev/null || :)
+  count=$(printf '%s\n' "$states" | grep -c '^[CMR!] ' || :)
+  [ "$count" -eq "$(lines "$1" | wc -l)" ] && return
+  stranger=$(printf '%s\n' "$states" | grep -m 1 '^[?IA] ' || lines "$1" | sed -n '1s/^/? /p')
+  fail "'${stranger#? }' is not in the archive; add it first."
+}
+
+# is_changed: whether any of the files that `in_archive` has looked at is.
+is_changed() {
+  printf '%s\n' "$states" | grep -q '^[MR!] '
+}

@@ -1,0 +1,83 @@
+# Sourced by the helpers that bring a folder up to date.
+. "${0%/*}/../shared/newest.sh"
+
+content() {
+  hg cat -r "$1" -- "$PWD/$2"
+}
+
+merge_texts() {
+  diff3 -m "$@"
+}
+
+arriving() {
+  hg status -n0 --rev . --rev "$tip" -- "$PWD"
+}
+
+changed() {
+  hg status -mn0 -- "$PWD"
+}
+
+# settle: takes $tip for the state of a folder without one. Files that lie there already are kept.
+settle() {
+  hg debugsetparents "$tip" && hg debugrebuilddirstate && bring_missing && set_modes
+}
+
+# set_modes: what has the content of the archive becomes read-only.
+set_modes() {
+  hg files -0 -- "$PWD" 2>/dev/null | xargs -0 -r chmod -f a-w -- || :
+  changed | xargs -0 -r chmod -f u+w -- || :
+}
+
+bring_missing() {
+  hg revert -q --no-backup 'set:deleted()'
+}
+
+# bring_newest: moves the whole folder on to $tip. Local changes are merged in, or everything stays
+# as it is.
+bring_newest() {
+  [ -n "$tip" ] || return 0
+  case $base in
+    *[!0]*) ;;
+    *)
+      settle
+      return
+      ;;
+  esac
+  [ -n "$(hg log -r ". and ::$tip" -T '{node}')" ] ||
+    fail "This folder has commits that the archive lacks, and the archive has newer ones. \
+Bring both together with hg merge."
+  begin_update
+  # A file that both sides have changed stays; what has been merged then takes its place.
+  run hg update -q --merge --tool internal:local -r "$tip" || give_up
+  number=0
+  while read -r file; do
+    number=$((number + 1))
+    cp "$work/merged/$number" "./$file.veldra-merged" && mv -f "./$file.veldra-merged" "./$file"
+  done <"$work/both"
+  end_update
+}
+
+# Files that hold the content of a label are remembered, with a sum of that content, so that they are
+# not taken for somebody's work.
+remembered() {
+  printf '%s\n' "$top/.hg/veldra-fetched"
+}
+
+sum_of() {
+  printf '%s %s\n' "$(cksum <"$1")" "$1"
+}
+
+is_fetched() {
+  sum_of "$1" | grep -q -x -F -f - "$(remembered)" 2>/dev/null
+}
+
+# restore UNITS: brings back files that are missing, and read-only ones with the content of a label.
+restore() {
+  bring_missing
+  on "$1" status -mn 2>/dev/null | while read -r file; do
+    file=$(pwd -P)/$(relative "$top/$file")
+    if [ -z "$(printf '%s\000' "$(relative "$file")" | writable)" ] && is_fetched "$file"; then
+      hg revert -q --no-backup -- "$file" && chmod a-w -- "$file" || return
+    fi
+  done
+}

@@ -1,0 +1,9 @@
+# label.sh ARCHIVEFILE DIRECTORY/ --label=LABEL: gives the newest revision a label.
+. "${0%/*}/common.sh"
+. "${0%/*}/labels.sh"
+
+name_files "$1" "$2"
+[ -f "$archived" ] || fail "'$archived' does not exist; the file is not in the archive."
+read_options "$3"
+[ -n "$label" ] || fail "No label is given."
+attach_label

@@ -1,0 +1,111 @@
+# Sourced by the helpers of several packs: messages, the units of a command, modes of files. The pack
+# sets $pack, the word before its own messages.
+#
+# UNITS of a helper is the path of one file, or "@" and the path of a list with a path a line.
+set -eu
+
+# English texts, because answers are read. LANGUAGE would win over the locale's language.
+export LC_ALL=C.UTF-8 LANGUAGE=
+
+newline='
+'
+
+fail() {
+  printf '%s: %s\n' "$pack" "$1" >&2
+  exit 1
+}
+
+# needs PROGRAM...
+needs() {
+  for program do
+    command -v "$program" >/dev/null ||
+      fail "The program '$program' is not installed or not in PATH."
+  done
+}
+
+# read_options [--label=LABEL] [COMMENTFILE]: sets $label and $comment.
+read_options() {
+  label=
+  case ${1:-} in
+    --label=*)
+      label=${1#--label=}
+      shift
+      ;;
+  esac
+  comment=${1:-}
+  # Where keywords are not replaced, the comment's stands for none.
+  [ -f "$comment" ] || comment=
+}
+
+# run COMMAND...: keeps all that it prints in $answer, so that the caller can look before it shows.
+run() {
+  answer=$("$@" 2>&1)
+}
+
+show() {
+  [ -z "$answer" ] || printf '%s\n' "$answer"
+}
+
+give_up() {
+  show >&2
+  exit 1
+}
+
+# each UNITS: the paths, each with a zero byte behind it.
+each() {
+  case $1 in
+    @*) tr '\n' '\000' <"${1#@}" ;;
+    *) printf '%s\000' "$1" ;;
+  esac
+}
+
+# lines UNITS: the same, a line a path; no name that the module knows has a line end.
+lines() {
+  each "$1" | tr '\000' '\n'
+}
+
+# about UNITS COMMAND...: the command with the paths at its end.
+about() {
+  paths=$1
+  shift
+  each "$paths" | xargs -0 "$@" --
+}
+
+# relative UNITS: the paths below this folder, a line a path.
+relative() {
+  lines "$1" | A=$PWD/ B=$(pwd -P)/ awk '
+    index($0, ENVIRON["A"]) == 1 { print substr($0, length(ENVIRON["A"]) + 1); next }
+    index($0, ENVIRON["B"]) == 1 { print substr($0, length(ENVIRON["B"]) + 1); next }
+    { print }'
+}
+
+# real PLACE: a local place without links; an address stays.
+real() {
+  (cd -- "$1" 2>/dev/null && pwd -P) || printf '%s\n' "$1"
+}
+
+# login: the name of who is at work, for tools that are told no other.
+login() {
+  printf '%s\n' "${LOGNAME:-${USER:-$(id -un)}}"
+}
+
+make_read_only() {
+  about "$1" chmod a-w
+}
+
+# writable: of the paths on the input, those that their owner may write.
+writable() {
+  xargs -0 -r sh -c 'for f do set -- "$@" "./$f"; shift; done
+    find "$@" -maxdepth 0 -type f -perm -u+w -print0 2>/dev/null || :' sh
+}
+
+# replace FILE COMMAND...: puts what the command prints in the file's place, read-only, in one step.
+replace() {
+  file=$1
+  shift
+  mkdir -p -- "${file%/*}"
+  new=$(mktemp "${file%/*}/.veldra-fetch-XXXXXX")
+  "$@" >"$new" && chmod 444 "$new" && mv -f -- "$new" "$file" && return
+  rm -f -- "$new"
+  return 1
+}
