@@ -95,9 +95,10 @@ inline constexpr int CommandTooltip = 60245;  ///< Up to 60266.
 inline constexpr int RunToolUnsetTooltip = 60267;
 inline constexpr int ToolHistoryTooltip = 60268;
 inline constexpr int CommandFailed = 60270;   ///< Up to 60291.
-inline constexpr int CommandResults = 60295;  ///< Headings above what failed, up to 60316.
-inline constexpr int OptionTitle = 60320;     ///< Titles of the option windows, up to 60329.
-inline constexpr int OptionTitleOfCommand = 60330;  ///< Of a provider's command, up to 60334.
+inline constexpr int CommandResults = 60295;  ///< Headings above what failed, up to 60310.
+inline constexpr int OptionTitle = 60320;     ///< Of a provider's option window.
+inline constexpr int OptionTitleOfCommand =
+    60330;  ///< The same by command: fetch, check out, undo, check in, add.
 inline constexpr int ConnectWithoutArchive = 60335;
 
 }  // namespace veldra::MessageId

@@ -6,6 +6,7 @@
 #include "cm/core/UnitBatch.h"
 #include "cm/core/UnitReload.h"
 #include "cm/host/ATMRecursiveHelper.h"
+#include "cm/host/CSignal2Exception.h"
 #include "cm/host/IModel.h"
 #include "cm/templates/CMProperty.h"
 #include "cm/ui/logic/LiveUnits.h"
