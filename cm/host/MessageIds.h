@@ -75,4 +75,30 @@ inline constexpr int FileNotMoved = 60209;    ///< File.
 inline constexpr int NowhereToMove = 60210;   ///< File.
 inline constexpr int ChangedAndStale = 60211;  ///< File.
 
+// What the dialogs say. A group with one text per command begins at the number given and goes on in
+// the order of `DialogCommand`.
+inline constexpr int NothingSelected = 60200;
+inline constexpr int SelectOnlyOne = 60201;
+inline constexpr int SelectionGone = 60202;
+inline constexpr int ControlledFilesForbidBranches = 60203;  ///< File, its owner's name.
+inline constexpr int ProviderNotCompliant = 60204;
+inline constexpr int ForbiddenCharacters = 60205;  ///< The characters.
+inline constexpr int CommentRequired = 60206;
+inline constexpr int AdvancedOptionsFailed = 60207;  ///< The provider's code.
+inline constexpr int UndoWithDescendants = 60208;
+inline constexpr int UndoInformationFiles = 60209;
+inline constexpr int AddSubUnits = 60210;
+inline constexpr int FetchSelectionQuestion = 60211;
+inline constexpr int ColumnHeader = 60212;    ///< One text per column, up to 60217.
+inline constexpr int CommandCaption = 60220;  ///< Up to 60241.
+inline constexpr int CommandTooltip = 60245;  ///< Up to 60266.
+inline constexpr int RunToolUnsetTooltip = 60267;
+inline constexpr int ToolHistoryTooltip = 60268;
+inline constexpr int CommandFailed = 60270;   ///< Up to 60291.
+inline constexpr int CommandResults = 60295;  ///< Headings above what failed, up to 60310.
+inline constexpr int OptionTitle = 60320;     ///< Of a provider's option window.
+inline constexpr int OptionTitleOfCommand =
+    60330;  ///< The same by command: fetch, check out, undo, check in, add.
+inline constexpr int ConnectWithoutArchive = 60335;
+
 }  // namespace veldra::MessageId
