@@ -1,11 +1,9 @@
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QSettings>
-#include <QTranslator>
 
 #include "host/desktop/Appearance.h"
+#include "host/desktop/Words.h"
 #include "host/desktop/window/MainWindow.h"
 
 int main(int argc, char** argv) {
@@ -16,14 +14,7 @@ int main(int argc, char** argv) {
   QSettings::setDefaultFormat(QSettings::IniFormat);
   QApplication application(argc, argv);
 
-  QTranslator toolkit;
-  if (toolkit.load(QLocale(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    QApplication::installTranslator(&toolkit);
-  }
-  QTranslator words;
-  if (words.load(QLocale(), "desktop", "_", ":/veldra/translations")) {
-    QApplication::installTranslator(&words);
-  }
+  installWords();
 
   QCommandLineParser parser;
   parser.setApplicationDescription(

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <utility>
+
 #include "host/UserDoor.h"
 #include "host/desktop/session/Questions.h"
 
@@ -14,9 +17,15 @@ class DesktopDoor : public UserDoor {
   void notify(const std::string& text, int level) override;
   int ask(const std::string& text, int flags) override;
   std::string askOverwrite(const std::string& text) override;
+  void showConnectToArchive() override {
+    if (m_connect) m_connect();
+  }
+  /// What shows that window.
+  void setConnectWindow(std::function<void()> show) { m_connect = std::move(show); }
 
  private:
   Questions& m_questions;
+  std::function<void()> m_connect;
 };
 
 }  // namespace veldra::host::desktop

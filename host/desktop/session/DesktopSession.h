@@ -29,6 +29,7 @@ class DesktopSession : public QObject {
   Project* project() { return m_host->project(); }
   OutputSink& output() { return m_output; }
   WorkWatch& work() { return m_work; }
+  DesktopDoor& door() { return m_door; }
   Questions& questions() { return m_questions; }
 
   /// Opens a project in place of the one that is open. False when that fails; the user has been

@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 #include <QWindow>
 
+#include "cm/ui/CCMDialog.h"
+
 namespace veldra::host::desktop {
 namespace {
 
@@ -48,13 +50,19 @@ void WorkWatch::cancel() {
   emit cancelled();
 }
 
+bool WorkWatch::isCancelled() {
+  IProgress* dialog = CCMDialog::currentProgress();
+  return m_isCancelled || (dialog && dialog->isCancelled());
+}
+
 void WorkWatch::unitStarted(const ProgressStep& step) {
-  pump();
+  if (IProgress* dialog = CCMDialog::currentProgress()) dialog->unitStarted(step);
   emit stepChanged(step);
   pump();
 }
 
 void WorkWatch::unitEnded(const ProgressStep& step, UnitEnd end, const std::string& words) {
+  if (IProgress* dialog = CCMDialog::currentProgress()) dialog->unitEnded(step, end, words);
   m_results.unitEnded(step, end, words);
 }
 
@@ -66,9 +74,15 @@ void WorkWatch::pump() {
     m_isCancelled = false;
     emit workStarted();
   }
-  QCoreApplication::instance()->installEventFilter(this);
-  QCoreApplication::processEvents(QEventLoop::AllEvents, PumpMilliseconds);
-  QCoreApplication::instance()->removeEventFilter(this);
+  if (IProgress* dialog = CCMDialog::currentProgress()) {
+    // The CM dialog shows its own progress and holds back its own input.
+    CCMDialog::keepPainting();
+    if (dialog->isCancelled()) cancel();
+  } else {
+    QCoreApplication::instance()->installEventFilter(this);
+    QCoreApplication::processEvents(QEventLoop::AllEvents, PumpMilliseconds);
+    QCoreApplication::instance()->removeEventFilter(this);
+  }
   m_isPumping = false;
   m_restTimer.start();
 }

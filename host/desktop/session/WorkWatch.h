@@ -37,7 +37,7 @@ class WorkWatch : public QObject, public ChildWatch, public IProgress {
   // --- IProgress ---
   void unitStarted(const ProgressStep& step) override;
   void unitEnded(const ProgressStep& step, UnitEnd end, const std::string& words) override;
-  bool isCancelled() override { return m_isCancelled; }
+  bool isCancelled() override;
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 

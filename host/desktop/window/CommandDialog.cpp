@@ -49,6 +49,7 @@ CommandDialog::CommandDialog(const CommandRow& row, const QStringList& units, bo
   }
   if (row.asksLabel) form->addRow(tr("&Label:"), m_label);
   if (row.offersDescendants && hasDescendants) form->addRow(QString(), m_descendants);
+  m_descendants->setObjectName("Descendants");
   m_comment->setVisible(row.asksComment);
   m_label->setVisible(row.asksLabel);
   m_descendants->setVisible(row.offersDescendants && hasDescendants);

@@ -51,12 +51,15 @@ MainWindow::MainWindow(DesktopSession& session)
   connect(&m_session, &DesktopSession::saved, this, [this] {
     if (Project* project = m_session.project()) m_disk.remember(*project);
   });
+  m_session.door().setConnectWindow([this] { connectProject(); });
   restoreLayout();
   showRecent();
   showProject();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+  m_session.door().setConnectWindow({});
+}
 
 void MainWindow::buildContent() {
   m_pages = new QStackedWidget;

@@ -86,6 +86,7 @@ class MainWindow : public QMainWindow {
   void runCommand(const CommandRow& row);
   bool mayLoseChanges(const UnitList& units);
   void tellReport(const CommandReport& report, const QString& operation);
+  void openDialog();
   void connectProject();
   void refreshStatus();
   /// As the tool's setting for it says: always, never, or after a question.

@@ -141,12 +141,15 @@ void MainWindow::buildCommandMenu() {
   }
   menu.addSeparator();
   m_toolBar->addSeparator();
+  QAction* dialog = addAction(menu, "dialog", tr("CM &Dialog…"), QKeySequence(Qt::CTRL | Qt::Key_D),
+                              &MainWindow::openDialog);
   QAction* status = addAction(menu, "refresh", tr("&Refresh Status"), QKeySequence::Refresh,
                               &MainWindow::refreshStatus);
   QAction* connection =
       addAction(menu, "connect", tr("Co&nnect to Archive…"), {}, &MainWindow::connectProject);
-  m_projectActions.insert(m_projectActions.end(), {status, connection});
+  m_projectActions.insert(m_projectActions.end(), {dialog, status, connection});
   m_toolBar->addAction(status);
+  m_toolBar->addAction(dialog);
 }
 
 }  // namespace veldra::host::desktop

@@ -8,6 +8,7 @@
 #include "cm/core/CMTraitFacade.h"
 #include "cm/host/IPN.h"
 #include "cm/templates/CMProperty.h"
+#include "cm/ui/CCMDialog.h"
 #include "host/desktop/Text.h"
 #include "host/desktop/commands/CommandRun.h"
 #include "host/desktop/logic/SettingsTable.h"
@@ -143,6 +144,14 @@ void MainWindow::connectNow() {
   tellReport(report, tr("Connect"));
 }
 
+void MainWindow::openDialog() {
+  m_editor->commit();
+  // The tool takes the files as they are on the disk.
+  if (!m_session.project() || !m_session.save()) return;
+  CCMDialog::DoPopupCmDialog(this);
+  afterWork();
+}
+
 void MainWindow::refreshStatus() {
   Project* project = m_session.project();
   if (!project) return;
@@ -167,10 +176,12 @@ void MainWindow::refreshStatusAtOpening() {
   CMProperty::getToolPropertyValue("RefreshCMStatusAtProjectOpenup", when);
   when = lowerCase(when);
   const bool isAsked = when == "ask user";
-  if (isAsked &&
-      notifyUserAndAsk(loadMessage(RefreshQuestion),
-                       MessageBox::YesNo | MessageBox::IconQuestion) != MessageBox::AnswerYes) {
-    return;
+  if (isAsked) {
+    const std::string question = m_session.host().messages().loadString(RefreshQuestion);
+    const auto answer = m_session.questions().ask({.text = shown(question),
+                                                   .icon = QMessageBox::Question,
+                                                   .buttons = QMessageBox::Yes | QMessageBox::No});
+    if (answer != QMessageBox::Yes) return;
   }
   if (isAsked || when == "yes") refreshStatus();
 }

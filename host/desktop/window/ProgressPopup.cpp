@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "cm/ui/CCMDialog.h"
 #include "host/desktop/Text.h"
 #include "host/desktop/logic/TimeLeft.h"
 #include "host/desktop/session/WorkWatch.h"
@@ -72,7 +73,7 @@ void ProgressPopup::begin() {
   m_unit->clear();
   m_left->clear();
   m_bar->setRange(0, 0);
-  m_delay.start();
+  if (!CCMDialog::currentProgress()) m_delay.start();
 }
 
 void ProgressPopup::showStep(const ProgressStep& step) {

@@ -4,20 +4,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QAction>
-#include <QApplication>
 #include <QComboBox>
 #include <QDialog>
-#include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProcess>
-#include <QPushButton>
 #include <QStandardPaths>
 #include <QTest>
-#include <QTimer>
-#include <functional>
 
+#include "host/desktop/pictures/WindowDriver.h"
 #include "host/desktop/window/MainWindow.h"
 #include "host/desktop/window/UnitEditor.h"
 #include "tests/host/desktop/SampleProject.h"
@@ -45,24 +40,6 @@ class LiveJobTest : public testing::Test {
     ASSERT_TRUE(m_window.openProject(QString::fromStdString(m_sample.folder())));
   }
 
-  /// Triggers an action; when its dialog is open, `fill` fills it in and it is accepted.
-  void perform(const char* action, const std::function<void(QDialog&)>& fill = {}) {
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, [&] {
-      auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-      auto* buttons = dialog ? dialog->findChild<QDialogButtonBox*>() : nullptr;
-      if (!buttons) return;
-      timer.stop();
-      if (fill) fill(*dialog);
-      buttons->button(QDialogButtonBox::Ok)->click();
-    });
-    timer.start(20);
-    auto* found = m_window.findChild<QAction*>(action);
-    ASSERT_NE(found, nullptr) << action;
-    ASSERT_TRUE(found->isEnabled()) << action;
-    found->trigger();
-  }
-
   std::string svn(const QStringList& arguments) const {
     QProcess process;
     process.start("svn", arguments);
@@ -78,23 +55,23 @@ class LiveJobTest : public testing::Test {
 };
 
 TEST_F(LiveJobTest, FromNothingToACheckedInChange) {
-  perform("connect", [this](QDialog& dialog) {
+  ASSERT_TRUE(perform(m_window, "connect", [this](QDialog& dialog) {
     auto& tool = *dialog.findChild<QComboBox*>("Tool");
     tool.setCurrentIndex(tool.findData("Subversion"));
     dialog.findChild<QLineEdit*>("Archive")->setText(m_archive);
-  });
+  }));
   ASSERT_THAT(textOf(m_questions), IsEmpty());
 
   m_window.selectUnits({"Brewing/Brewing.vpkg", "Brewing/Grinder.vcmp"});
-  perform("add", [](QDialog& dialog) {
+  ASSERT_TRUE(perform(m_window, "add", [](QDialog& dialog) {
     dialog.findChild<QPlainTextEdit*>()->setPlainText("First \"version\"");
-  });
+  }));
   ASSERT_THAT(textOf(m_questions), IsEmpty());
   auto* name = m_window.findChild<UnitEditor*>()->findChild<QLineEdit*>();
   m_window.selectUnits({"Brewing/Grinder.vcmp"});
   EXPECT_TRUE(name->isReadOnly()) << "what is in the archive is checked out first";
 
-  perform("check-out");
+  ASSERT_TRUE(perform(m_window, "check-out"));
   ASSERT_THAT(textOf(m_questions), IsEmpty());
   EXPECT_FALSE(name->isReadOnly());
   const std::string url = "file://" + m_archive.toStdString() + "/Brewing/Grinder.vcmp";
@@ -103,9 +80,9 @@ TEST_F(LiveJobTest, FromNothingToACheckedInChange) {
   QTest::keyClicks(name, "Mill");
 
   // What was typed is neither taken over nor saved yet; the check-in sees to both.
-  perform("check-in", [](QDialog& dialog) {
+  ASSERT_TRUE(perform(m_window, "check-in", [](QDialog& dialog) {
     dialog.findChild<QPlainTextEdit*>()->setPlainText("Called it what it is");
-  });
+  }));
   ASSERT_THAT(textOf(m_questions), IsEmpty());
   EXPECT_TRUE(name->isReadOnly());
   EXPECT_THAT(svn({"cat", QString::fromStdString(url)}), HasSubstr("\"name\": \"Mill\""));
