@@ -18,6 +18,8 @@ using FillDialog = std::function<void(QDialog&)>;
 /// it cannot be triggered now.
 [[nodiscard]] inline bool perform(QWidget& window, const char* action,
                                   const FillDialog& fill = {}) {
+  // What the last command left to do is done first.
+  QCoreApplication::processEvents();
   auto* found = window.findChild<QAction*>(action);
   if (!found || !found->isEnabled()) return false;
   QTimer timer;

@@ -23,6 +23,7 @@ int OutputSink::Buffer::sync() {
 }
 
 void OutputSink::write(const std::string& bytes) {
+  if (m_isQuiet) return;
   if (std::exchange(m_isLive, false)) {
     m_liveDecoder.resetState();
     emit liveEnded();
@@ -31,6 +32,7 @@ void OutputSink::write(const std::string& bytes) {
 }
 
 void OutputSink::showLive(std::string_view bytes) {
+  if (m_isQuiet) return;
   m_isLive = true;
   emit live(
       m_liveDecoder.decode(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size()))));

@@ -25,6 +25,8 @@ class OutputSink : public QObject {
   std::ostream& stream() { return m_stream; }
   void showLive(std::string_view bytes);
   void clear() { emit cleared(); }
+  /// Throws away what comes, for work that nobody asked for by name.
+  void setQuiet(bool isQuiet) { m_isQuiet = isQuiet; }
 
  signals:
   void text(const QString& text);
@@ -53,6 +55,7 @@ class OutputSink : public QObject {
   QStringDecoder m_decoder{QStringDecoder::Utf8};
   QStringDecoder m_liveDecoder{QStringDecoder::Utf8};
   bool m_isLive = false;
+  bool m_isQuiet = false;
 };
 
 }  // namespace veldra::host::desktop

@@ -159,8 +159,8 @@ Diesen Befehlen vertrauen?</translation>
         </translation>
     </message>
     <message>
-        <source>Tools</source>
-        <translation>Werkzeuge</translation>
+        <source>&amp;Tool Bar</source>
+        <translation>&amp;Werkzeugleiste</translation>
     </message>
     <message>
         <source>&amp;Help</source>

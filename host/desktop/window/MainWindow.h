@@ -88,6 +88,7 @@ class MainWindow : public QMainWindow {
   void tellReport(const CommandReport& report, const QString& operation);
   void openDialog();
   void connectProject();
+  CommandReport listArchive();
   void refreshStatus();
   /// As the tool's setting for it says: always, never, or after a question.
   void refreshStatusAtOpening();

@@ -31,7 +31,7 @@ QAction* MainWindow::addAction(QMenu& menu, const QString& iconName, const QStri
 }
 
 void MainWindow::buildActions() {
-  m_toolBar = addToolBar(tr("Tools"));
+  m_toolBar = addToolBar(tr("&Tool Bar"));
   m_toolBar->setObjectName("ToolBar");
   m_toolBar->setIconSize({20, 20});
   m_toolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);

@@ -52,7 +52,7 @@ void MainWindow::runCommand(const CommandRow& row) {
       veldra::host::desktop::runCommand(row, units, choice, *project, m_session.work().results());
   if (report.isFine()) m_lastComment.clear();
   if (m_archive.isKnown() && row.changesArchive) {
-    m_archive.refresh(*m_session.project(), m_session.work().results());
+    listArchive();
   }
   afterWork();
   tellReport(report, commandName(row));
@@ -139,7 +139,7 @@ void MainWindow::connectNow() {
   if (!m_session.save()) return;
   const CommandReport report = connectToArchive(*m_session.project(), m_session.work().results());
   m_session.save();
-  if (report.isFine()) m_archive.refresh(*m_session.project(), m_session.work().results());
+  if (report.isFine()) listArchive();
   showProject();
   tellReport(report, tr("Connect"));
 }
@@ -152,6 +152,14 @@ void MainWindow::openDialog() {
   afterWork();
 }
 
+CommandReport MainWindow::listArchive() {
+  // A long listing would push what the user wants to read out of sight.
+  m_session.output().setQuiet(true);
+  CommandReport report = m_archive.refresh(*m_session.project(), m_session.work().results());
+  m_session.output().setQuiet(false);
+  return report;
+}
+
 void MainWindow::refreshStatus() {
   Project* project = m_session.project();
   if (!project) return;
@@ -159,7 +167,7 @@ void MainWindow::refreshStatus() {
   if (CMProperty::useSccCompliantTool() != 0) {
     CMTraitFacade::instance().RefreshCMStatus();
   } else if (!CMArchive::getMainArchive().empty()) {
-    const CommandReport report = m_archive.refresh(*project, m_session.work().results());
+    const CommandReport report = listArchive();
     if (!report.isFine()) tellReport(report, tr("Refresh Status"));
   }
   refresh();

@@ -89,7 +89,8 @@ void MainWindow::showRecent() {
   for (const std::string& project : m_recent.all()) {
     const QString path = shown(project);
     list << path;
-    QAction* action = m_recentMenu->addAction(QString(path).replace('&', "&&"));
+    QAction* action = m_recentMenu->addAction(
+        QString("&%1  %2").arg(list.size()).arg(QString(path).replace('&', "&&")));
     connect(action, &QAction::triggered, this, [this, path] { openProject(path); });
   }
   m_recentMenu->setEnabled(!list.isEmpty());

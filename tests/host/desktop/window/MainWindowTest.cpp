@@ -23,6 +23,8 @@ class MainWindowTest : public testing::Test {
  protected:
   void SetUp() override {
     m_window.show();
+    m_window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
     ASSERT_TRUE(m_window.openProject(QString::fromStdString(m_sample.folder())));
     m_questions.asked.clear();
   }
