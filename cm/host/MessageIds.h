@@ -77,28 +77,28 @@ inline constexpr int ChangedAndStale = 60211;  ///< File.
 
 // What the dialogs say. A group with one text per command begins at the number given and goes on in
 // the order of `DialogCommand`.
-inline constexpr int NothingSelected = 60200;
-inline constexpr int SelectOnlyOne = 60201;
-inline constexpr int SelectionGone = 60202;
-inline constexpr int ControlledFilesForbidBranches = 60203;  ///< File, its owner's name.
-inline constexpr int ProviderNotCompliant = 60204;
-inline constexpr int ForbiddenCharacters = 60205;  ///< The characters.
-inline constexpr int CommentRequired = 60206;
-inline constexpr int AdvancedOptionsFailed = 60207;  ///< The provider's code.
-inline constexpr int UndoWithDescendants = 60208;
-inline constexpr int UndoInformationFiles = 60209;
-inline constexpr int AddSubUnits = 60210;
-inline constexpr int FetchSelectionQuestion = 60211;
-inline constexpr int ColumnHeader = 60212;    ///< One text per column, up to 60217.
-inline constexpr int CommandCaption = 60220;  ///< Up to 60241.
-inline constexpr int CommandTooltip = 60245;  ///< Up to 60266.
-inline constexpr int RunToolUnsetTooltip = 60267;
-inline constexpr int ToolHistoryTooltip = 60268;
-inline constexpr int CommandFailed = 60270;   ///< Up to 60291.
-inline constexpr int CommandResults = 60295;  ///< Headings above what failed, up to 60310.
-inline constexpr int OptionTitle = 60320;     ///< Of a provider's option window.
+inline constexpr int NothingSelected = 60400;
+inline constexpr int SelectOnlyOne = 60401;
+inline constexpr int SelectionGone = 60402;
+inline constexpr int ControlledFilesForbidBranches = 60403;  ///< File, its owner's name.
+inline constexpr int ProviderNotCompliant = 60404;
+inline constexpr int ForbiddenCharacters = 60405;  ///< The characters.
+inline constexpr int CommentRequired = 60406;
+inline constexpr int AdvancedOptionsFailed = 60407;  ///< The provider's code.
+inline constexpr int UndoWithDescendants = 60408;
+inline constexpr int UndoInformationFiles = 60409;
+inline constexpr int AddSubUnits = 60410;
+inline constexpr int FetchSelectionQuestion = 60411;
+inline constexpr int ColumnHeader = 60412;    ///< One text per column, up to 60417.
+inline constexpr int CommandCaption = 60420;  ///< Up to 60441.
+inline constexpr int CommandTooltip = 60445;  ///< Up to 60466.
+inline constexpr int RunToolUnsetTooltip = 60467;
+inline constexpr int ToolHistoryTooltip = 60468;
+inline constexpr int CommandFailed = 60470;   ///< Up to 60491.
+inline constexpr int CommandResults = 60495;  ///< Headings above what failed, up to 60510.
+inline constexpr int OptionTitle = 60520;     ///< Of a provider's option window.
 inline constexpr int OptionTitleOfCommand =
-    60330;  ///< The same by command: fetch, check out, undo, check in, add.
-inline constexpr int ConnectWithoutArchive = 60335;
+    60530;  ///< The same by command: fetch, check out, undo, check in, add.
+inline constexpr int ConnectWithoutArchive = 60535;
 
 }  // namespace veldra::MessageId

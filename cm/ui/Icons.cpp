@@ -27,10 +27,12 @@ constexpr std::array<const char*, 22> CommandDrawings{
 constexpr std::array<const char*, 7> StateDrawings{
     "state-0", "state-1", "state-2", "state-3", "state-4", "state-5", "state-6"};
 
-/// Draws an SVG in the palette's ink whenever it is asked, so that every size is sharp.
+/// Draws an SVG in the palette's ink whenever it is asked, so that every size is sharp. The ink of
+/// the Selected mode is given, since a pressed button and a selected line differ there.
 class InkEngine : public QIconEngine {
  public:
-  explicit InkEngine(QByteArray drawing) : m_drawing(std::move(drawing)) {}
+  InkEngine(QByteArray drawing, QPalette::ColorRole selectedInk)
+      : m_drawing(std::move(drawing)), m_selectedInk(selectedInk) {}
 
   void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State) override {
     QSvgRenderer renderer(inked(mode));
@@ -47,19 +49,22 @@ class InkEngine : public QIconEngine {
     return picture;
   }
 
-  QIconEngine* clone() const override { return new InkEngine(m_drawing); }
+  QIconEngine* clone() const override { return new InkEngine(m_drawing, m_selectedInk); }
 
  private:
   QByteArray inked(QIcon::Mode mode) const {
     const QPalette palette = QApplication::palette();
     const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-    const bool isLit = mode == QIcon::Active || mode == QIcon::Selected;
-    const QColor ink = palette.color(group, isLit ? QPalette::Highlight : QPalette::ButtonText);
+    const auto role = mode == QIcon::Selected ? m_selectedInk
+                      : mode == QIcon::Active ? QPalette::Highlight
+                                              : QPalette::ButtonText;
+    const QColor ink = palette.color(group, role);
     QByteArray drawing = m_drawing;
     return drawing.replace("currentColor", ink.name().toLatin1());
   }
 
   QByteArray m_drawing;
+  QPalette::ColorRole m_selectedInk;
 };
 
 /// Two icons beside each other.
@@ -94,11 +99,11 @@ QHash<QString, QIcon>& cache() {
   return icons;
 }
 
-QIcon drawn(const QString& name) {
+QIcon drawn(const QString& name, QPalette::ColorRole selectedInk = QPalette::HighlightedText) {
   QIcon& icon = cache()[name];
   if (!icon.isNull()) return icon;
   QFile file(QStringLiteral(":/veldra-cm/icons/%1.svg").arg(name));
-  if (file.open(QIODevice::ReadOnly)) icon = QIcon(new InkEngine(file.readAll()));
+  if (file.open(QIODevice::ReadOnly)) icon = QIcon(new InkEngine(file.readAll(), selectedInk));
   return icon;
 }
 
@@ -129,7 +134,8 @@ QIcon shellIcon(const IUnit& unit) {
 }  // namespace
 
 QIcon commandIcon(DialogCommand command) {
-  return drawn(QString::fromLatin1(CommandDrawings.at(static_cast<std::size_t>(command))));
+  return drawn(QString::fromLatin1(CommandDrawings.at(static_cast<std::size_t>(command))),
+               QPalette::Highlight);
 }
 
 QIcon stateIcon(int imageIndex) {
