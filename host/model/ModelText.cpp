@@ -183,7 +183,8 @@ ModelText newModelText(const std::string& unitType, const std::string& name) {
   model.header = "// Veldra " + lowerCase(unitType) +
                  "\n// $"
                  "Id$\n";
-  model.body = {{"format", ModelFormat}, {"type", unitType}, {"name", name}, {"id", freshIdentifier()}};
+  model.body = {
+      {"format", ModelFormat}, {"type", unitType}, {"name", name}, {"id", freshIdentifier()}};
   return model;
 }
 

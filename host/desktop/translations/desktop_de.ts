@@ -2,7 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
-    <name>ArchiveChoice</name>
+    <name>veldra::host::desktop::ArchiveChoice</name>
     <message>
         <source>Browse…</source>
         <translation>Durchsuchen…</translation>
@@ -29,7 +29,7 @@
     </message>
 </context>
 <context>
-    <name>AttributeTable</name>
+    <name>veldra::host::desktop::AttributeTable</name>
     <message>
         <source>Attribute</source>
         <translation>Attribut</translation>
@@ -40,7 +40,7 @@
     </message>
 </context>
 <context>
-    <name>CommandDialog</name>
+    <name>veldra::host::desktop::CommandDialog</name>
     <message numerus="yes">
         <source> and %n more</source>
         <translation>
@@ -70,7 +70,7 @@
     </message>
 </context>
 <context>
-    <name>ConnectDialog</name>
+    <name>veldra::host::desktop::ConnectDialog</name>
     <message>
         <source>Connect to Archive</source>
         <translation>Mit Archiv verbinden</translation>
@@ -85,7 +85,7 @@
     </message>
 </context>
 <context>
-    <name>DesktopSession</name>
+    <name>veldra::host::desktop::DesktopSession</name>
     <message>
         <source>Some files of the project have problems.</source>
         <translation>Einige Dateien des Projekts sind nicht in Ordnung.</translation>
@@ -104,7 +104,7 @@ Diesen Befehlen vertrauen?</translation>
     </message>
 </context>
 <context>
-    <name>DiagramView</name>
+    <name>veldra::host::desktop::DiagramView</name>
     <message>
         <source>Diagram</source>
         <translation>Diagramm</translation>
@@ -115,7 +115,7 @@ Diesen Befehlen vertrauen?</translation>
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
+    <name>veldra::host::desktop::MainWindow</name>
     <message>
         <source>Model</source>
         <translation>Modell</translation>
@@ -352,7 +352,7 @@ Diesen Befehlen vertrauen?</translation>
     </message>
 </context>
 <context>
-    <name>ModelTreeModel</name>
+    <name>veldra::host::desktop::ModelTreeModel</name>
     <message>
         <source>Unit</source>
         <translation>Einheit</translation>
@@ -367,7 +367,7 @@ Diesen Befehlen vertrauen?</translation>
     </message>
 </context>
 <context>
-    <name>NewProjectDialog</name>
+    <name>veldra::host::desktop::NewProjectDialog</name>
     <message>
         <source>New Project</source>
         <translation>Neues Projekt</translation>
@@ -398,7 +398,7 @@ Diesen Befehlen vertrauen?</translation>
     </message>
 </context>
 <context>
-    <name>NewUnitDialog</name>
+    <name>veldra::host::desktop::NewUnitDialog</name>
     <message>
         <source>New Unit</source>
         <translation>Neue Einheit</translation>
@@ -425,7 +425,7 @@ Diesen Befehlen vertrauen?</translation>
     </message>
 </context>
 <context>
-    <name>ProgressPopup</name>
+    <name>veldra::host::desktop::ProgressPopup</name>
     <message numerus="yes">
         <source>About %n second(s) left</source>
         <translation>
@@ -466,7 +466,7 @@ Diesen Befehlen vertrauen?</translation>
     </message>
 </context>
 <context>
-    <name>SettingsDialog</name>
+    <name>veldra::host::desktop::SettingsDialog</name>
     <message>
         <source>CM Settings</source>
         <translation>CM-Einstellungen</translation>
@@ -533,7 +533,7 @@ Diesen Befehlen vertrauen?</translation>
     </message>
 </context>
 <context>
-    <name>SettingsModel</name>
+    <name>veldra::host::desktop::SettingsModel</name>
     <message>
         <source>Tool pack</source>
         <translation>Werkzeugpaket</translation>
@@ -572,7 +572,7 @@ Diesen Befehlen vertrauen?</translation>
     </message>
 </context>
 <context>
-    <name>UnitEditor</name>
+    <name>veldra::host::desktop::UnitEditor</name>
     <message>
         <source>&amp;Name</source>
         <translation>&amp;Name</translation>
@@ -671,7 +671,7 @@ Diesen Befehlen vertrauen?</translation>
     </message>
 </context>
 <context>
-    <name>WelcomePage</name>
+    <name>veldra::host::desktop::WelcomePage</name>
     <message>
         <source>Version control for models</source>
         <translation>Versionsverwaltung für Modelle</translation>

@@ -2,7 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US">
 <context>
-    <name>CommandDialog</name>
+    <name>veldra::host::desktop::CommandDialog</name>
     <message numerus="yes">
         <source> and %n more</source>
         <translation>
@@ -12,7 +12,7 @@
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
+    <name>veldra::host::desktop::MainWindow</name>
     <message numerus="yes">
         <source>%n unit(s)</source>
         <translation>
@@ -50,7 +50,7 @@
     </message>
 </context>
 <context>
-    <name>ProgressPopup</name>
+    <name>veldra::host::desktop::ProgressPopup</name>
     <message numerus="yes">
         <source>About %n second(s) left</source>
         <translation>
