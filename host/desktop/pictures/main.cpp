@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QFile>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
@@ -16,6 +17,7 @@
 #include "host/desktop/pictures/WindowDriver.h"
 #include "host/desktop/window/MainWindow.h"
 #include "host/desktop/window/UnitEditor.h"
+#include "host/platform/Environment.h"
 
 namespace {
 
@@ -136,6 +138,10 @@ int main(int argc, char** argv) {
   // Nothing of this user's settings shall be seen, and nothing is left in them.
   const QTemporaryDir home;
   qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
+  // Nor where this machine keeps the program.
+  const QString root = home.filePath("veldra-cm");
+  QFile::link(QString::fromStdString(veldra::host::findInstallationRoot()), root);
+  qputenv("VELDRA_ROOT", root.toUtf8());
   QApplication::setApplicationName("Veldra");
   const QApplication application(argc, argv);
   if (argc != 3) {

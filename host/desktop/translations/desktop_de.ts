@@ -117,6 +117,10 @@ Diesen Befehlen vertrauen?</translation>
 <context>
     <name>veldra::host::desktop::MainWindow</name>
     <message>
+        <source>Connected to the archive.</source>
+        <translation>Mit dem Archiv verbunden.</translation>
+    </message>
+    <message>
         <source>Model</source>
         <translation>Modell</translation>
     </message>

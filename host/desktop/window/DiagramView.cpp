@@ -107,7 +107,10 @@ void DiagramView::drawLines() {
     if (connection.text.empty()) continue;
     auto* text = m_scene.addSimpleText(shown(connection.text));
     text->setBrush(ink);
-    text->setPos(line.center() + QPointF(6, -text->boundingRect().height() / 2));
+    const QSizeF size = text->boundingRect().size();
+    const bool isFlat = std::abs(line.dx()) > std::abs(line.dy());
+    text->setPos(line.center() + (isFlat ? QPointF(-size.width() / 2, -size.height() - 2)
+                                         : QPointF(6, -size.height() / 2)));
     m_lines.push_back(text);
   }
 }

@@ -141,7 +141,11 @@ void MainWindow::connectNow() {
   m_session.save();
   if (report.isFine()) listArchive();
   showProject();
-  tellReport(report, tr("Connect"));
+  if (report.isFine()) {
+    statusBar()->showMessage(tr("Connected to the archive."));
+  } else {
+    tellReport(report, tr("Connect"));
+  }
 }
 
 void MainWindow::openDialog() {
