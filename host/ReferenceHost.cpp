@@ -25,13 +25,16 @@ namespace {
 /// The CM output window: a stream of the program's.
 class OutputWindow : public IAbstractCMManager {
  public:
-  explicit OutputWindow(std::ostream* stream) : m_stream(stream) {}
+  OutputWindow(std::ostream* stream, std::function<void()> clear)
+      : m_stream(stream), m_clear(std::move(clear)) {}
   std::ostream* getOutputStream() override { return m_stream; }
-  // A stream keeps what was written to it.
-  void clearOutputWindow() override {}
+  void clearOutputWindow() override {
+    if (m_clear) m_clear();
+  }
 
  private:
   std::ostream* m_stream;
+  std::function<void()> m_clear;
 };
 
 /// The undo manager of whatever project is open.
@@ -88,9 +91,9 @@ struct ReferenceHost::Parts {
                     }),
         messages(catalogue, options.door,
                  options.seenMessagesFile.value_or(standardSeenMessagesFile())),
-        outputWindow(options.output),
+        outputWindow(options.output, options.clearOutput),
         undo(model),
-        trace(options.traceLog),
+        trace(options.traceLog, options.traceObserver),
         progress(options.progress),
         trustedCommands(layers, trustFileBeside(layers.files().userFile)),
         kept(
@@ -103,6 +106,7 @@ struct ReferenceHost::Parts {
         guarded(options.processes ? *options.processes : processes,
                 [this](const std::string& command) { return objectionTo(command); }) {
     processes.setChildEnvironment(options.childEnvironment);
+    processes.setWatch(options.childWatch);
     removeStaleTempFiles(environment.omGetTempDir());
     if (!trace.error().empty()) {
       problems.push_back({options.traceLog, trace.error(), "No trace log is written."});
@@ -196,6 +200,10 @@ std::string ReferenceHost::trustAdvice() {
 
 void ReferenceHost::requestCancel() noexcept {
   m_parts->processes.requestCancel();
+}
+
+void ReferenceHost::resetCancel() noexcept {
+  m_parts->processes.resetCancel();
 }
 
 IModel& ReferenceHost::model() {

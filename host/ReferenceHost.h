@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -12,19 +13,24 @@
 #include "host/model/Problem.h"
 #include "host/model/Project.h"
 #include "host/model/PropertyLayers.h"
+#include "host/platform/Processes.h"
+#include "host/platform/TraceLog.h"
 #include "host/trust/CommandTrust.h"
 
 namespace veldra::host {
 
 /// What a program gives the reference host. Pointers are not owned and must outlive the host.
 struct HostOptions {
-  std::string installationRoot;    ///< Below it lie packs and resources; empty: found by itself.
-  std::ostream* output = nullptr;  ///< The CM output window; null for none.
-  UserDoor* door = nullptr;        ///< Null: nobody is asked, nothing is overwritten.
-  std::string traceLog;            ///< A file that trace lines are added to; empty for none.
-  IProgress* progress = nullptr;   ///< Follows operations unit by unit; null for none.
+  std::string installationRoot;       ///< Below it lie packs and resources; empty: found by itself.
+  std::ostream* output = nullptr;     ///< The CM output window; null for none.
+  std::function<void()> clearOutput;  ///< Empties the CM output window; empty: it stays full.
+  UserDoor* door = nullptr;           ///< Null: nobody is asked, nothing is overwritten.
+  std::string traceLog;               ///< A file that trace lines are added to; empty for none.
+  TraceLog::Observer traceObserver;   ///< Told every trace line; may be empty.
+  IProgress* progress = nullptr;      ///< Follows operations unit by unit; null for none.
   IProcesses* processes =
       nullptr;  ///< In place of the real child processes, for example a dry run.
+  ChildWatch* childWatch = nullptr;  ///< Follows real child processes; null for nobody.
   std::map<std::string, std::string> childEnvironment;  ///< Set for real child processes.
   std::string language;                                 ///< For messages; empty: the process's.
   std::optional<SettingsFiles> settings;                ///< In place of the standard places.
@@ -67,6 +73,8 @@ class ReferenceHost : public Host {
   /// Ends the running child process and lets no other start; may be called from a signal handler.
   /// Does nothing to processes that the options brought.
   void requestCancel() noexcept;
+  /// Lets children start again after `requestCancel`.
+  void resetCancel() noexcept;
 
   // --- Host ---
   IModel& model() override;

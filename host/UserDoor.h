@@ -17,6 +17,9 @@ class UserDoor {
   virtual int ask(const std::string& text, int flags) = 0;
   /// Whether a writable file may be overwritten: "yes", "no", "yestoall", "notoall" or "cancel".
   virtual std::string askOverwrite(const std::string& text) = 0;
+  /// Shows the window in which the user names the archive to connect to; a program without windows
+  /// does nothing.
+  virtual void showConnectToArchive() {}
 };
 
 }  // namespace veldra::host

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -37,6 +38,13 @@ struct BackEndMemory {
   virtual ~BackEndMemory() = default;
 };
 
+/// What the dialogs remember between two openings.
+struct DialogMemory {
+  std::string viewMode;
+  std::int32_t sortColumn = 1;
+  std::map<int, std::string> unusedComments;  ///< By command.
+};
+
 /// Everything that the module remembers between calls. Only the host's user-interface thread uses
 /// it.
 struct ModuleState {
@@ -59,6 +67,7 @@ struct ModuleState {
   std::string rememberedAnswer;  ///< "yestoall", "notoall", "yes", "no", "cancel" or empty.
 
   FacadeSlots slots;
+  DialogMemory dialogs;
 };
 
 /// The state that belongs to the installed host; another host starts with a fresh one.

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace veldra {
 
@@ -38,6 +39,16 @@ class IDObject {
   /// Marks the object as changed, so that the next save writes it.
   /// `modified` sets the object's own mark, `saveUnit` that of the unit which holds it.
   virtual void setModified(bool modified, bool saveUnit) = 0;
+
+  /// Whether the object differs from what was saved last. A host that does not know says no.
+  virtual bool isModified() const { return false; }
+
+  /// The objects that this one owns, in the order in which the model shows them; not owned by the
+  /// caller. Empty when it owns none.
+  virtual std::vector<IDObject*> getAggregates() { return {}; }
+
+  /// What a stub is marked with behind its name.
+  virtual std::string getURMark() const { return "(U)"; }
 
   /// This object as a unit, or null.
   virtual IUnit* asUnit() { return nullptr; }

@@ -34,6 +34,15 @@ class IModel {
   /// Hands the units that reloads have saved up to the projects that are open but not active.
   virtual void applySavedUnitsListToNonActiveProjects() {}
 
+  /// Called before a window shows every unit: a host that loads units on demand loads the rest now.
+  /// `reason` is for its log.
+  virtual void completeLoadOnDemandScope(const std::string& reason) { (void)reason; }
+  /// The units that hold what code generation keeps about `unit`, to be taken along with it.
+  virtual UnitList informationUnitsOf(IUnit* unit) {
+    (void)unit;
+    return {};
+  }
+
   /// A free-standing text property, to be attached to an object. Null when the host cannot make
   /// any: then only settings that exist somewhere can be changed.
   virtual std::unique_ptr<IProperty> createTextProperty(const std::string& name,

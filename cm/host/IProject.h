@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "cm/host/ICodeGenConfigInfo.h"
 #include "cm/host/IUnit.h"
 
 namespace veldra {
@@ -27,6 +28,9 @@ class IProject : public IUnit {
   virtual IComponent* getComponent() = 0;
   /// The active configuration, or null.
   virtual IConfiguration* getConfiguration() = 0;
+
+  /// The active code-generation configuration, or null in a tool that generates no code.
+  virtual ICodeGenConfigInfo* getCodeGenConfigInfo() { return nullptr; }
 
   /// The directory that holds the project file.
   virtual std::string getProjectDirectory() const = 0;

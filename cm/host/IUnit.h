@@ -55,6 +55,9 @@ class IUnit : public IDObject {
   /// True when the host keeps this unit out of the CM workspace (its CM file record is inactive).
   virtual bool isExcludedFromWorkspace() const = 0;
 
+  /// The term that a new-term element stands for; empty for every other unit.
+  virtual std::string getTermName() const { return {}; }
+
   // --- files ---
   /// The file's name without directory.
   virtual std::string getFileName() const = 0;

@@ -75,4 +75,30 @@ inline constexpr int FileNotMoved = 60209;     ///< File.
 inline constexpr int NowhereToMove = 60210;    ///< File.
 inline constexpr int ChangedAndStale = 60211;  ///< File.
 
+// What the dialogs say. A group with one text per command begins at the number given and goes on in
+// the order of `DialogCommand`.
+inline constexpr int NothingSelected = 60400;
+inline constexpr int SelectOnlyOne = 60401;
+inline constexpr int SelectionGone = 60402;
+inline constexpr int ControlledFilesForbidBranches = 60403;  ///< File, its owner's name.
+inline constexpr int ProviderNotCompliant = 60404;
+inline constexpr int ForbiddenCharacters = 60405;  ///< The characters.
+inline constexpr int CommentRequired = 60406;
+inline constexpr int AdvancedOptionsFailed = 60407;  ///< The provider's code.
+inline constexpr int UndoWithDescendants = 60408;
+inline constexpr int UndoInformationFiles = 60409;
+inline constexpr int AddSubUnits = 60410;
+inline constexpr int FetchSelectionQuestion = 60411;
+inline constexpr int ColumnHeader = 60412;    ///< One text per column, up to 60417.
+inline constexpr int CommandCaption = 60420;  ///< Up to 60441.
+inline constexpr int CommandTooltip = 60445;  ///< Up to 60466.
+inline constexpr int RunToolUnsetTooltip = 60467;
+inline constexpr int ToolHistoryTooltip = 60468;
+inline constexpr int CommandFailed = 60470;   ///< Up to 60491.
+inline constexpr int CommandResults = 60495;  ///< Headings above what failed, up to 60510.
+inline constexpr int OptionTitle = 60520;     ///< Of a provider's option window.
+inline constexpr int OptionTitleOfCommand =
+    60530;  ///< The same by command: fetch, check out, undo, check in, add.
+inline constexpr int ConnectWithoutArchive = 60535;
+
 }  // namespace veldra::MessageId

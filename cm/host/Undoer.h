@@ -15,6 +15,9 @@ class Undoer {
   /// Opens a transaction; transactions nest. `view` may be null.
   virtual void startTransaction(const IViewParameters* view, int undoFlag) = 0;
   virtual void endTransaction() = 0;
+  /// Around changes that nobody can take back; they keep what was done before undoable.
+  virtual void startDoNothingTransaction() {}
+  virtual void endDoNothingTransaction() {}
 };
 
 }  // namespace veldra

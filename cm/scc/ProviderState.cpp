@@ -53,7 +53,11 @@ void CMProperty::setPvContext(void* context) {
 }
 
 void* CMProperty::getPvOptions() {
-  return nullptr;
+  return providerState().options;
+}
+
+void** CMProperty::getPvOptionsPtr() {
+  return &providerState().options;
 }
 
 std::vector<std::string>& CMProperty::getFileNamesList() {

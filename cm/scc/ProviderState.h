@@ -23,6 +23,7 @@ struct ProviderState : BackEndMemory {
   int isReentrant = 0;
   int commentsCheckOut = 0;
   void* legacyContext = nullptr;
+  void* options = nullptr;  ///< The provider's own block of command options.
   Contexts contexts;
   Contexts unlinked;  ///< Taken out of the registry; somebody may still point to them.
   std::vector<std::string> fileNames;

@@ -75,8 +75,11 @@ class VELDRA_CM_EXPORT CMProperty {
   /// The context that set-up, close and clean-up use; it has nothing to do with the records below.
   static void* getPvContext();
   static void setPvContext(void* context);
-  /// What the provider gets as the options of a command; always null: none are asked for.
+  /// What the provider gets as the options of a command: the block that its own window left, null
+  /// when the user did not open it.
   static void* getPvOptions();
+  /// The place where the provider keeps that block.
+  static void** getPvOptionsPtr();
   /// The files that the provider's list callback has brought.
   static std::vector<std::string>& getFileNamesList();
 

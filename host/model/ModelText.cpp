@@ -43,16 +43,6 @@ std::optional<Problem> unusableText(std::string_view text) {
   return std::nullopt;
 }
 
-std::string freshId() {
-  std::random_device device;
-  std::string id;
-  for (int word = 0; word < 4; ++word) {
-    const std::uint32_t bits = device();
-    for (int shift = 28; shift >= 0; shift -= 4) id += "0123456789abcdef"[(bits >> shift) & 0xF];
-  }
-  return id;
-}
-
 /// A cursor over the first keys of a body: `"key": scalar` pairs and nothing else.
 class HeadReader {
  public:
@@ -178,12 +168,23 @@ std::string writeModelText(const ModelText& model) {
   return model.header + writeJson(model.body) + '\n';
 }
 
+std::string freshIdentifier() {
+  std::random_device device;
+  std::string id;
+  for (int word = 0; word < 4; ++word) {
+    const std::uint32_t bits = device();
+    for (int shift = 28; shift >= 0; shift -= 4) id += "0123456789abcdef"[(bits >> shift) & 0xF];
+  }
+  return id;
+}
+
 ModelText newModelText(const std::string& unitType, const std::string& name) {
   ModelText model;
   model.header = "// Veldra " + lowerCase(unitType) +
                  "\n// $"
                  "Id$\n";
-  model.body = {{"format", ModelFormat}, {"type", unitType}, {"name", name}, {"id", freshId()}};
+  model.body = {
+      {"format", ModelFormat}, {"type", unitType}, {"name", name}, {"id", freshIdentifier()}};
   return model;
 }
 

@@ -45,6 +45,9 @@ std::optional<ModelText> parseModelText(std::string_view text, Problem& problem)
 /// The file's text: its header and its body as `writeJson` writes it.
 std::string writeModelText(const ModelText& model);
 
+/// An identifier that no other element has.
+std::string freshIdentifier();
+
 /// A new body with a fresh identifier below the header that new files get.
 ModelText newModelText(const std::string& unitType, const std::string& name);
 

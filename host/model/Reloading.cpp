@@ -71,7 +71,13 @@ UnitCore* addFile(Project& project, const std::string& fileName) {
     project.addControlled(*relative);
     return &project.add(std::move(record), &project);
   }
-  return &project.add(std::move(record), &project.ownerOf(folder));
+  if (folder.owner || !folder.parent ||
+      !FileTypes::isDirectoryUnit(*type, record.fileName, baseName(folder.path))) {
+    return &project.add(std::move(record), &project.ownerOf(folder));
+  }
+  record.directoryUnit = true;
+  folder.owner = &project.add(std::move(record), &project.ownerOf(*folder.parent));
+  return folder.owner;
 }
 
 bool QuickReload::CanReloadUnit(IUnit* unit) {

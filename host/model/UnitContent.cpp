@@ -65,6 +65,19 @@ bool UnitCore::setAttribute(const std::string& attribute, const std::string& val
   return true;
 }
 
+bool UnitCore::edit(const std::function<void(Json&)>& change, Problem& problem) {
+  ModelText* edited = editableContent(problem);
+  if (!edited) return false;
+  change(edited->body);
+  takeName(edited->body);
+  return true;
+}
+
+void UnitCore::takeName(const Json& body) {
+  const Json* name = member(body, "name");
+  if (const auto bytes = name ? bytesOfJson(*name) : std::nullopt) m_record.name = *bytes;
+}
+
 void UnitCore::forgetContent(const std::string& name) {
   m_text.reset();
   m_record.name = name;
@@ -77,9 +90,7 @@ void UnitCore::restoreBody(const Json& body) {
   if (!restored) return;
   restored->body = body;
   m_modified = true;
-  if (const Json* name = member(body, "name"); name && name->is_string()) {
-    m_record.name = name->get<std::string>();
-  }
+  takeName(body);
 }
 
 bool UnitCore::save(Problem& problem) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -116,6 +117,8 @@ class UnitCore {
   [[nodiscard]] bool rename(const std::string& name, Problem& problem);
   [[nodiscard]] bool setAttribute(const std::string& attribute, const std::string& value,
                                   Problem& problem);
+  /// Changes the body as `change` does, which gets the body to write on. As above.
+  [[nodiscard]] bool edit(const std::function<void(Json&)>& change, Problem& problem);
   /// The content is read again when it is next asked for; what was not saved is lost.
   void forgetContent(const std::string& name);
   /// Puts a former body back, as undo does.
@@ -139,6 +142,7 @@ class UnitCore {
   virtual ModelText* contentToSave() { return m_text.get(); }
 
  private:
+  void takeName(const Json& body);
   ModelText* editableContent(Problem& problem);
   bool writeContent(ModelText& content, Problem& problem);
   PropertyTable& ownProperties();

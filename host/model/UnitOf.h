@@ -27,6 +27,12 @@ class UnitOf : public Interface, public UnitCore {
     markModified(modified);
     if (UnitCore* save = saveUnitToo ? saveUnit() : nullptr) save->markModified(modified);
   }
+  bool isModified() const override { return UnitCore::isModified(); }
+  std::vector<IDObject*> getAggregates() override {
+    std::vector<IDObject*> owned;
+    for (UnitCore* child : children()) owned.push_back(&child->unit());
+    return owned;
+  }
   IProperty* findProperty(const std::string& subject, const std::string& metaclass,
                           const std::string& name, bool localOnly) override {
     return UnitCore::findProperty({subject, metaclass, name}, localOnly);

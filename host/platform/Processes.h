@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "cm/host/RunThread.h"
 
@@ -11,12 +12,23 @@ namespace veldra::host {
 
 class CancelSignal;
 
+/// Follows a running child, on the thread that waits for it. Nothing of it may throw.
+class ChildWatch {
+ public:
+  virtual ~ChildWatch() = default;
+  /// Bytes as they arrive from either output; they may begin and end anywhere in a line.
+  virtual void printed(std::string_view bytes) = 0;
+  /// Called again and again, at the latest every thirtieth of a second, until the child has ended.
+  virtual void waiting() = 0;
+};
+
 /// What every child process of one `Processes` is started with.
 struct ChildSettings {
   /// Variables that are set, or replaced, in the child's environment.
   std::map<std::string, std::string> environment;
   /// The most that a child may print on both its outputs together, in bytes.
   std::size_t outputLimit = std::size_t{1} << 30;
+  ChildWatch* watch = nullptr;  ///< Not owned; null for none.
 };
 
 /// The process runner of the reference host.
@@ -53,6 +65,9 @@ class Processes : public IProcesses {
   void setChildEnvironment(std::map<std::string, std::string> variables);
   /// A child that prints more than this is ended, with an error line that says so. In bytes.
   void setOutputLimit(std::size_t bytes);
+
+  /// Who follows the children that start from now on; null for nobody. Not owned.
+  void setWatch(ChildWatch* watch);
 
   /// Ends the running child and lets no other start. May be called from a signal handler and from
   /// any thread. The runner then reports `ProcessEnd::Cancelled` with an error line.

@@ -37,7 +37,13 @@ class MemoryModel : public IModel {
       {".vdy", "Project"}, {".vpk", "Package"}, {".vcl", "Class"}, {".txt", "ControlledFile"}};
   bool fullPathRepFiles = false;
 
+  std::map<const IUnit*, UnitList> informationUnits;
+
   // --- what the module asks ---
+  void completeLoadOnDemandScope(const std::string& reason) override {
+    m_journal.add("load-all " + reason);
+  }
+  UnitList informationUnitsOf(IUnit* unit) override { return informationUnits[unit]; }
   std::unique_ptr<IProperty> createTextProperty(const std::string& name,
                                                 const std::string& value) override {
     return std::make_unique<MemoryProperty>(name, value);

@@ -40,6 +40,8 @@ struct UnitRecord {
   std::string sccProject;
   std::string sccAuxPath;
   IUnit* saveUnit = nullptr;     ///< Null: the unit itself.
+  std::vector<IDObject*> aggregates{};
+  std::string termName{};
   std::string packageDirectory;  ///< For packages.
 };
 
@@ -59,6 +61,10 @@ class MemoryUnitOf : public MemoryObject<Interface> {
     record.modified = modified;
     m_journal->add("modified " + record.fileName + (saveUnit ? " with save unit" : ""));
   }
+
+  bool isModified() const override { return record.modified; }
+  std::vector<IDObject*> getAggregates() override { return record.aggregates; }
+  std::string getTermName() const override { return record.termName; }
 
   std::uint32_t getFlags() const override { return record.flags; }
   bool isReferenced() const override { return record.referenced; }
@@ -167,6 +173,9 @@ class MemoryProject : public MemoryUnitOf<IProject> {
   bool isUsingRTC() const override { return false; }
   bool isLoadFromDM() const override { return false; }
 
+  ICodeGenConfigInfo* getCodeGenConfigInfo() override { return codeGen; }
+
+  ICodeGenConfigInfo* codeGen = nullptr;
   MemoryComponent component{"Component", "Component"};
   NamedObject<IConfiguration> configuration{"Configuration", "Configuration"};
   std::string unitDirectory;

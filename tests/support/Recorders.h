@@ -50,6 +50,8 @@ class MemoryUndoer : public Undoer {
     m_journal.add("undo-end");
     --open;
   }
+  void startDoNothingTransaction() override { m_journal.add("no-undo-begin"); }
+  void endDoNothingTransaction() override { m_journal.add("no-undo-end"); }
   int open = 0;
 
  private:

@@ -15,6 +15,8 @@ using std::chrono::milliseconds;
 
 // Where the end of a child, or a cancellation, cannot be waited for, it is asked for this often.
 constexpr int AskingMilliseconds = 10;
+// Often enough for a window to look alive.
+constexpr int WatchMilliseconds = 33;
 
 }  // namespace
 
@@ -38,12 +40,20 @@ const OutputCollector::Step& OutputCollector::stepOf(Phase phase) {
 }
 
 OutputCollector::OutputCollector(ChildProcess& child, OutputPipe& output, OutputPipe& errors,
-                                 const CancelSignal& cancel, std::size_t outputLimit)
-    : m_child(child), m_output(output), m_errors(errors), m_cancel(cancel), m_room(outputLimit) {}
+                                 const CancelSignal& cancel, const ChildSettings& settings)
+    : m_child(child),
+      m_output(output),
+      m_errors(errors),
+      m_cancel(cancel),
+      m_watch(settings.watch),
+      m_room(settings.outputLimit) {}
 
 OutputCollector::Stop OutputCollector::run(std::uint32_t timeout) {
   if (timeout != RunThread::WaitForever) m_deadline = Clock::now() + milliseconds(timeout);
-  while (!isDone()) wait();
+  while (!isDone()) {
+    wait();
+    if (m_watch) m_watch->waiting();
+  }
   return m_stop;
 }
 
@@ -74,10 +84,9 @@ void OutputCollector::wait() {
 
 int OutputCollector::pollTimeout() const {
   const bool ask = (m_child.descriptor() < 0 && !m_ended) || m_cancel.descriptor() < 0;
-  const int longest = ask ? AskingMilliseconds : -1;
-  if (!m_deadline) return longest;
+  const int most = ask ? AskingMilliseconds : m_watch ? WatchMilliseconds : INT_MAX;
+  if (!m_deadline) return most == INT_MAX ? -1 : most;
   const auto left = std::chrono::ceil<milliseconds>(*m_deadline - Clock::now()).count();
-  const auto most = ask ? AskingMilliseconds : INT_MAX;
   return static_cast<int>(std::clamp<std::int64_t>(left, 0, most));
 }
 

@@ -18,7 +18,7 @@ class OutputCollector {
   enum class Stop { None, TimedOut, Cancelled, TooMuchOutput };
 
   OutputCollector(ChildProcess& child, OutputPipe& output, OutputPipe& errors,
-                  const CancelSignal& cancel, std::size_t outputLimit);
+                  const CancelSignal& cancel, const ChildSettings& settings);
 
   /// `timeout` in milliseconds, or `RunThread::WaitForever`.
   Stop run(std::uint32_t timeout);
@@ -46,6 +46,7 @@ class OutputCollector {
   OutputPipe& m_output;
   OutputPipe& m_errors;
   const CancelSignal& m_cancel;
+  ChildWatch* m_watch;
   std::size_t m_room;
   Phase m_phase = Phase::Running;
   Stop m_stop = Stop::None;

@@ -73,6 +73,7 @@ std::size_t OutputPipe::take(short events) {
     }
     const auto count = static_cast<std::size_t>(result);
     m_insideLine = room[count - 1] != '\n';
+    if (m_watch) m_watch->printed({room.data(), count});
     if (!m_forgets) m_lines.took(count);
     taken += count;
     if (count >= FirstPipe && !std::exchange(m_enlarged, true)) {

@@ -4,6 +4,7 @@
 #include <span>
 
 #include "cm/host/RunThread.h"
+#include "host/platform/Processes.h"
 #include "host/platform/posix/FileDescriptor.h"
 
 namespace veldra::host {
@@ -11,7 +12,8 @@ namespace veldra::host {
 /// The reading end of a pipe and the list that takes what comes out of it.
 class OutputPipe {
  public:
-  explicit OutputPipe(LineList& lines) : m_lines(lines) {}
+  /// `watch` sees what comes out; null for nobody.
+  OutputPipe(LineList& lines, ChildWatch* watch) : m_lines(lines), m_watch(watch) {}
 
   /// Makes the pipe and returns the child's end of it; -1 when the system has no descriptor left.
   /// That end stays open here too until `releaseChildEnd`: the end of a child that says nothing
@@ -41,6 +43,7 @@ class OutputPipe {
   void preferLargePages();
 
   LineList& m_lines;
+  ChildWatch* m_watch;
   FileDescriptor m_reader;
   FileDescriptor m_childEnd;
   bool m_enlarged = false;

@@ -74,14 +74,14 @@ void ProcessRunner::run(std::uint32_t timeout) {
     fail(ProcessEnd::Cancelled, "The command was not started, because the work was cancelled.");
     return;
   }
-  OutputPipe output(m_outputLines);
-  OutputPipe errors(m_errorLines);
+  OutputPipe output(m_outputLines, m_settings.watch);
+  OutputPipe errors(m_errorLines, m_settings.watch);
   ChildProcess child;
   if (const std::string reason = start(child, output, errors); !reason.empty()) {
     fail(ProcessEnd::CouldNotStart, reason);
     return;
   }
-  OutputCollector collector(child, output, errors, m_cancel, m_settings.outputLimit);
+  OutputCollector collector(child, output, errors, m_cancel, m_settings);
   const auto stop = collector.run(timeout);
   conclude(stop, child.finish(collector.wasForced()), errors.endsInsideLine());
 }

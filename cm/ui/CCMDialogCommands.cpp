@@ -1,0 +1,152 @@
+#include <QLineEdit>
+#include <QMenu>
+#include <QPointer>
+#include <QTreeView>
+
+#include "cm/ui/Icons.h"
+#include "cm/ui/OptionWindows.h"
+#include "cm/ui/RefillScope.h"
+#include "cm/ui/logic/CommandRun.h"
+#include "cm/ui/logic/ProviderOptions.h"
+#include "cm/ui/logic/StatusRefresh.h"
+#include "cm/ui/logic/UserDefinedCommand.h"
+#include "cm/ui/logic/ViewState.h"
+#include "cm/ui/widgets/ButtonPanel.h"
+#include "cm/ui/widgets/FailureStrip.h"
+#include "cm/ui/widgets/HeldInput.h"
+#include "cm/ui/widgets/ProgressStrip.h"
+#include "cm/ui/widgets/Text.h"
+#include "cm/ui/widgets/WorkspaceData.h"
+
+namespace veldra {
+
+namespace {
+
+void call(const std::function<void(CCMDialog&)>& window, CCMDialog& dialog) {
+  if (window) window(dialog);
+}
+
+}  // namespace
+
+bool CCMDialog::runCommand(int controlId) {
+  for (const CommandButton* button : m_panel->buttons()) {
+    const ButtonRow& row = buttonTable()[static_cast<std::size_t>(button->command())];
+    if (row.controlId != controlId) continue;
+    if (button->isHidden() || !button->isEnabled() || m_isRunning) return false;
+    press(button->command());
+    return true;
+  }
+  return false;
+}
+
+void CCMDialog::press(DialogCommand command) {
+  if (m_isRunning) return;
+  const QPointer<QWidget> focused = focusWidget();
+  m_isRunning = true;
+  m_failures->tell({}, 0);
+  runPressed(command);
+  m_isRunning = false;
+  thaw();
+  m_panel->refresh();
+  m_failures->tell(shown(ButtonRules::caption(command)), m_progress->failedFiles().size());
+  if (focused != nullptr && focused->isEnabled()) focused->setFocus();
+  if (m_isRefreshDue) {
+    m_isRefreshDue = false;
+    refresh40001();
+  }
+}
+
+void CCMDialog::runPressed(DialogCommand command) {
+  switch (command) {
+    case DialogCommand::FlatView:
+    case DialogCommand::TreeView:
+      return setView(command == DialogCommand::FlatView);
+    case DialogCommand::ListArchive:
+      return call(commandWindows().listArchive, *this);
+    case DialogCommand::Compare:
+      return call(commandWindows().compare, *this);
+    case DialogCommand::Synchronize:
+      return call(commandWindows().synchronize, *this);
+    case DialogCommand::RefreshStatus:
+      return refreshStatus();
+    default:
+      break;
+  }
+  if (const CommandRow* const row = commandRow(command)) {
+    CommandRun(*this).run(*row);
+  } else {
+    runUserCommand(command);
+  }
+}
+
+void CCMDialog::runUserCommand(DialogCommand command) {
+  const UnitList units = CmSelectedItems();
+  const HeldInput held(*this);
+  m_data->isFrozen = true;
+  UserDefinedCommand::run(command, units);
+  m_data->isFrozen = false;
+  dropGoneUnits();
+}
+
+void CCMDialog::RunUserDefCommandFromBrowser(const std::string& command, IUnit* unit) {
+  NewCmSelectedItem(unit);
+  UserDefinedCommand::RunUserDefCommand(command, m_selection.alive());
+  dropGoneUnits();
+}
+
+void CCMDialog::refreshStatus() {
+  StatusRefresh::run(m_data->units.alive());
+  CmFillCI();
+}
+
+std::optional<CommandOptions> CCMDialog::askOptions(const OptionPresets& presets) {
+  return showOptionWindow(presets, this);
+}
+
+void CCMDialog::commandStarts(const CommandRow& row) {
+  m_data->isFrozen = true;
+  for (QTreeView* view : {m_tree, m_list}) view->viewport()->setUpdatesEnabled(false);
+  m_panel->setCommandsEnabled(false);
+  m_heldInput = std::make_unique<HeldInput>(*this);
+  m_progress->begin(shown(ButtonRules::caption(row.command)));
+}
+
+void CCMDialog::commandEnds() {
+  m_heldInput.reset();
+  m_progress->finish();
+}
+
+void CCMDialog::thaw() {
+  m_data->isFrozen = false;
+  for (QTreeView* view : {m_tree, m_list}) view->viewport()->setUpdatesEnabled(true);
+  m_panel->setCommandsEnabled(true);
+}
+
+void CCMDialog::dropGoneUnits() {
+  m_data->isFrozen = false;
+  if (!m_data->units.anyGone()) return;
+  const RefillScope once(*this);
+  updateList();
+  sortItems();
+}
+
+void CCMDialog::showContextMenu(const QPoint& place) {
+  QMenu menu(this);
+  for (CommandButton* button : m_panel->buttons()) {
+    if (button->isHidden()) continue;
+    QAction* const action = menu.addAction(
+        commandIcon(button->command()), button->text(), this,
+        [this, button] { press(button->command()); });
+    action->setShortcut(button->shortcut());
+    action->setShortcutVisibleInContextMenu(true);
+    action->setEnabled(button->isEnabled());
+    const bool endsGroup = button->command() == DialogCommand::CheckOutBranch ||
+                           button->command() == DialogCommand::RunTool ||
+                           button->command() == DialogCommand::Properties ||
+                           button->command() == DialogCommand::UserCommand4;
+    if (endsGroup) menu.addSeparator();
+  }
+  menu.exec(visibleView()->viewport()->mapToGlobal(place));
+}
+
+}  // namespace veldra

@@ -1,0 +1,260 @@
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTreeView>
+#include <algorithm>
+#include <unordered_set>
+
+#include "cm/core/CMFacade.h"
+#include "cm/ui/RefillScope.h"
+#include "cm/ui/logic/BackEndMode.h"
+#include "cm/ui/logic/ProjectRoot.h"
+#include "cm/ui/logic/SelectionRules.h"
+#include "cm/ui/logic/ViewState.h"
+#include "cm/ui/logic/WorkspaceOrder.h"
+#include "cm/ui/widgets/Text.h"
+#include "cm/ui/widgets/UnitFilter.h"
+#include "cm/ui/widgets/UnitListModel.h"
+#include "cm/ui/widgets/UnitTreeModel.h"
+
+namespace veldra {
+
+void CCMDialog::updateList() {
+  const RefillScope once(*this);
+  UnitList units;
+  ArgumentList noArguments;
+  DiagnosticList diagnostics;
+  if (activeProjectUnit() != nullptr) CMFacade::ListWorkspace(units, noArguments, diagnostics);
+  m_listModel->beginRefill();
+  m_treeModel->beginRefill();
+  m_data->isFrozen = false;
+  m_data->texts.emplace();
+  m_data->units.assign(units);
+  m_data->tree.clear();
+  m_isTreeDue = true;
+  m_treeModel->endRefill();
+  m_listModel->endRefill();
+  CmFillCI();
+}
+
+void CCMDialog::CmFillCI() {
+  m_isRefillDue = true;
+  if (m_refillDepth == 0) fillViews();
+}
+
+void CCMDialog::fillViews() {
+  m_isRefillDue = false;
+  m_listModel->beginRefill();
+  m_listModel->endRefill();
+  if (m_isTreeDue) {
+    m_treeModel->beginRefill();
+    m_data->tree.fill(activeProjectUnit(), m_data->units);
+    m_treeModel->endRefill();
+    m_isTreeDue = false;
+    m_isExpandDue = true;
+  }
+  applyFilter(m_filter->text());
+  // Every reset made new selection models.
+  for (QTreeView* view : {m_tree, m_list}) {
+    connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &CCMDialog::updateState, Qt::UniqueConnection);
+  }
+  if (!ViewState::isFlat() && m_isExpandDue) {
+    m_tree->expandAll();
+    m_isExpandDue = false;
+  }
+  m_list->header()->setSortIndicator(ViewState::sortColumn(), Qt::AscendingOrder);
+  updateState();
+}
+
+void CCMDialog::sortItems() {
+  const RefillScope once(*this);
+  if (!m_data->texts) return;
+  PrepareWsList(orderByColumn(m_data->units, *m_data->texts, ViewState::sortColumn()));
+  CmFillCI();
+}
+
+void CCMDialog::PrepareWsList(const std::vector<std::size_t>& order) {
+  m_data->units.reorder(order);
+  if (!m_isTreeDue && m_data->tree.size() > 0) m_data->tree.reorder(order);
+}
+
+void CCMDialog::OnColumnclickFlatlist(int column) {
+  ViewState::setSortColumn(column);
+  FlatCmSelectedItems();
+  sortItems();
+  CmSelectTheItems();
+}
+
+void CCMDialog::DoAfterOpRefresh() {
+  {
+    const RefillScope once(*this);
+    updateList();
+    sortItems();
+    CmFillCI();
+  }
+  CmSelectTheItems();
+}
+
+void CCMDialog::refresh40001() {
+  if (m_isRunning) {
+    m_isRefreshDue = true;
+    return;
+  }
+  m_selection.clear();
+  const RefillScope once(*this);
+  updateList();
+  CmFillCI();
+}
+
+void CCMDialog::applyFilter(const QString& text) {
+  m_listFilter->apply(text, *m_list);
+  m_treeFilter->apply(text, *m_tree);
+  if (text.isEmpty()) m_isExpandDue = true;
+  if (m_isExpandDue && !ViewState::isFlat()) {
+    m_tree->expandAll();
+    m_isExpandDue = false;
+  }
+  updateState();
+}
+
+// --- selection ---
+
+std::size_t CCMDialog::GetSelectedCount() {
+  return static_cast<std::size_t>(visibleView()->selectionModel()->selectedRows().size());
+}
+
+QModelIndex CCMDialog::sourceOf(const QModelIndex& index) const {
+  return ViewState::isFlat() ? m_listFilter->sourceOf(index) : m_treeFilter->sourceOf(index);
+}
+
+UnitList CCMDialog::CmSelectedItems() {
+  return ViewState::isFlat() ? FlatCmSelectedItems() : TreeCmSelectedItems();
+}
+
+UnitList CCMDialog::FlatCmSelectedItems() {
+  m_selectedRows.clear();
+  for (const QModelIndex& index : m_list->selectionModel()->selectedRows()) {
+    m_selectedRows.push_back(m_listFilter->sourceOf(index).row());
+  }
+  std::sort(m_selectedRows.begin(), m_selectedRows.end());
+  UnitList units;
+  for (const int row : m_selectedRows) {
+    if (IUnit* const unit = m_data->units.at(static_cast<std::size_t>(row))) units.push_back(unit);
+  }
+  m_selection.assign(units);
+  return units;
+}
+
+UnitList CCMDialog::TreeCmSelectedItems() {
+  UnitList units;
+  for (const QModelIndex& index : m_tree->selectionModel()->selectedRows()) {
+    const std::size_t node = UnitTreeModel::nodeOf(m_treeFilter->sourceOf(index));
+    IUnit* const unit = m_data->units.at(m_data->tree.unitOf(node));
+    if (unit != nullptr) units.push_back(unit);
+  }
+  m_selectedFiles.clear();
+  for (const IUnit* unit : units) m_selectedFiles.push_back(unit->getFullFileName());
+  m_selection.assign(units);
+  return units;
+}
+
+bool CCMDialog::SelectedAtLeastOne() {
+  return allowsSelection(SelectionRule::AtLeastOne, GetSelectedCount());
+}
+
+bool CCMDialog::SelectedOnlyOne() {
+  return allowsSelection(SelectionRule::OnlyOne, GetSelectedCount());
+}
+
+bool CCMDialog::SelectedOneAndOnlyOne() {
+  return allowsSelection(SelectionRule::OneAndOnlyOne, GetSelectedCount());
+}
+
+bool CCMDialog::CheckForDescendentsInSelectedItems() const {
+  return veldra::CheckForDescendentsInSelectedItems(m_selection.alive());
+}
+
+void CCMDialog::NewCmSelectedItem(IUnit* unit) {
+  m_selection.assign({unit});
+}
+
+void CCMDialog::CmSelectTheItems() {
+  if (!ViewState::isFlat()) return restoreTreeSelection();
+  selectRows(m_selectedRows);
+  m_list->setFocus();
+  m_list->viewport()->update();
+}
+
+void CCMDialog::selectRows(const std::vector<int>& rows) {
+  QItemSelection selection;
+  const int count = m_listModel->rowCount();
+  const int last = m_listModel->columnCount() - 1;
+  for (std::size_t i = 0; i < rows.size();) {
+    std::size_t end = i + 1;
+    while (end < rows.size() && rows[end] == rows[end - 1] + 1) ++end;
+    const int first = rows[i];
+    const int until = std::min(rows[end - 1], count - 1);
+    if (first <= until) {
+      selection.append(QItemSelectionRange(m_listModel->index(first, 0),
+                                           m_listModel->index(until, last)));
+    }
+    i = end;
+  }
+  const bool filtered = m_list->model() != m_listModel;
+  m_list->selectionModel()->select(
+      filtered ? m_listFilter->mapSelectionFromSource(selection) : selection,
+      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+void CCMDialog::restoreTreeSelection() {
+  const std::unordered_set<std::string> files(m_selectedFiles.begin(), m_selectedFiles.end());
+  if (!files.empty()) selectFiles([&files](const std::string& file) { return files.contains(file); });
+  m_tree->setFocus();
+}
+
+void CCMDialog::selectFiles(const std::function<bool(const std::string&)>& isMeant) {
+  std::vector<int> rows;
+  QItemSelection nodes;
+  for (std::size_t i = 0; i < m_data->units.size(); ++i) {
+    const IUnit* const unit = m_data->units.at(i);
+    if (unit == nullptr || !isMeant(unit->getFullFileName())) continue;
+    rows.push_back(static_cast<int>(i));
+    const std::size_t node = m_data->tree.nodeOf(i);
+    if (node == WorkspaceTree::None) continue;
+    const QModelIndex index = m_treeFilter->shownFor(m_treeModel->indexOfNode(node));
+    if (index.isValid()) nodes.append(QItemSelectionRange(index));
+  }
+  if (ViewState::isFlat()) return selectRows(rows);
+  m_tree->selectionModel()->select(nodes, QItemSelectionModel::ClearAndSelect);
+  if (!nodes.isEmpty()) m_tree->scrollTo(nodes.first().topLeft());
+}
+
+// --- what stands around the views ---
+
+void CCMDialog::updateState() {
+  const bool isEmpty = m_data->units.empty();
+  const bool flat = ViewState::isFlat();
+  m_tree->setVisible(!flat && !isEmpty);
+  m_list->setVisible(flat && !isEmpty);
+  m_empty->setVisible(isEmpty);
+  m_filter->setVisible(!isEmpty);
+  if (isEmpty) {
+    m_empty->setText(activeProjectUnit() == nullptr
+                         ? tr("No project is open. Open one, then come back here.")
+                         : tr("This project has no units with files of their own yet. Save the "
+                              "model, then add its units to the archive."));
+    m_totals->clear();
+    return;
+  }
+  const int all = static_cast<int>(m_data->units.size());
+  const int selected = static_cast<int>(GetSelectedCount());
+  const bool filtered = m_list->model() != m_listModel;
+  const int visible = filtered ? m_list->model()->rowCount() : all;
+  const QString units = filtered ? tr("%1 of %n unit(s)", nullptr, all).arg(visible)
+                                 : tr("%n unit(s)", nullptr, all);
+  m_totals->setText(tr("%1, %n selected", nullptr, selected).arg(units));
+}
+
+}  // namespace veldra

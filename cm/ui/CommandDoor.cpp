@@ -1,0 +1,51 @@
+#include "cm/ui/CommandDoor.h"
+
+#include "cm/ui/OptionWindows.h"
+#include "cm/ui/logic/ButtonRules.h"
+#include "cm/ui/logic/CommandRun.h"
+#include "cm/ui/logic/UserDefinedCommand.h"
+
+namespace veldra {
+
+namespace {
+
+/// Stands for a window that lists nothing.
+class GivenUnits : public CommandView {
+ public:
+  GivenUnits(const UnitList& units, QWidget* parent) : m_units(units), m_parent(parent) {}
+
+  std::size_t GetSelectedCount() override { return m_units.size(); }
+  UnitList CmSelectedItems() override { return m_units.alive(); }
+  std::optional<CommandOptions> askOptions(const OptionPresets& presets) override {
+    return showOptionWindow(presets, m_parent);
+  }
+  void commandStarts(const CommandRow&) override {}
+  void commandEnds() override {}
+  void DoAfterOpRefresh() override {}
+  void dropGoneUnits() override {}
+
+ private:
+  LiveUnits m_units;
+  QWidget* m_parent;
+};
+
+bool isUserCommand(DialogCommand command) {
+  return command == DialogCommand::RunTool ||
+         (command >= DialogCommand::UserCommand1 && command <= DialogCommand::UserCommand4);
+}
+
+}  // namespace
+
+bool runCommandOn(int controlId, const UnitList& units, QWidget* parent) {
+  for (const ButtonRow& button : buttonTable()) {
+    if (button.controlId != controlId) continue;
+    if (isUserCommand(button.command)) return UserDefinedCommand::run(button.command, units);
+    const CommandRow* const row = commandRow(button.command);
+    if (row == nullptr) return false;
+    GivenUnits view(units, parent);
+    return CommandRun(view).run(*row);
+  }
+  return false;
+}
+
+}  // namespace veldra

@@ -1,0 +1,174 @@
+#include "cm/ui/Icons.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFileIconProvider>
+#include <QHash>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPalette>
+#include <QSvgRenderer>
+#include <array>
+#include <memory>
+
+#include "cm/core/CMStatus.h"
+#include "cm/ui/widgets/Text.h"
+
+namespace veldra {
+
+namespace {
+
+constexpr std::array<const char*, 22> CommandDrawings{
+    "connect",  "list-archive", "compare", "synchronize", "refresh",    "run-tool",
+    "branch",   "fetch",        "check-out", "undo",      "check-in",   "add",
+    "lock",     "unlock",       "history", "properties",  "user-1",     "user-2",
+    "user-3",   "user-4",       "flat",    "tree"};
+
+constexpr std::array<const char*, 7> StateDrawings{
+    "state-0", "state-1", "state-2", "state-3", "state-4", "state-5", "state-6"};
+
+/// Draws an SVG in the palette's ink whenever it is asked, so that every size is sharp. The ink of
+/// the Selected mode is given, since a pressed button and a selected line differ there.
+class InkEngine : public QIconEngine {
+ public:
+  InkEngine(QByteArray drawing, QPalette::ColorRole selectedInk)
+      : m_drawing(std::move(drawing)), m_selectedInk(selectedInk) {}
+
+  void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State) override {
+    QSvgRenderer renderer(inked(mode));
+    renderer.setAspectRatioMode(Qt::KeepAspectRatio);
+    const QRect moved = mode == QIcon::Selected ? place.translated(0, 1) : place;
+    renderer.render(painter, moved);
+  }
+
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap picture(size);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    paint(&painter, picture.rect(), mode, state);
+    return picture;
+  }
+
+  QIconEngine* clone() const override { return new InkEngine(m_drawing, m_selectedInk); }
+
+ private:
+  QByteArray inked(QIcon::Mode mode) const {
+    const QPalette palette = QApplication::palette();
+    const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+    const auto role = mode == QIcon::Selected ? m_selectedInk
+                      : mode == QIcon::Active ? QPalette::Highlight
+                                              : QPalette::ButtonText;
+    const QColor ink = palette.color(group, role);
+    QByteArray drawing = m_drawing;
+    return drawing.replace("currentColor", ink.name().toLatin1());
+  }
+
+  QByteArray m_drawing;
+  QPalette::ColorRole m_selectedInk;
+};
+
+/// Two icons beside each other.
+class PairEngine : public QIconEngine {
+ public:
+  PairEngine(QIcon left, QIcon right) : m_left(std::move(left)), m_right(std::move(right)) {}
+
+  void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State) override {
+    const int side = place.height();
+    m_left.paint(painter, QRect(place.left(), place.top(), side, side), Qt::AlignCenter, mode);
+    m_right.paint(painter, QRect(place.right() - side + 1, place.top(), side, side),
+                  Qt::AlignCenter, mode);
+  }
+
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap picture(size);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    paint(&painter, picture.rect(), mode, state);
+    return picture;
+  }
+
+  QIconEngine* clone() const override { return new PairEngine(m_left, m_right); }
+
+ private:
+  QIcon m_left;
+  QIcon m_right;
+};
+
+QHash<QString, QIcon>& cache() {
+  static QHash<QString, QIcon> icons;
+  return icons;
+}
+
+QIcon drawn(const QString& name, QPalette::ColorRole selectedInk = QPalette::HighlightedText) {
+  QIcon& icon = cache()[name];
+  if (!icon.isNull()) return icon;
+  QFile file(QStringLiteral(":/veldra-cm/icons/%1.svg").arg(name));
+  if (file.open(QIODevice::ReadOnly)) icon = QIcon(new InkEngine(file.readAll(), selectedInk));
+  return icon;
+}
+
+QString drawingOf(const IUnit& unit) {
+  static const QHash<QString, QString> drawings{
+      {QStringLiteral("Project"), QStringLiteral("unit-project")},
+      {QStringLiteral("Package"), QStringLiteral("unit-package")},
+      {QStringLiteral("Diagram"), QStringLiteral("unit-diagram")}};
+  return drawings.value(shown(unit.getTypeName()), QStringLiteral("unit-element"));
+}
+
+bool isEmbedded(const IUnit& unit) {
+  return const_cast<IUnit&>(unit).asEmbededFile() != nullptr;
+}
+
+/// What the system shows for files of that type; null when it has no picture.
+QIcon shellIcon(const IUnit& unit) {
+  const QString suffix = QFileInfo(shown(unit.getFileName())).suffix().toLower();
+  QIcon& icon = cache()[QStringLiteral("shell/") + suffix];
+  if (icon.isNull()) {
+    static const QFileIconProvider provider;
+    icon = provider.icon(QFileInfo(QStringLiteral("file.") + suffix));
+    if (icon.isNull() || icon.availableSizes().isEmpty()) icon = drawn(QStringLiteral("unit-file"));
+  }
+  return icon;
+}
+
+}  // namespace
+
+QIcon commandIcon(DialogCommand command) {
+  return drawn(QString::fromLatin1(CommandDrawings.at(static_cast<std::size_t>(command))),
+               QPalette::Highlight);
+}
+
+QIcon stateIcon(int imageIndex) {
+  const bool isKnown = imageIndex >= 0 && imageIndex < static_cast<int>(StateDrawings.size());
+  return drawn(QString::fromLatin1(StateDrawings.at(isKnown ? static_cast<std::size_t>(imageIndex)
+                                                            : 0)));
+}
+
+QIcon unitIcon(const IUnit& unit) {
+  return isEmbedded(unit) ? shellIcon(unit) : drawn(drawingOf(unit));
+}
+
+QIcon unitIconWithState(const IUnit& unit) {
+  // Without a provider no state is known; the image of an invalid one would say "deleted".
+  const int state =
+      CMStatus::getIsInvalid(&unit) != 0 ? 0 : CMStatus::getCMStatusImgIndex(&unit);
+  const QString kind = isEmbedded(unit)
+                           ? QStringLiteral("shell/") + QFileInfo(shown(unit.getFileName())).suffix()
+                           : drawingOf(unit);
+  const QString key = QStringLiteral("pair/%1/%2").arg(state).arg(kind);
+  const auto known = cache().constFind(key);
+  if (known != cache().constEnd()) return *known;
+  const QIcon pair(new PairEngine(stateIcon(state), unitIcon(unit)));
+  cache().insert(key, pair);
+  return pair;
+}
+
+QSize unitIconWithStateSize(int height) {
+  return {height * 2 + 4, height};
+}
+
+void forgetIcons() {
+  cache().clear();
+}
+
+}  // namespace veldra

@@ -1,0 +1,254 @@
+#include "cm/ui/logic/CommandRun.h"
+
+#include <exception>
+#include <ostream>
+
+#include "cm/core/CMArchive.h"
+#include "cm/core/CMCoCiDisplayStatus.h"
+#include "cm/core/CMFacade.h"
+#include "cm/core/TextTools.h"
+#include "cm/host/Host.h"
+#include "cm/host/IPN.h"
+#include "cm/host/IUserMessages.h"
+#include "cm/host/LogTrace.h"
+#include "cm/host/MessageIds.h"
+#include "cm/templates/CMProperty.h"
+#include "cm/ui/logic/BackEndMode.h"
+#include "cm/ui/logic/CallArguments.h"
+#include "cm/ui/logic/InformationFiles.h"
+#include "cm/ui/logic/OutputFlush.h"
+#include "cm/ui/logic/RecursiveRun.h"
+#include "cm/ui/logic/SelectionRules.h"
+#include "cm/ui/logic/ViewState.h"
+
+namespace veldra {
+
+namespace {
+
+/// The host's undo transaction around a command that changes the model.
+class UndoScope {
+ public:
+  explicit UndoScope(bool isNeeded) {
+    Host* const host = installedHost();
+    m_undoer = isNeeded && host != nullptr ? host->undoer() : nullptr;
+    if (m_undoer != nullptr) m_undoer->startTransaction(nullptr, 1);
+  }
+  UndoScope(const UndoScope&) = delete;
+  UndoScope& operator=(const UndoScope&) = delete;
+  ~UndoScope() {
+    if (m_undoer != nullptr) m_undoer->endTransaction();
+  }
+
+ private:
+  Undoer* m_undoer;
+};
+
+/// Tells the view when units may not be looked at.
+class RunningScope {
+ public:
+  RunningScope(CommandView& view, const CommandRow& row) : m_view(view) { view.commandStarts(row); }
+  RunningScope(const RunningScope&) = delete;
+  RunningScope& operator=(const RunningScope&) = delete;
+  ~RunningScope() { m_view.commandEnds(); }
+
+ private:
+  CommandView& m_view;
+};
+
+void traceIfAny(const char* line) {
+  if (*line != '\0') VELDRA_TRACE(line);
+}
+
+void showError(int id) {
+  notifyUserAndAsk(loadMessage(id), MessageBox::IconError);
+}
+
+/// A question with Yes, No and Cancel: nothing for Cancel.
+std::optional<bool> askYesNo(int id) {
+  const int answer =
+      notifyUserAndAsk(loadMessage(id), MessageBox::YesNoCancel | MessageBox::IconQuestion);
+  if (answer == MessageBox::AnswerYes) return true;
+  if (answer == MessageBox::AnswerNo) return false;
+  return std::nullopt;
+}
+
+bool skipsFetchWindow() {
+  std::string asks;
+  omGetEnvVar("General", "FetchWithDesc", asks, "");
+  return !asks.empty() && !equalsNoCase(asks, "true");
+}
+
+}  // namespace
+
+bool CommandRun::run(const CommandRow& row) {
+  const CommandSide& side = BackEndMode::current().usesProvider ? row.provider : row.tool;
+  if (!allowsSelection(side.selection, m_view.GetSelectedCount())) return false;
+  traceIfAny(row.starting);
+  const UndoScope undo(row.changesModel);
+  return runInside(row);
+}
+
+bool CommandRun::runInside(const CommandRow& row) {
+  m_selection.assign(m_view.CmSelectedItems());
+  m_diagnostics.clear();
+  CommandOptions options;
+  if (!askFirst(row, options)) return false;
+  const bool recursive = options.withDescendants && row.recursive != nullptr;
+  const bool succeeded = recursive ? runRecursive(row, options) : runPlain(row, options);
+  finish(row, options, succeeded);
+  return succeeded;
+}
+
+bool CommandRun::askFirst(const CommandRow& row, CommandOptions& options) {
+  const BackEndMode mode = BackEndMode::current();
+  if (mode.usesProvider && row.needsCompliance && CMProperty::useSccCompliantTool() == 0) {
+    showError(MessageId::ProviderNotCompliant);
+    return false;
+  }
+  switch (mode.usesProvider ? row.provider.window : row.tool.window) {
+    case OptionWindow::None:
+      return connectFirst(row, options);
+    case OptionWindow::Question:
+      return askUndo(options);
+    case OptionWindow::Connect:
+      return askWindow(row, options) && connectFirst(row, options);
+    default:
+      break;
+  }
+  if (row.command == DialogCommand::Fetch && skipsFetchWindow()) return true;
+  if (row.command == DialogCommand::AddToArchive && !askSubUnits(options)) return false;
+  const bool subUnits = options.withDescendants;
+  if (!askWindow(row, options)) return false;
+  options.withDescendants = options.withDescendants || subUnits;
+  return true;
+}
+
+bool CommandRun::askWindow(const CommandRow& row, CommandOptions& options) {
+  const std::optional<CommandOptions> chosen =
+      m_view.askOptions(OptionRules::presets(row, m_selection.alive()));
+  if (chosen) options = *chosen;
+  return chosen.has_value();
+}
+
+bool CommandRun::askUndo(CommandOptions& options) {
+  const UnitList units = m_selection.alive();
+  if (InformationFiles::areOffered() &&
+      InformationFiles::shouldSetInformationFilesCheckBoxForUnitsList2(units)) {
+    const std::optional<bool> take = askYesNo(MessageId::UndoInformationFiles);
+    if (!take) return false;
+    options.withInformationFiles = *take;
+  }
+  const std::optional<bool> below = askYesNo(MessageId::UndoWithDescendants);
+  if (!below) return false;
+  options.withDescendants = *below;
+  return true;
+}
+
+bool CommandRun::askSubUnits(CommandOptions& options) {
+  if (!CMProperty::getProjectBool(IPN::General, "AddArchiveWithSubUnits", false)) return true;
+  const std::optional<bool> take = askYesNo(MessageId::AddSubUnits);
+  options.withDescendants = take.value_or(false);
+  return take.has_value();
+}
+
+bool CommandRun::connectFirst(const CommandRow& row, const CommandOptions& options) {
+  if (row.command != DialogCommand::Connect) return true;
+  std::string refusal;
+  if (ConnectingToVaultrixWithControlledFiles(refusal)) {
+    notifyUserAndAsk(refusal, MessageBox::IconError);
+    return false;
+  }
+  if (!options.archive.empty()) CMArchive::setMainArchive(options.archive);
+  return true;
+}
+
+bool CommandRun::takeSelection(const CommandRow& row, const CommandOptions& options,
+                               UnitList& units) {
+  units = m_selection.alive();
+  if (units.empty() && !m_selection.empty()) {
+    notifyUserAndAsk(loadMessage(MessageId::SelectionGone), MessageBox::IconWarning);
+    return false;
+  }
+  if (options.withInformationFiles) {
+    // An undo asks about the first unit only.
+    UnitList asked = units;
+    if (row.command == DialogCommand::UndoCheckOut) asked.resize(1);
+    InformationFiles::append(asked);
+    units.insert(units.end(), asked.begin(), asked.end());
+  }
+  const bool takesAllFiles = options.withDescendants;
+  if (takesAllFiles) units = withNestedFiles(units);
+  CMFacade::removeDuplicatesFromItemList(units);
+  return true;
+}
+
+bool CommandRun::runPlain(const CommandRow& row, const CommandOptions& options) {
+  UnitList units;
+  return takeSelection(row, options, units) && call(row, row.call, units, options);
+}
+
+bool CommandRun::runRecursive(const CommandRow& row, const CommandOptions& options) {
+  UnitList units;
+  if (!takeSelection(row, options, units)) return false;
+  traceIfAny(row.recursive->starting);
+  if (!callRecursive(row, units, options)) return false;
+  if (row.recursive->reloadStarting != nullptr) {
+    traceIfAny(row.recursive->reloadStarting);
+    reloadFiles(units);
+    traceIfAny(row.recursive->reloadCompleted);
+  }
+  return true;
+}
+
+bool CommandRun::call(const CommandRow& row, UnitCommandFunction function, UnitList& units,
+                      const CommandOptions& options) {
+  const bool usesProvider = CMProperty::getUseSCCtool() != 0;
+  DialogArguments arguments(row, options);
+  const RunningScope running(m_view, row);
+  if (!usesProvider) flushCommandOutput();
+  int result = 0;
+  bool threw = false;
+  try {
+    guardFaults([&] { result = function(units, arguments.list(), m_diagnostics); });
+  } catch (const std::exception& fault) {
+    threw = true;
+    VELDRA_TRACE("The command ended with a fault: ", fault.what());
+  }
+  flushCommandOutput();
+  // Operations of a provider answer 0 whatever came of them; they have told the user themselves.
+  const bool tellsByResult = !usesProvider || row.command == DialogCommand::Connect;
+  if (row.command == DialogCommand::Fetch) markSaveDue();
+  return !threw && (result != 0 || !tellsByResult);
+}
+
+bool CommandRun::callRecursive(const CommandRow& row, UnitList& units,
+                               const CommandOptions& options) {
+  const bool usesProvider = CMProperty::getUseSCCtool() != 0;
+  if (row.command == DialogCommand::CheckOut && !usesProvider) {
+    DialogArguments arguments(row, options);
+    const RunningScope running(m_view, row);
+    return checkOutItems(units, arguments.list(), m_diagnostics);
+  }
+  // A provider has no recursive undo of its own: the plain one gets every unit.
+  const bool plainUndo = row.command == DialogCommand::UndoCheckOut && usesProvider;
+  return call(row, plainUndo ? row.call : row.recursiveCall, units, options);
+}
+
+void CommandRun::finish(const CommandRow& row, const CommandOptions& options, bool succeeded) {
+  const bool hasComment = (row.parts & CallPart::Comment) != 0;
+  if (hasComment) ViewState::keepComment(row.command, succeeded ? std::string() : options.comment);
+  if (!succeeded) {
+    m_view.dropGoneUnits();
+    showFailure(row, m_diagnostics);
+    return;
+  }
+  CMCoCiDisplayStatus(m_diagnostics,
+                      loadMessage(MessageId::CommandResults + static_cast<int>(row.command)))
+      .displayStatus();
+  m_view.DoAfterOpRefresh();
+  const bool recursive = options.withDescendants && row.recursive != nullptr;
+  const CommandSide& side = CMProperty::getUseSCCtool() != 0 ? row.provider : row.tool;
+  traceIfAny(recursive ? row.recursive->completed : side.completed);
+}
+
+}  // namespace veldra

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "cm/core/CMDiagnostic.h"
+#include "cm/ui/logic/CommandView.h"
+#include "cm/ui/logic/LiveUnits.h"
+
+namespace veldra {
+
+/// Runs a command of the main dialog the way that all of them go: selection rule, options, call,
+/// results, refresh.
+class VELDRA_CM_EXPORT CommandRun {
+ public:
+  /// `view` must outlive the object.
+  explicit CommandRun(CommandView& view) : m_view(view) {}
+
+  /// True when the command ran and was successful; otherwise the user gave up or has been told.
+  bool run(const CommandRow& row);
+
+ private:
+  enum class Scope { Plain, Recursive };
+
+  bool runInside(const CommandRow& row);
+  bool askFirst(const CommandRow& row, CommandOptions& options);
+  bool askWindow(const CommandRow& row, CommandOptions& options);
+  bool askUndo(CommandOptions& options);
+  bool askSubUnits(CommandOptions& options);
+  bool connectFirst(const CommandRow& row, const CommandOptions& options);
+  bool takeSelection(const CommandRow& row, const CommandOptions& options, UnitList& units);
+  bool runPlain(const CommandRow& row, const CommandOptions& options);
+  bool runRecursive(const CommandRow& row, const CommandOptions& options);
+  bool call(const CommandRow& row, UnitCommandFunction function, UnitList& units,
+            const CommandOptions& options);
+  bool callRecursive(const CommandRow& row, UnitList& units, const CommandOptions& options);
+  void finish(const CommandRow& row, const CommandOptions& options, bool succeeded);
+
+  CommandView& m_view;
+  LiveUnits m_selection;
+  DiagnosticList m_diagnostics;
+};
+
+}  // namespace veldra

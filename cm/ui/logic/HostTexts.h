@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+#include "cm/host/Export.h"
+
+namespace veldra {
+
+/// The host's text of a message id, for the windows.
+VELDRA_CM_EXPORT std::string dialogText(int id);
+/// Shows a message through the host, with the icon that fits.
+VELDRA_CM_EXPORT void dialogWarning(const std::string& text);
+VELDRA_CM_EXPORT void dialogError(const std::string& text);
+
+}  // namespace veldra

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+#include "cm/host/Export.h"
+#include "cm/host/IDObject.h"
+#include "cm/host/IUnit.h"
+
+namespace veldra {
+
+/// A list of units that may die while it is kept: a window may stand open for hours, and a question
+/// lets the host do other things.
+class VELDRA_CM_EXPORT LiveUnits {
+ public:
+  LiveUnits() = default;
+  explicit LiveUnits(const UnitList& units) { assign(units); }
+
+  /// Null entries are left out.
+  void assign(const UnitList& units);
+  void clear() { m_entries.clear(); }
+  std::size_t size() const { return m_entries.size(); }
+  bool empty() const { return m_entries.empty(); }
+
+  /// The unit at that position, or null when it is gone or there is no such position.
+  IUnit* at(std::size_t position) const;
+  /// Those that still exist, in order.
+  UnitList alive() const;
+  bool anyGone() const;
+  /// Puts the entries into another order: position i gets what was at `order[i]`.
+  void reorder(const std::vector<std::size_t>& order);
+
+ private:
+  struct Entry {
+    IUnit* unit;
+    std::unique_ptr<IHandle> handle;  ///< Null when the host gives none; then the unit is trusted.
+    IUnit* get() const {
+      return handle == nullptr || handle->doGetObject() != nullptr ? unit : nullptr;
+    }
+  };
+  std::vector<Entry> m_entries;
+};
+
+}  // namespace veldra

@@ -1,0 +1,116 @@
+#include "cm/ui/logic/OptionRules.h"
+
+#include "cm/core/TextTools.h"
+#include "cm/host/IEnvironment.h"
+#include "cm/host/IPN.h"
+#include "cm/host/IProperty.h"
+#include "cm/host/IUserMessages.h"
+#include "cm/host/MessageIds.h"
+#include "cm/templates/CMProperty.h"
+#include "cm/ui/logic/BackEndMode.h"
+#include "cm/ui/logic/InformationFiles.h"
+#include "cm/ui/logic/SelectionRules.h"
+#include "cm/ui/logic/ViewState.h"
+
+namespace veldra {
+
+namespace {
+
+bool takesComment(DialogCommand command) {
+  switch (command) {
+    case DialogCommand::CheckOut:
+      return CMProperty::isSetSCC_CAP_COMMENTCHECKOUT(0) != 0;
+    case DialogCommand::Fetch:
+    case DialogCommand::UndoCheckOut:
+      return false;
+    default:
+      return true;
+  }
+}
+
+std::string forbiddenCharacters() {
+  std::string characters;
+  CMProperty::getToolPropertyValue("InValidCharactersInRevisionDescription", characters);
+  return std::string(trimmed(characters));
+}
+
+/// The order of the titles that name a provider's command.
+int titleOf(DialogCommand command) {
+  switch (command) {
+    case DialogCommand::Fetch:
+      return 0;
+    case DialogCommand::CheckOut:
+      return 1;
+    case DialogCommand::UndoCheckOut:
+      return 2;
+    case DialogCommand::CheckIn:
+      return 3;
+    default:
+      return 4;
+  }
+}
+
+}  // namespace
+
+bool OptionRules::offersDescendants(bool foundDescendants) {
+  std::string always;
+  omGetEnvVar("General", "AlwaysEnableWithDescendentsOption", always, "");
+  return foundDescendants || !equalsNoCase(always, "false");
+}
+
+OptionPresets OptionRules::presets(const CommandRow& row, const UnitList& units) {
+  const BackEndMode mode = BackEndMode::current();
+  OptionPresets presets;
+  presets.command = row.command;
+  presets.window = mode.usesProvider ? row.provider.window : row.tool.window;
+  presets.comment = ViewState::unusedComment(row.command);
+  presets.offersInformationFiles = row.takesInformationFiles && InformationFiles::areOffered();
+  presets.withInformationFiles =
+      presets.offersInformationFiles &&
+      InformationFiles::shouldSetInformationFilesCheckBoxForUnitsList2(units);
+  const bool isAdd = row.command == DialogCommand::AddToArchive;
+  presets.offersDescendants =
+      !isAdd && offersDescendants(CheckForDescendentsInSelectedItems(units));
+  if (presets.window == OptionWindow::Provider) presets.takesComment = takesComment(row.command);
+  if (presets.window == OptionWindow::CheckOut) {
+    // Who checks out wants to write, unless the settings say otherwise.
+    presets.mode =
+        CMProperty::getProjectBool(IPN::General, "DefaultLockReserveOnCheckOut", true);
+    presets.saysReserved = mode.isBranchTool;
+  }
+  if (presets.window == OptionWindow::CheckIn) presets.takesMode = !mode.isBranchTool && !isAdd;
+  return presets;
+}
+
+std::string OptionRules::objection(const OptionPresets& presets, const CommandOptions& options) {
+  if (presets.window == OptionWindow::CheckIn) {
+    const BackEndMode mode = BackEndMode::current();
+    const std::string forbidden = forbiddenCharacters();
+    const bool applies = !mode.usesProvider && !mode.isNoTool && !forbidden.empty();
+    if (applies && options.comment.find_first_of(forbidden) != std::string::npos) {
+      return formatMessage(MessageId::ForbiddenCharacters, {forbidden});
+    }
+  }
+  if (presets.window == OptionWindow::Provider && presets.command == DialogCommand::CheckIn &&
+      options.comment.empty() &&
+      CMProperty::getProjectBool(IPN::SCC, "CommentsRequiredForCheckIn", false)) {
+    return loadMessage(MessageId::CommentRequired);
+  }
+  if (presets.window == OptionWindow::Connect && trimmed(options.archive).empty()) {
+    return loadMessage(MessageId::ConnectWithoutArchive);
+  }
+  return {};
+}
+
+std::string OptionRules::title(const OptionPresets& presets) {
+  if (presets.window != OptionWindow::Provider) {
+    // Lock and unlock share a window, and so do check-in and add; their captions are good titles.
+    return loadMessage(MessageId::CommandCaption + static_cast<int>(presets.command));
+  }
+  const IProperty* const named = CMProperty::getToolProperty("UseSCCCommandTitles");
+  const bool namesCommand = named != nullptr && named->getBool();
+  return loadMessage(namesCommand ? MessageId::OptionTitleOfCommand + titleOf(presets.command)
+                                  : MessageId::OptionTitle);
+}
+
+}  // namespace veldra

@@ -1,0 +1,85 @@
+#include "cm/ui/logic/RecursiveRun.h"
+
+#include "cm/core/CMArchive.h"
+#include "cm/core/CMArchiveItem.h"
+#include "cm/core/CMFacade.h"
+#include "cm/core/UnitBatch.h"
+#include "cm/core/UnitReload.h"
+#include "cm/host/ATMRecursiveHelper.h"
+#include "cm/host/CSignal2Exception.h"
+#include "cm/host/IModel.h"
+#include "cm/templates/CMProperty.h"
+#include "cm/ui/logic/LiveUnits.h"
+#include "cm/ui/logic/OutputFlush.h"
+#include "cm/ui/logic/UnitTexts.h"
+
+namespace veldra {
+
+namespace {
+
+/// The archive of the first unit, or of the project, becomes the main one; a list that the user has
+/// chosen stays.
+void chooseMainArchive(const UnitList& units) {
+  if (CMArchive::getArchiveSelection() == CMArchive::ArchiveUnset) return;
+  const IUnit* const unit =
+      !units.empty() ? units.front() : CurrentWorkspace::GetActiveProject();
+  std::string archive;
+  if (unit != nullptr && CMProperty::getBatchArchiveRecursive(unit, archive) != 0) {
+    CMArchive::setMainArchive(archive);
+  }
+}
+
+bool isUnitFile(const std::string& fileName) {
+  const std::size_t dot = fileName.rfind('.');
+  return dot != std::string::npos &&
+         !IProject::fileExtension2UnitType(fileName.substr(dot)).empty();
+}
+
+}  // namespace
+
+UnitList withNestedFiles(const UnitList& units) {
+  UnitList all;
+  for (IUnit* unit : units) {
+    const UnitList nested = ATMRecursiveHelper::getListOFFilesIn(unit, true);
+    if (nested.empty()) all.push_back(unit);
+    all.insert(all.end(), nested.begin(), nested.end());
+  }
+  CMFacade::removeDuplicatesFromItemList(all);
+  return all;
+}
+
+void CmGetArcItemsFor(const IUnit& unit, CMArchiveItemListWrapper& items) {
+  items.addTail(new CMArchiveItem(nameNShortPath(&unit), {}, CMArchiveItem::ReadOnly, {}, {}));
+}
+
+bool checkOutItems(const UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics) {
+  CMArchiveItemListWrapper items;
+  for (const IUnit* unit : units) CmGetArcItemsFor(*unit, items);
+  chooseMainArchive(units);
+  flushCommandOutput();
+  int result = 0;
+  guardFaults([&] {
+    result = CMFacade::RecCheckOutFromArchive(items.list(), arguments, diagnostics);
+  });
+  flushCommandOutput();
+  return result != 0;
+}
+
+void reloadFiles(const UnitList& units) {
+  // A reload may take the units below along; what is gone by then has been reloaded with its owner.
+  const LiveUnits live(units);
+  const ReloadBracket bracket(!units.empty());
+  for (std::size_t i = 0; i < live.size(); ++i) {
+    IUnit* const unit = live.at(i);
+    if (unit == nullptr || !isUnitFile(unit->getFileName())) continue;
+    updateHeaderAndMode(*unit);
+    bool canReload = false;
+    if (reloadInPlace(*unit, canReload) == nullptr && !canReload) addAgain(*unit);
+  }
+}
+
+void markSaveDue() {
+  CMProperty::saveOnCheckout(1);
+}
+
+}  // namespace veldra

@@ -1,0 +1,101 @@
+#include "cm/ui/logic/UserDefinedCommand.h"
+
+#include <utility>
+
+#include "cm/core/CMFacade.h"
+#include "cm/core/CMTranscation.h"
+#include "cm/core/TextTools.h"
+#include "cm/host/IEnvironment.h"
+#include "cm/host/IPN.h"
+#include "cm/host/IProperty.h"
+#include "cm/templates/CMProperty.h"
+#include "cm/tool/CMToolShellInterface.h"
+#include "cm/ui/logic/OutputFlush.h"
+
+namespace veldra {
+
+namespace {
+
+constexpr char BlockStart[] = "\"ARG=";
+
+void fill(std::string& text, const char* keyword, const std::string& value) {
+  if (text.find(keyword) != std::string::npos) text = replaceAll(text, keyword, value);
+}
+
+std::string archiveOf(const IUnit& unit) {
+  std::string project;
+  std::string auxPath;
+  unit.getSccArchiveRecursive(project, auxPath);
+  return project;
+}
+
+std::string forUnit(std::string pattern, const IUnit& unit) {
+  fill(pattern, "$Directory", unit.getDirectory());
+  fill(pattern, "$Path", unit.getDirectory() + omPathSeparator() + unit.getFileName());
+  fill(pattern, "$Ver", "");
+  fill(pattern, "$Archive", archiveOf(unit));
+  return pattern;
+}
+
+std::string forUnits(const std::string& pattern, const UnitList& units) {
+  std::string all;
+  if (pattern.empty()) return all;
+  for (const IUnit* unit : units) {
+    if (unit == nullptr) continue;
+    if (!all.empty()) all += ' ';
+    all += forUnit(pattern, *unit);
+  }
+  return all;
+}
+
+}  // namespace
+
+std::string UserDefinedCommand::ExpandUserDefCommand(const std::string& command,
+                                                     const UnitList& units) {
+  std::string result = command;
+  const std::size_t start = command.find(BlockStart);
+  const std::size_t content = start + sizeof(BlockStart) - 1;
+  const std::size_t end =
+      start != std::string::npos ? command.find('"', content) : std::string::npos;
+  if (end != std::string::npos) {
+    const std::string pattern(
+        trimmed(std::string_view(command).substr(content, end - content)));
+    result = command.substr(0, start) + forUnits(pattern, units) + command.substr(end + 1);
+  }
+  std::string root;
+  if (result.find("$OMROOT") != std::string::npos && omGetRoot(root) != 0) {
+    result = replaceAll(result, "$OMROOT", root);
+  }
+  return result;
+}
+
+bool UserDefinedCommand::RunUserDefCommand(const std::string& command, const UnitList& units,
+                                           const std::string& transactionName) {
+  if (command.empty()) return true;
+  const std::string line = ExpandUserDefCommand(command, units);
+  if (const CMFacade::SaveCallback& save = CMFacade::saveCallbackFunc()) save();
+  const CMTranscation transcation(nullptr, 1, CMTranscationType::TxnFreeCommand, transactionName);
+  std::string output;
+  std::string errors;
+  const int result = theCMToolShellInterface().Execute(line, output, errors, "");
+  flushCommandOutput();
+  return result != 0 && !theCMToolShellInterface().lastCommandEnd().failed;
+}
+
+std::string UserDefinedCommand::commandOf(DialogCommand command) {
+  std::string name = "RunCMToolCommand";
+  if (command != DialogCommand::RunTool) {
+    const int first = static_cast<int>(DialogCommand::UserCommand1);
+    name = "UserDefCommand_" + std::to_string(static_cast<int>(command) - first + 1);
+  }
+  const IProperty* const property = CMProperty::getProjectProperty(IPN::General, name);
+  return property != nullptr ? property->getValue() : std::string();
+}
+
+bool UserDefinedCommand::run(DialogCommand command, const UnitList& units) {
+  const bool isTool = command == DialogCommand::RunTool;
+  return RunUserDefCommand(commandOf(command), units,
+                           isTool ? "Invoke Configuration Management Tool" : "User Defined Command");
+}
+
+}  // namespace veldra

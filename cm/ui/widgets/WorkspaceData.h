@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "cm/ui/logic/LiveUnits.h"
+#include "cm/ui/logic/UnitTexts.h"
+#include "cm/ui/logic/WorkspaceTree.h"
+
+namespace veldra {
+
+/// What both views look at. Nothing is kept per row: texts are made when they are painted.
+struct WorkspaceData {
+  LiveUnits units;
+  WorkspaceTree tree;
+  std::optional<UnitTexts> texts;
+  /// While a command runs, units may die at any moment and are not looked at.
+  bool isFrozen = false;
+
+  /// The unit of a row, or null when there is nothing to show.
+  IUnit* visibleUnit(std::size_t position) const {
+    return isFrozen || !texts ? nullptr : units.at(position);
+  }
+};
+
+}  // namespace veldra

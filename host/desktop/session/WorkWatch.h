@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+
+#include "cm/host/IProgress.h"
+#include "host/desktop/commands/CommandRun.h"
+#include "host/desktop/session/OutputSink.h"
+#include "host/platform/Processes.h"
+
+namespace veldra::host::desktop {
+
+/// Keeps the windows alive while the module works.
+///
+/// The module's operations run on this thread until they are done. Between units and while a child
+/// runs, events are handled: windows are painted and timers run, but what the user types and clicks
+/// is thrown away, except in the widget that cancels and the Escape key, which cancels too.
+class WorkWatch : public QObject, public ChildWatch, public IProgress {
+  Q_OBJECT
+
+ public:
+  explicit WorkWatch(OutputSink& sink);
+
+  /// The widget that gets input all the same, with what lies in it. Not owned.
+  void setCancelWidget(QWidget* widget) { m_cancelWidget = widget; }
+  bool isWorking() const { return m_isWorking; }
+  ResultCollector& results() { return m_results; }
+  /// What the user asks for by cancelling; also lets the running child be ended.
+  void cancel();
+
+  // --- ChildWatch ---
+  void printed(std::string_view bytes) override { m_sink.showLive(bytes); }
+  void waiting() override { pump(); }
+  // --- IProgress ---
+  void unitStarted(const ProgressStep& step) override;
+  void unitEnded(const ProgressStep& step, UnitEnd end, const std::string& words) override;
+  bool isCancelled() override;
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ signals:
+  void workStarted();
+  void stepChanged(const veldra::ProgressStep& step);
+  void cancelled();
+  /// The ordinary event loop runs again.
+  void workEnded();
+
+ private:
+  void pump();
+  void rest();
+  bool mayPass(const QObject* watched) const;
+
+  OutputSink& m_sink;
+  ResultCollector m_results;
+  QPointer<QWidget> m_cancelWidget;
+  QTimer m_restTimer;
+  bool m_isPumping = false;
+  bool m_isWorking = false;
+  bool m_isCancelled = false;
+};
+
+}  // namespace veldra::host::desktop

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QFrame>
+#include <QString>
+#include <functional>
+
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
+class QToolButton;
+class QVBoxLayout;
+
+namespace veldra::host::desktop {
+
+/// A line above the content that says why something is as it is, with a way out.
+class Banner : public QFrame {
+  Q_OBJECT
+
+ public:
+  explicit Banner(QWidget* parent = nullptr);
+  QLabel* label() { return m_label; }
+  QPushButton* addButton(const QString& text);
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void colour();
+
+  QLabel* m_label;
+  QHBoxLayout* m_layout;
+};
+
+/// A tab of the editor: a row of small buttons over its content.
+class EditorPage : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit EditorPage(QWidget* parent = nullptr);
+  void setContent(QWidget* content);
+  /// A button that does something; its text is shown as tool tip and told to screen readers.
+  QToolButton* addTool(const QString& iconName, const QString& text, std::function<void()> action);
+
+ private:
+  QHBoxLayout* m_tools;
+  QVBoxLayout* m_layout;
+};
+
+}  // namespace veldra::host::desktop

@@ -1,0 +1,161 @@
+#include "cm/ui/logic/CommandRun.h"
+
+#include "cm/ui/logic/ViewState.h"
+#include "tests/support/HostTest.h"
+#include "tests/support/RecordingBackEnd.h"
+
+namespace veldra::test {
+namespace {
+
+using ::testing::ElementsAre;
+
+/// A window whose user has selected units and fills in what the test prepared.
+class ScriptedView : public CommandView {
+ public:
+  UnitList selected;
+  std::optional<CommandOptions> answer = CommandOptions{};
+  std::function<void()> whileAsking;
+  std::vector<OptionPresets> asked;
+  int refreshes = 0;
+
+  std::size_t GetSelectedCount() override { return selected.size(); }
+  UnitList CmSelectedItems() override { return selected; }
+  std::optional<CommandOptions> askOptions(const OptionPresets& presets) override {
+    asked.push_back(presets);
+    if (whileAsking) whileAsking();
+    return answer;
+  }
+  void commandStarts(const CommandRow&) override { ++running; }
+  void commandEnds() override { --running; }
+  void DoAfterOpRefresh() override { ++refreshes; }
+  void dropGoneUnits() override {}
+  int running = 0;
+};
+
+class CommandRunTest : public HostTest {
+ protected:
+  bool run(DialogCommand command) { return CommandRun(m_view).run(*commandRow(command)); }
+  std::string lastMessage() const {
+    const auto& asked = m_host.memoryMessages.asked;
+    return asked.empty() ? "" : asked.back().text.substr(0, 5);
+  }
+
+  ScriptedView m_view;
+  RecordedBackEnds m_backEnds;
+  MemoryPackage& m_package = m_model.addPackage("A.vpk");
+  MemoryUnit& m_unit = m_model.addUnit("U.vcl");
+};
+
+TEST_F(CommandRunTest, ACommandLeavesItsLinesAndRefreshesInsideItsTransaction) {
+  m_view.selected = {&m_unit};
+  EXPECT_TRUE(run(DialogCommand::CheckOut));
+  EXPECT_EQ(m_backEnds.calls, (Lines{"tool.checkOut"}));
+  EXPECT_THAT(m_host.traceLog.texts(), ElementsAre("Starting Check Out", "Check Out completed"));
+  EXPECT_EQ(m_view.refreshes, 1);
+  EXPECT_EQ(m_view.running, 0);
+  EXPECT_EQ(m_host.undo.open, 0);
+}
+
+TEST_F(CommandRunTest, HistoryWithAToolClosesWithTheWordsOfTheRefresh) {
+  m_view.selected = {&m_unit, &m_package};
+  EXPECT_TRUE(run(DialogCommand::History));
+  EXPECT_THAT(m_host.traceLog.texts(),
+              ElementsAre("Starting History", "Refresh CM State completed"));
+  useProvider("Any");
+  m_host.memoryMessages.asked.clear();
+  EXPECT_FALSE(run(DialogCommand::History));
+  EXPECT_EQ(lastMessage(), "60401");
+}
+
+TEST_F(CommandRunTest, GivingUpStopsEverything) {
+  m_view.selected = {&m_unit};
+  m_view.answer.reset();
+  EXPECT_FALSE(run(DialogCommand::CheckIn));
+  EXPECT_TRUE(m_backEnds.calls.empty());
+  EXPECT_EQ(m_view.refreshes, 0);
+  EXPECT_EQ(m_host.undo.open, 0);
+}
+
+TEST_F(CommandRunTest, UnitsThatDieBehindTheOptionsAreLeftOut) {
+  m_view.selected = {&m_unit};
+  m_view.whileAsking = [this] { m_model.destroy(&m_unit); };
+  EXPECT_FALSE(run(DialogCommand::CheckOut));
+  EXPECT_TRUE(m_backEnds.calls.empty());
+  EXPECT_EQ(m_host.memoryMessages.asked.front().text.substr(0, 5), "60402");
+}
+
+TEST_F(CommandRunTest, AFailureKeepsTheCommentAndDoesNotRefresh) {
+  set("CMTool", "None", "General");
+  m_view.selected = {&m_unit};
+  m_view.answer->comment = "what I did";
+  EXPECT_FALSE(run(DialogCommand::CheckIn));
+  EXPECT_EQ(lastMessage(), "60480");
+  EXPECT_EQ(m_view.refreshes, 0);
+  EXPECT_EQ(m_host.traceLog.texts(), (Lines{"Starting Check In"}));
+  set("CMTool", Tool, "General");
+  EXPECT_TRUE(run(DialogCommand::CheckIn));
+  EXPECT_EQ(m_view.asked.back().comment, "what I did");
+  EXPECT_EQ(ViewState::unusedComment(DialogCommand::CheckIn), "") << "it is used now";
+}
+
+TEST_F(CommandRunTest, DescendantsTakeTheRecursiveVariant) {
+  m_package.record.aggregates = {&m_unit};
+  m_view.selected = {&m_package};
+  m_view.answer->withDescendants = true;
+  EXPECT_TRUE(run(DialogCommand::CheckIn));
+  EXPECT_TRUE(run(DialogCommand::CheckOut));
+  EXPECT_EQ(m_backEnds.calls, (Lines{"tool.recCheckIn", "tool.recCheckOutFromArchive"}));
+  EXPECT_THAT(m_host.traceLog.texts(),
+              ::testing::IsSupersetOf({"Starting Recursive Check In",
+                                       "Recursive Check In completed",
+                                       "Starting ATM after Recursive Check Out",
+                                       "Completed ATM after Recursive Check Out",
+                                       "Recursive Check Out completed"}));
+  EXPECT_THAT(m_host.journal.only({"reload"}).size(), ::testing::Gt(0U));
+}
+
+TEST_F(CommandRunTest, UndoWithAToolAsksAboutDescendants) {
+  set("CMTool", "Vaultrix", "General");
+  m_view.selected = {&m_unit};
+  const struct {
+    int answer;
+    Lines calls;
+  } rows[] = {{MessageBox::AnswerCancel, {}},
+              {MessageBox::AnswerNo, {"tool.uncheckout"}},
+              {MessageBox::AnswerYes, {"tool.recUncheckout"}}};
+  for (const auto& row : rows) {
+    m_backEnds.calls.clear();
+    m_host.memoryMessages.answer = row.answer;
+    EXPECT_EQ(run(DialogCommand::UndoCheckOut), !row.calls.empty());
+    EXPECT_EQ(m_backEnds.calls, row.calls);
+  }
+}
+
+TEST_F(CommandRunTest, AddAsksAboutSubUnitsOnlyWhenTheSettingWantsIt) {
+  m_package.record.aggregates = {&m_unit};
+  m_view.selected = {&m_package};
+  EXPECT_TRUE(run(DialogCommand::AddToArchive));
+  EXPECT_TRUE(m_host.memoryMessages.asked.empty());
+  EXPECT_FALSE(m_view.asked.back().offersDescendants);
+  set("AddArchiveWithSubUnits", "True", "General");
+  m_host.memoryMessages.answer = MessageBox::AnswerCancel;
+  EXPECT_FALSE(run(DialogCommand::AddToArchive));
+  m_host.memoryMessages.answer = MessageBox::AnswerYes;
+  EXPECT_TRUE(run(DialogCommand::AddToArchive));
+  EXPECT_EQ(m_backEnds.calls, (Lines{"tool.addMember", "tool.addMember"}));
+}
+
+TEST_F(CommandRunTest, FetchAsksAsTheHostSettingSays) {
+  useProvider("Any");
+  m_view.selected = {&m_unit};
+  auto& setting = m_host.memoryEnvironment.settings[{"General", "FetchWithDesc"}];
+  for (const char* value : {"", "TRUE", "false"}) {
+    setting = value;
+    run(DialogCommand::Fetch);
+  }
+  EXPECT_EQ(m_view.asked.size(), 2U);
+  EXPECT_EQ(m_backEnds.calls.size(), 3U);
+}
+
+}  // namespace
+}  // namespace veldra::test

@@ -1,0 +1,124 @@
+#include "host/desktop/window/MainWindow.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTest>
+#include <QTreeView>
+
+#include "host/desktop/window/UnitEditor.h"
+#include "tests/host/desktop/SampleProject.h"
+#include "tests/host/desktop/ScriptedQuestions.h"
+
+namespace veldra::host::desktop {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::SizeIs;
+
+class MainWindowTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    m_window.show();
+    m_window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
+    ASSERT_TRUE(m_window.openProject(QString::fromStdString(m_sample.folder())));
+    m_questions.asked.clear();
+  }
+  void TearDown() override {
+    m_questions.answer(QMessageBox::Discard);
+    m_window.close();
+  }
+
+  UnitCore& unit(const std::string& path) { return *m_session.project()->unitByFile(path); }
+  QLineEdit& nameField() { return *m_window.findChild<UnitEditor*>()->findChild<QLineEdit*>(); }
+  /// As a person does it: select, type, leave the field.
+  void rename(const QString& path, const QString& name) {
+    m_window.selectUnits({path});
+    nameField().selectAll();
+    QTest::keyClicks(&nameField(), name);
+    QTest::keyClick(&nameField(), Qt::Key_Return);
+  }
+
+  SampleProject m_sample;
+  ScriptedQuestions m_questions;
+  DesktopSession m_session{m_questions};
+  MainWindow m_window{m_session};
+};
+
+TEST_F(MainWindowTest, AUnitIsEditedSavedAndTakenBack) {
+  rename("Brewing/Grinder.vcmp", "Mill");
+  EXPECT_TRUE(m_window.isWindowModified());
+  EXPECT_THAT(m_sample.read("Brewing/Grinder.vcmp"), HasSubstr("\"Grinder\""));
+  QTest::keyClick(&m_window, Qt::Key_S, Qt::ControlModifier);
+  EXPECT_THAT(m_sample.read("Brewing/Grinder.vcmp"), HasSubstr("\"name\": \"Mill\""));
+  EXPECT_FALSE(m_window.isWindowModified());
+  m_session.project()->undo().undo();
+  EXPECT_EQ(unit("Brewing/Grinder.vcmp").record().name, "Grinder");
+}
+
+TEST_F(MainWindowTest, AReadOnlyUnitIsShownAndNotChanged) {
+  m_sample.makeReadOnly("Brewing/Grinder.vcmp");
+  m_window.lookAtDisk();
+  rename("Brewing/Grinder.vcmp", "Mill");
+  EXPECT_TRUE(nameField().isReadOnly());
+  EXPECT_EQ(unit("Brewing/Grinder.vcmp").record().name, "Grinder");
+  EXPECT_FALSE(m_session.hasUnsaved());
+}
+
+TEST_F(MainWindowTest, UnsavedWorkIsAskedAboutBeforeItGoes) {
+  rename("Brewing/Grinder.vcmp", "Mill");
+  m_questions.answer(QMessageBox::Cancel);
+  EXPECT_FALSE(m_window.close());
+  EXPECT_TRUE(m_window.isVisible());
+  ASSERT_THAT(m_questions.asked, SizeIs(1));
+  m_questions.answer(QMessageBox::Cancel);
+  EXPECT_FALSE(m_window.openProject(QString::fromStdString(m_sample.folder())));
+  EXPECT_EQ(unit("Brewing/Grinder.vcmp").record().name, "Mill");
+  m_questions.answer(QMessageBox::Save);
+  EXPECT_TRUE(m_window.close());
+  EXPECT_THAT(m_sample.read("Brewing/Grinder.vcmp"), HasSubstr("\"Mill\""));
+}
+
+TEST_F(MainWindowTest, WhatOthersChangeOnTheDiskComesIn) {
+  m_window.selectUnits({"Brewing/Grinder.vcmp"});
+  std::string text = m_sample.read("Brewing/Grinder.vcmp");
+  text.replace(text.find("\"Grinder\""), 9, "\"Quern\"");
+  m_sample.write("Brewing/Grinder.vcmp", text);
+  m_window.lookAtDisk();
+  EXPECT_EQ(nameField().text().toStdString(), "Quern");
+  EXPECT_TRUE(m_questions.asked.empty());
+
+  rename("Brewing/Grinder.vcmp", "Mine");
+  text.replace(text.find("\"Quern\""), 7, "\"Theirs\"");
+  m_sample.write("Brewing/Grinder.vcmp", text);
+  m_questions.answer(QMessageBox::No);
+  m_window.lookAtDisk();
+  EXPECT_EQ(nameField().text().toStdString(), "Mine") << "the user's work was asked for and kept";
+  EXPECT_THAT(m_questions.asked, SizeIs(1));
+}
+
+TEST_F(MainWindowTest, AProjectThatCannotBeOpenedIsTold) {
+  EXPECT_FALSE(m_window.openProject("/nowhere/at/all"));
+  ASSERT_THAT(m_questions.asked, SizeIs(1));
+  EXPECT_THAT(m_questions.asked[0].text.toStdString(), HasSubstr("/nowhere/at/all"));
+  EXPECT_EQ(m_session.project(), nullptr);
+}
+
+TEST_F(MainWindowTest, EveryCommandCanBeReachedByKeyboardAndHasAName) {
+  for (const QAction* action : m_window.findChildren<QAction*>()) {
+    if (action->isSeparator() || action->menu() || action->text().isEmpty()) continue;
+    EXPECT_TRUE(action->text().contains('&') || !action->shortcut().isEmpty())
+        << action->text().toStdString();
+  }
+  for (const QWidget* widget : m_window.findChildren<QAbstractItemView*>()) {
+    if (widget->focusPolicy() == Qt::NoFocus || widget->objectName().startsWith("qt_")) continue;
+    EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->metaObject()->className();
+  }
+}
+
+}  // namespace
+}  // namespace veldra::host::desktop
