@@ -68,11 +68,11 @@ inline constexpr int ProviderNotLoaded = 60202;  ///< Library, reason.
 inline constexpr int ProviderLacks = 60203;      ///< Operation, entry point.
 inline constexpr int ActivityQuestion = 60204;
 inline constexpr int TaskQuestion = 60205;
-inline constexpr int AddedToArchive = 60206;  ///< Number of files.
-inline constexpr int TargetMissing = 60207;   ///< File.
-inline constexpr int TargetExists = 60208;    ///< File.
-inline constexpr int FileNotMoved = 60209;    ///< File.
-inline constexpr int NowhereToMove = 60210;   ///< File.
+inline constexpr int AddedToArchive = 60206;   ///< Number of files.
+inline constexpr int TargetMissing = 60207;    ///< File.
+inline constexpr int TargetExists = 60208;     ///< File.
+inline constexpr int FileNotMoved = 60209;     ///< File.
+inline constexpr int NowhereToMove = 60210;    ///< File.
 inline constexpr int ChangedAndStale = 60211;  ///< File.
 
 // What the dialogs say. A group with one text per command begins at the number given and goes on in

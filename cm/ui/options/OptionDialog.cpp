@@ -79,8 +79,7 @@ QCheckBox* OptionDialog::addDescendants(int id) {
 }
 
 QCheckBox* OptionDialog::addInformationFiles(int id) {
-  auto* const box =
-      addBox(id, tr("Include &information files"), m_presets.withInformationFiles);
+  auto* const box = addBox(id, tr("Include &information files"), m_presets.withInformationFiles);
   box->setVisible(m_presets.offersInformationFiles);
   return box;
 }
