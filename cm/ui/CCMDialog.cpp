@@ -14,6 +14,7 @@
 
 #include "cm/ui/Icons.h"
 #include "cm/ui/RefillScope.h"
+#include "cm/ui/Translations.h"
 #include "cm/ui/logic/BackEndMode.h"
 #include "cm/ui/logic/ProjectRoot.h"
 #include "cm/ui/logic/ViewState.h"
@@ -54,6 +55,7 @@ CCMDialog::CCMDialog(QWidget* parent)
       m_treeModel(new UnitTreeModel(*m_data, this)),
       m_listFilter(new UnitFilter(m_listModel, this)),
       m_treeFilter(new UnitFilter(m_treeModel, this)) {
+  loadDialogTranslationsOnce();
   openDialogs().push_back(this);
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   buildControls();
