@@ -24,7 +24,7 @@ class CCMDialogTest : public DialogTest {
   void ownNothing() {
     m_project.record.aggregates.clear();
     m_package.record.aggregates.clear();
-    m_dialog.updateList();
+    m_dialog.DoAfterOpRefresh();
   }
   std::string lastMessage() const {
     const auto& asked = m_host.memoryMessages.asked;
