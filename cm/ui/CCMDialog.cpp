@@ -14,6 +14,7 @@
 
 #include "cm/ui/Icons.h"
 #include "cm/ui/RefillScope.h"
+#include "cm/ui/Translations.h"
 #include "cm/ui/logic/BackEndMode.h"
 #include "cm/ui/logic/ProjectRoot.h"
 #include "cm/ui/logic/ViewState.h"
@@ -40,8 +41,8 @@ std::vector<CCMDialog*>& openDialogs() {
 }
 
 QSettings& dialogSettings() {
-  static QSettings settings(QSettings::IniFormat, QSettings::UserScope,
-                            QStringLiteral("veldra-cm"), QStringLiteral("dialogs"));
+  static QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("veldra-cm"),
+                            QStringLiteral("dialogs"));
   return settings;
 }
 
@@ -54,6 +55,7 @@ CCMDialog::CCMDialog(QWidget* parent)
       m_treeModel(new UnitTreeModel(*m_data, this)),
       m_listFilter(new UnitFilter(m_listModel, this)),
       m_treeFilter(new UnitFilter(m_treeModel, this)) {
+  loadDialogTranslationsOnce();
   openDialogs().push_back(this);
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   buildControls();
@@ -149,7 +151,8 @@ void CCMDialog::connectControls() {
   connect(m_filter, &QLineEdit::textChanged, this, &CCMDialog::applyFilter);
   connect(m_list->header(), &QHeaderView::sectionClicked, this, &CCMDialog::OnColumnclickFlatlist);
   connect(m_failures, &FailureStrip::selectWanted, this, [this] {
-    selectFiles([this](const std::string& file) { return m_progress->failedFiles().contains(file); });
+    selectFiles(
+        [this](const std::string& file) { return m_progress->failedFiles().contains(file); });
   });
   for (QTreeView* view : {m_tree, m_list}) {
     connect(view, &QWidget::customContextMenuRequested, this, &CCMDialog::showContextMenu);
@@ -199,7 +202,8 @@ void CCMDialog::restoreGeometryAndColumns() {
   if (geometry.isEmpty() || !restoreGeometry(geometry)) resize(880, 620);
   const QFontMetrics metrics(m_list->header()->font());
   for (int column = 0; column < m_listModel->columnCount(); ++column) {
-    const QString title = m_listModel->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    const QString title =
+        m_listModel->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
     const int smallest = metrics.horizontalAdvance(title) + HeaderMargin;
     m_list->resizeColumnToContents(column);
     const int wanted = column == UnitColumn::File ? width() * 2 / 5 : m_list->columnWidth(column);

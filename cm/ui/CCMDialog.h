@@ -30,8 +30,8 @@ class UnitListModel;
 class UnitTreeModel;
 struct WorkspaceData;
 
-/// Windows that the main dialog opens but that are no part of it. Whoever has them puts them here; a
-/// button whose window is missing stays disabled.
+/// Windows that the main dialog opens but that are no part of it. Whoever has them puts them here;
+/// a button whose window is missing stays disabled.
 struct CommandWindows {
   std::function<void(CCMDialog&)> listArchive;
   std::function<void(CCMDialog&)> compare;
@@ -42,8 +42,8 @@ struct CommandWindows {
 /// every CM operation.
 ///
 /// It is used on the host's user-interface thread. Commands are synchronous; while one runs the
-/// dialog paints but takes no input and cannot be closed. What a command asks beyond its options, and
-/// every message, goes through the host (`IUserMessages`).
+/// dialog paints but takes no input and cannot be closed. What a command asks beyond its options,
+/// and every message, goes through the host (`IUserMessages`).
 class VELDRA_CM_UI_EXPORT CCMDialog : public QDialog, private CommandView {
   Q_OBJECT
 

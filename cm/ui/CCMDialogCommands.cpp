@@ -134,9 +134,8 @@ void CCMDialog::showContextMenu(const QPoint& place) {
   QMenu menu(this);
   for (CommandButton* button : m_panel->buttons()) {
     if (button->isHidden()) continue;
-    QAction* const action = menu.addAction(
-        commandIcon(button->command()), button->text(), this,
-        [this, button] { press(button->command()); });
+    QAction* const action = menu.addAction(commandIcon(button->command()), button->text(), this,
+                                           [this, button] { press(button->command()); });
     action->setShortcut(button->shortcut());
     action->setShortcutVisibleInContextMenu(true);
     action->setEnabled(button->isEnabled());

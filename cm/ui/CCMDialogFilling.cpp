@@ -197,8 +197,8 @@ void CCMDialog::selectRows(const std::vector<int>& rows) {
     const int first = rows[i];
     const int until = std::min(rows[end - 1], count - 1);
     if (first <= until) {
-      selection.append(QItemSelectionRange(m_listModel->index(first, 0),
-                                           m_listModel->index(until, last)));
+      selection.append(
+          QItemSelectionRange(m_listModel->index(first, 0), m_listModel->index(until, last)));
     }
     i = end;
   }
@@ -210,7 +210,8 @@ void CCMDialog::selectRows(const std::vector<int>& rows) {
 
 void CCMDialog::restoreTreeSelection() {
   const std::unordered_set<std::string> files(m_selectedFiles.begin(), m_selectedFiles.end());
-  if (!files.empty()) selectFiles([&files](const std::string& file) { return files.contains(file); });
+  if (!files.empty())
+    selectFiles([&files](const std::string& file) { return files.contains(file); });
   m_tree->setFocus();
 }
 
@@ -252,8 +253,8 @@ void CCMDialog::updateState() {
   const int selected = static_cast<int>(GetSelectedCount());
   const bool filtered = m_list->model() != m_listModel;
   const int visible = filtered ? m_list->model()->rowCount() : all;
-  const QString units = filtered ? tr("%1 of %n unit(s)", nullptr, all).arg(visible)
-                                 : tr("%n unit(s)", nullptr, all);
+  const QString units =
+      filtered ? tr("%1 of %n unit(s)", nullptr, all).arg(visible) : tr("%n unit(s)", nullptr, all);
   m_totals->setText(tr("%1, %n selected", nullptr, selected).arg(units));
 }
 

@@ -7,9 +7,9 @@
 
 namespace veldra {
 
-/// Runs a command of the main dialog on units that were selected elsewhere: its rule about how many,
-/// its options above `parent`, its call and what it has to tell. `controlId` is the number of the
-/// button. True when it was successful. The units may be other objects afterwards.
+/// Runs a command of the main dialog on units that were selected elsewhere: its rule about how
+/// many, its options above `parent`, its call and what it has to tell. `controlId` is the number of
+/// the button. True when it was successful. The units may be other objects afterwards.
 VELDRA_CM_UI_EXPORT bool runCommandOn(int controlId, const UnitList& units, QWidget* parent);
 
 }  // namespace veldra

@@ -19,13 +19,13 @@ namespace veldra {
 namespace {
 
 constexpr std::array<const char*, 22> CommandDrawings{
-    "connect",  "list-archive", "compare", "synchronize", "refresh",    "run-tool",
-    "branch",   "fetch",        "check-out", "undo",      "check-in",   "add",
-    "lock",     "unlock",       "history", "properties",  "user-1",     "user-2",
-    "user-3",   "user-4",       "flat",    "tree"};
+    "connect", "list-archive", "compare",   "synchronize", "refresh",  "run-tool",
+    "branch",  "fetch",        "check-out", "undo",        "check-in", "add",
+    "lock",    "unlock",       "history",   "properties",  "user-1",   "user-2",
+    "user-3",  "user-4",       "flat",      "tree"};
 
-constexpr std::array<const char*, 7> StateDrawings{
-    "state-0", "state-1", "state-2", "state-3", "state-4", "state-5", "state-6"};
+constexpr std::array<const char*, 7> StateDrawings{"state-0", "state-1", "state-2", "state-3",
+                                                   "state-4", "state-5", "state-6"};
 
 /// Draws an SVG in the palette's ink whenever it is asked, so that every size is sharp. The ink of
 /// the Selected mode is given, since a pressed button and a selected line differ there.
@@ -140,8 +140,8 @@ QIcon commandIcon(DialogCommand command) {
 
 QIcon stateIcon(int imageIndex) {
   const bool isKnown = imageIndex >= 0 && imageIndex < static_cast<int>(StateDrawings.size());
-  return drawn(QString::fromLatin1(StateDrawings.at(isKnown ? static_cast<std::size_t>(imageIndex)
-                                                            : 0)));
+  return drawn(
+      QString::fromLatin1(StateDrawings.at(isKnown ? static_cast<std::size_t>(imageIndex) : 0)));
 }
 
 QIcon unitIcon(const IUnit& unit) {
@@ -150,11 +150,10 @@ QIcon unitIcon(const IUnit& unit) {
 
 QIcon unitIconWithState(const IUnit& unit) {
   // Without a provider no state is known; the image of an invalid one would say "deleted".
-  const int state =
-      CMStatus::getIsInvalid(&unit) != 0 ? 0 : CMStatus::getCMStatusImgIndex(&unit);
-  const QString kind = isEmbedded(unit)
-                           ? QStringLiteral("shell/") + QFileInfo(shown(unit.getFileName())).suffix()
-                           : drawingOf(unit);
+  const int state = CMStatus::getIsInvalid(&unit) != 0 ? 0 : CMStatus::getCMStatusImgIndex(&unit);
+  const QString kind =
+      isEmbedded(unit) ? QStringLiteral("shell/") + QFileInfo(shown(unit.getFileName())).suffix()
+                       : drawingOf(unit);
   const QString key = QStringLiteral("pair/%1/%2").arg(state).arg(kind);
   const auto known = cache().constFind(key);
   if (known != cache().constEnd()) return *known;

@@ -39,7 +39,7 @@ struct UnitRecord {
   std::optional<std::string> archive;
   std::string sccProject;
   std::string sccAuxPath;
-  IUnit* saveUnit = nullptr;     ///< Null: the unit itself.
+  IUnit* saveUnit = nullptr;  ///< Null: the unit itself.
   std::vector<IDObject*> aggregates{};
   std::string termName{};
   std::string packageDirectory;  ///< For packages.

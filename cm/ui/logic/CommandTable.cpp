@@ -18,9 +18,9 @@ constexpr RecursiveVariant RecursiveCheckIn{"Starting Recursive Check In",
 constexpr RecursiveVariant RecursiveUndo{
     "Starting Recursive Undo Check Out", "Recursive Undo Check Out completed",
     "Starting ATM after Recursive Undo Check Out", "Completed ATM after Recursive Undo Check Out"};
-constexpr RecursiveVariant RecursiveFetch{
-    "Starting Recursive Fetch", "Recursive Fetch completed", "Starting ATM after Recursive Fetch",
-    "Completed ATM after Recursive Fetch"};
+constexpr RecursiveVariant RecursiveFetch{"Starting Recursive Fetch", "Recursive Fetch completed",
+                                          "Starting ATM after Recursive Fetch",
+                                          "Completed ATM after Recursive Fetch"};
 
 constexpr unsigned ModeLabelComment = CallPart::Mode | CallPart::Label | CallPart::Comment;
 
@@ -131,9 +131,9 @@ std::span<const CommandRow> commandTable() {
 }
 
 const CommandRow* commandRow(DialogCommand command) {
-  const auto found =
-      std::find_if(rows().begin(), rows().end(),
-                   [command](const CommandRow& row) { return row.command == command; });
+  const auto found = std::find_if(rows().begin(), rows().end(), [command](const CommandRow& row) {
+    return row.command == command;
+  });
   return found != rows().end() ? &*found : nullptr;
 }
 

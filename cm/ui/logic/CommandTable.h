@@ -80,9 +80,9 @@ struct CommandRow {
   CommandSide tool;
   CommandSide provider;
   UnitCommandFunction call;
-  unsigned parts = 0;              ///< Bits of `CallPart`.
-  bool changesModel = false;       ///< Runs inside an undo transaction of the host.
-  bool needsCompliance = false;    ///< Under the provider back end it must be usable.
+  unsigned parts = 0;            ///< Bits of `CallPart`.
+  bool changesModel = false;     ///< Runs inside an undo transaction of the host.
+  bool needsCompliance = false;  ///< Under the provider back end it must be usable.
   bool takesInformationFiles = false;
   const RecursiveVariant* recursive = nullptr;
   UnitCommandFunction recursiveCall = nullptr;

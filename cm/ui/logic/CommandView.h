@@ -7,8 +7,8 @@
 
 namespace veldra {
 
-/// What a running command asks of the window that it was started from. Messages and yes-no questions
-/// do not come this way but through the host (`IUserMessages`).
+/// What a running command asks of the window that it was started from. Messages and yes-no
+/// questions do not come this way but through the host (`IUserMessages`).
 class VELDRA_CM_EXPORT CommandView {
  public:
   virtual ~CommandView() = default;

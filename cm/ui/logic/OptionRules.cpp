@@ -74,8 +74,7 @@ OptionPresets OptionRules::presets(const CommandRow& row, const UnitList& units)
   if (presets.window == OptionWindow::Provider) presets.takesComment = takesComment(row.command);
   if (presets.window == OptionWindow::CheckOut) {
     // Who checks out wants to write, unless the settings say otherwise.
-    presets.mode =
-        CMProperty::getProjectBool(IPN::General, "DefaultLockReserveOnCheckOut", true);
+    presets.mode = CMProperty::getProjectBool(IPN::General, "DefaultLockReserveOnCheckOut", true);
     presets.saysReserved = mode.isBranchTool;
   }
   if (presets.window == OptionWindow::CheckIn) presets.takesMode = !mode.isBranchTool && !isAdd;

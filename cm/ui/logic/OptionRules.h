@@ -12,8 +12,8 @@ struct OptionPresets {
   DialogCommand command = DialogCommand::CheckOut;
   OptionWindow window = OptionWindow::None;
   std::string comment;
-  bool mode = false;              ///< The lock, or that the unit stays checked out.
-  bool takesMode = true;          ///< Otherwise the box is disabled.
+  bool mode = false;      ///< The lock, or that the unit stays checked out.
+  bool takesMode = true;  ///< Otherwise the box is disabled.
   bool takesComment = true;
   bool offersDescendants = true;
   bool withDescendants = false;

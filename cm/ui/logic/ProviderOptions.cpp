@@ -97,7 +97,8 @@ bool associateUnit(IUnit* unit, bool isNew) {
     if (!isNew && unit != nullptr) unit->getSccArchiveRecursive(projName, auxProjPath);
     pvContextStruct* context = nullptr;
     SCCConnectToCMRepository connection;
-    if (connection.connectIt(unit, context, projName, auxProjPath, isNew ? 1 : 0) == 0) return false;
+    if (connection.connectIt(unit, context, projName, auxProjPath, isNew ? 1 : 0) == 0)
+      return false;
     if (unit != nullptr) unit->setSccArchive(projName, auxProjPath);
     CMProperty::setIsConnected(true);
     return true;

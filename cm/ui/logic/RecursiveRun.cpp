@@ -21,8 +21,7 @@ namespace {
 /// chosen stays.
 void chooseMainArchive(const UnitList& units) {
   if (CMArchive::getArchiveSelection() == CMArchive::ArchiveUnset) return;
-  const IUnit* const unit =
-      !units.empty() ? units.front() : CurrentWorkspace::GetActiveProject();
+  const IUnit* const unit = !units.empty() ? units.front() : CurrentWorkspace::GetActiveProject();
   std::string archive;
   if (unit != nullptr && CMProperty::getBatchArchiveRecursive(unit, archive) != 0) {
     CMArchive::setMainArchive(archive);
@@ -58,9 +57,8 @@ bool checkOutItems(const UnitList& units, ArgumentList& arguments, DiagnosticLis
   chooseMainArchive(units);
   flushCommandOutput();
   int result = 0;
-  guardFaults([&] {
-    result = CMFacade::RecCheckOutFromArchive(items.list(), arguments, diagnostics);
-  });
+  guardFaults(
+      [&] { result = CMFacade::RecCheckOutFromArchive(items.list(), arguments, diagnostics); });
   flushCommandOutput();
   return result != 0;
 }

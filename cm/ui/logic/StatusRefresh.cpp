@@ -34,8 +34,8 @@ bool StatusRefresh::run(const UnitList& units) {
   VELDRA_TRACE("Starting Refresh CM State");
   const NoUndoScope scope;
   if (!refreshCMStatus(units)) {
-    dialogError(dialogText(MessageId::CommandFailed +
-                           static_cast<int>(DialogCommand::RefreshStatus)));
+    dialogError(
+        dialogText(MessageId::CommandFailed + static_cast<int>(DialogCommand::RefreshStatus)));
     return false;
   }
   VELDRA_TRACE("Refresh CM State completed");

@@ -10,8 +10,8 @@ namespace veldra {
 /// The archive of one unit, as a window shows and changes it.
 class VELDRA_CM_EXPORT UnitArchive {
  public:
-  /// Its own or inherited archive; what the setting of the archive selection names comes first. With
-  /// a chosen archive list nothing is offered.
+  /// Its own or inherited archive; what the setting of the archive selection names comes first.
+  /// With a chosen archive list nothing is offered.
   static std::string offered(const IUnit& unit);
   /// Whether a file or a folder is what archives are.
   static bool isFile();

@@ -23,8 +23,8 @@ bool isEmbedded(const IUnit& unit) {
 }
 
 std::string readOrWrite(const IUnit& unit) {
-  const bool readOnly = isEmbedded(unit) ? !omFileHasWritePermission(unit.getFullFileName())
-                                         : unit.isReadOnly();
+  const bool readOnly =
+      isEmbedded(unit) ? !omFileHasWritePermission(unit.getFullFileName()) : unit.isReadOnly();
   return readOnly ? "RO" : "RW";
 }
 

@@ -58,8 +58,7 @@ std::string UserDefinedCommand::ExpandUserDefCommand(const std::string& command,
   const std::size_t end =
       start != std::string::npos ? command.find('"', content) : std::string::npos;
   if (end != std::string::npos) {
-    const std::string pattern(
-        trimmed(std::string_view(command).substr(content, end - content)));
+    const std::string pattern(trimmed(std::string_view(command).substr(content, end - content)));
     result = command.substr(0, start) + forUnits(pattern, units) + command.substr(end + 1);
   }
   std::string root;
@@ -94,8 +93,9 @@ std::string UserDefinedCommand::commandOf(DialogCommand command) {
 
 bool UserDefinedCommand::run(DialogCommand command, const UnitList& units) {
   const bool isTool = command == DialogCommand::RunTool;
-  return RunUserDefCommand(commandOf(command), units,
-                           isTool ? "Invoke Configuration Management Tool" : "User Defined Command");
+  return RunUserDefCommand(
+      commandOf(command), units,
+      isTool ? "Invoke Configuration Management Tool" : "User Defined Command");
 }
 
 }  // namespace veldra

@@ -49,7 +49,8 @@ class WorkspaceTree::Walk {
 
   void open(IDObject& object, std::uint32_t parent) {
     const std::vector<IDObject*> owned = object.getAggregates();
-    for (auto next = owned.rbegin(); next != owned.rend(); ++next) m_open.push_back({*next, parent});
+    for (auto next = owned.rbegin(); next != owned.rend(); ++next)
+      m_open.push_back({*next, parent});
   }
 
   static bool hasOwnFile(IUnit& unit) {
@@ -99,7 +100,8 @@ void WorkspaceTree::fill(IProject* project, const LiveUnits& units) {
 
 void WorkspaceTree::linkChildren() {
   m_firstChild.assign(m_nodes.size() + 1, 0);
-  for (std::size_t node = 1; node < m_nodes.size(); ++node) ++m_firstChild[m_nodes[node].parent + 1];
+  for (std::size_t node = 1; node < m_nodes.size(); ++node)
+    ++m_firstChild[m_nodes[node].parent + 1];
   for (std::size_t node = 0; node < m_nodes.size(); ++node) {
     m_firstChild[node + 1] += m_firstChild[node];
   }

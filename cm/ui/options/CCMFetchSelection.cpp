@@ -22,8 +22,8 @@ CCMFetchSelection::CCMFetchSelection(QWidget* parent) : QDialog(parent) {
   prompt->setTextFormat(Qt::PlainText);
   prompt->setWordWrap(true);
   layout->addWidget(prompt);
-  addChoice(ControlId::FetchSelectionCheckOut,
-            shown(ButtonRules::caption(DialogCommand::CheckOut)), Choice::CheckOut);
+  addChoice(ControlId::FetchSelectionCheckOut, shown(ButtonRules::caption(DialogCommand::CheckOut)),
+            Choice::CheckOut);
   addChoice(ControlId::FetchSelectionFetch, shown(ButtonRules::caption(DialogCommand::Fetch)),
             Choice::Fetch);
   setMinimumWidth(360);

@@ -38,12 +38,15 @@ void CCMUnitArchiveDlg::addFields() {
   connect(folder, &QPushButton::clicked, m_path, [this] { browseInto(m_path, PathKind::Folder); });
   grid->addWidget(file, 2, 0);
   grid->addWidget(folder, 2, 1);
-  grid->addWidget(addButton(ControlId::UnitArchiveAssociate, tr("&Associate"),
-                            &CCMUnitArchiveDlg::associate), 3, 0);
+  grid->addWidget(
+      addButton(ControlId::UnitArchiveAssociate, tr("&Associate"), &CCMUnitArchiveDlg::associate),
+      3, 0);
   grid->addWidget(addButton(ControlId::UnitArchiveAssociateNew, tr("Associate &New..."),
-                            &CCMUnitArchiveDlg::associateNew), 3, 1);
+                            &CCMUnitArchiveDlg::associateNew),
+                  3, 1);
   grid->addWidget(addButton(ControlId::UnitArchiveDisassociate, tr("&Disassociate"),
-                            &CCMUnitArchiveDlg::disassociate), 3, 2);
+                            &CCMUnitArchiveDlg::disassociate),
+                  3, 2);
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
   connect(buttons, &QDialogButtonBox::accepted, this, &CCMUnitArchiveDlg::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &CCMUnitArchiveDlg::reject);

@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "cm/ui/Translations.h"
 #include "cm/ui/logic/HostTexts.h"
 #include "cm/ui/widgets/Control.h"
 #include "cm/ui/widgets/Text.h"
@@ -12,6 +13,7 @@ namespace veldra {
 
 OptionDialog::OptionDialog(int dialogId, OptionPresets presets, QWidget* parent)
     : QDialog(parent), m_presets(std::move(presets)), m_form(new QFormLayout) {
+  loadDialogTranslationsOnce();
   setWindowTitle(shown(OptionRules::title(m_presets)));
   control(this, dialogId, windowTitle());
   m_buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
@@ -79,8 +81,7 @@ QCheckBox* OptionDialog::addDescendants(int id) {
 }
 
 QCheckBox* OptionDialog::addInformationFiles(int id) {
-  auto* const box =
-      addBox(id, tr("Include &information files"), m_presets.withInformationFiles);
+  auto* const box = addBox(id, tr("Include &information files"), m_presets.withInformationFiles);
   box->setVisible(m_presets.offersInformationFiles);
   return box;
 }

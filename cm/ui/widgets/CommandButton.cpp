@@ -28,8 +28,8 @@ CommandButton::CommandButton(const ButtonRow& row, QWidget* parent)
 
 void CommandButton::refresh() {
   const QString caption = shown(ButtonRules::caption(m_row.command));
-  const QString keys = QKeySequence(QString::fromLatin1(m_row.shortcut))
-                           .toString(QKeySequence::NativeText);
+  const QString keys =
+      QKeySequence(QString::fromLatin1(m_row.shortcut)).toString(QKeySequence::NativeText);
   const QString tip = shown(ButtonRules::tooltip(m_row.command));
   setText(caption);
   setShortcut(QKeySequence(QString::fromLatin1(m_row.shortcut)));

@@ -24,8 +24,8 @@ FailureStrip::FailureStrip(QWidget* parent)
 }
 
 void FailureStrip::tell(const QString& command, std::size_t count) {
-  m_text->setText(tr("%1 did not succeed for %n unit(s).", nullptr, static_cast<int>(count))
-                      .arg(command));
+  m_text->setText(
+      tr("%1 did not succeed for %n unit(s).", nullptr, static_cast<int>(count)).arg(command));
   setVisible(count > 0);
 }
 

@@ -11,8 +11,8 @@
 
 namespace veldra::test {
 
-/// Dialogs over the in-memory host, whose user answers every message; option windows are answered by
-/// what a test prepares.
+/// Dialogs over the in-memory host, whose user answers every message; option windows are answered
+/// by what a test prepares.
 class DialogTest : public HostTest {
  protected:
   /// A project with a package that owns a class, and an embedded file beside them.

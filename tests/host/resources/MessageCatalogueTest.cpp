@@ -32,8 +32,7 @@ TEST(MessageCatalogue, hasAClearTextForEveryNumberWithItsValues) {
       {47640, 1}, {48352, 2}, {50055, 1}, {60001, 1}, {60002, 2}, {60003, 2}, {60005, 1},
       {60006, 2}, {60007, 2}, {60008, 1}, {60009, 1}, {60010, 1}, {60011, 2}, {60100, 1},
       {60030, 2}, {60116, 1}, {60201, 2}, {60202, 2}, {60203, 2}, {60206, 1}, {60207, 1},
-      {60208, 1}, {60209, 1}, {60210, 1}, {60211, 1}, {60403, 2},
-      {60405, 1}, {60407, 1}};
+      {60208, 1}, {60209, 1}, {60210, 1}, {60211, 1}, {60403, 2}, {60405, 1}, {60407, 1}};
   std::vector<int> ids = {948,   949,   953,   954,   955,   958,   959,   962,   966,   967,
                           46547, 46554, 46560, 46563, 46565, 46566, 46567, 47640, 48312, 49434,
                           49488, 49494, 49762, 49763, 49764, 49765, 49982, 50055};
@@ -67,13 +66,15 @@ TEST(MessageCatalogue, germanIsCompleteAndTakesTheSameValues) {
   const MessageCatalogue english(sourceRoot(), "en", problems);
   const MessageCatalogue german(sourceRoot(), "de", problems);
   EXPECT_TRUE(problems.empty());
+  ASSERT_GT(english.size(), 200U);
   EXPECT_EQ(german.size(), english.size());
   // Words that are the same in both languages.
   const std::set<int> alike = {60414 - 1, 60414, 48351};
   for (int id = 900; id < 60600; ++id) {
     const std::string text = german.text(id);
     EXPECT_EQ(placeholders(text), placeholders(english.text(id))) << id;
-    if (!text.empty() && !alike.contains(id)) EXPECT_NE(text, english.text(id)) << id;
+    if (alike.contains(id) || text.empty()) continue;
+    EXPECT_NE(text, english.text(id)) << id;
   }
 }
 

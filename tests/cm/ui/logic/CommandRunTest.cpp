@@ -34,7 +34,7 @@ class ScriptedView : public CommandView {
 
 class CommandRunTest : public HostTest {
  protected:
-  bool run(DialogCommand command) { return CommandRun(m_view).run(*commandRow(command)); }
+  bool run(DialogCommand command) { return veldra::CommandRun(m_view).run(*commandRow(command)); }
   std::string lastMessage() const {
     const auto& asked = m_host.memoryMessages.asked;
     return asked.empty() ? "" : asked.back().text.substr(0, 5);
@@ -106,11 +106,10 @@ TEST_F(CommandRunTest, DescendantsTakeTheRecursiveVariant) {
   EXPECT_TRUE(run(DialogCommand::CheckOut));
   EXPECT_EQ(m_backEnds.calls, (Lines{"tool.recCheckIn", "tool.recCheckOutFromArchive"}));
   EXPECT_THAT(m_host.traceLog.texts(),
-              ::testing::IsSupersetOf({"Starting Recursive Check In",
-                                       "Recursive Check In completed",
-                                       "Starting ATM after Recursive Check Out",
-                                       "Completed ATM after Recursive Check Out",
-                                       "Recursive Check Out completed"}));
+              ::testing::IsSupersetOf(
+                  {"Starting Recursive Check In", "Recursive Check In completed",
+                   "Starting ATM after Recursive Check Out",
+                   "Completed ATM after Recursive Check Out", "Recursive Check Out completed"}));
   EXPECT_THAT(m_host.journal.only({"reload"}).size(), ::testing::Gt(0U));
 }
 

@@ -143,7 +143,7 @@ TEST_F(RulesTest, TheBranchToolRefusesProjectsWithControlledFiles) {
 TEST(ProgressTextTest, ThePaceSoFarTellsTheRest) {
   EXPECT_EQ(secondsLeft(1, 10, 5000), std::nullopt);
   EXPECT_EQ(secondsLeft(3, 10, 4000), 16);
-  EXPECT_EQ(secondsLeft(10, 10, 9001), 2);
+  EXPECT_EQ(secondsLeft(10, 10, 9900), 2);
   EXPECT_EQ(secondsLeft(11, 10, 1000), std::nullopt);
 }
 

@@ -40,15 +40,15 @@ TEST_F(UserDefinedCommandTest, AnUnknownRootLeavesTheKeyword) {
 }
 
 TEST_F(UserDefinedCommandTest, ButtonsRunTheirPropertyInsideANamedTransaction) {
-  set("CMOperationStartSeparator", "== $Operation", "General");
+  set("CMOperationStartSeparator", "== $Operation\n", "General");
   set("UserDefCommand_3", "third", "General");
   set("RunCMToolCommand", "gui", "General");
   EXPECT_TRUE(UserDefinedCommand::run(DialogCommand::UserCommand3, {}));
   EXPECT_TRUE(UserDefinedCommand::run(DialogCommand::RunTool, {}));
   EXPECT_TRUE(UserDefinedCommand::run(DialogCommand::UserCommand1, {}));
   EXPECT_EQ(m_host.scriptedProcesses.commands(), (std::vector<std::string>{"third", "gui"}));
-  EXPECT_EQ(windowLines("=="), (Lines{"== User Defined Command",
-                                      "== Invoke Configuration Management Tool"}));
+  EXPECT_EQ(windowLines("=="),
+            (Lines{"== User Defined Command", "== Invoke Configuration Management Tool"}));
 }
 
 }  // namespace

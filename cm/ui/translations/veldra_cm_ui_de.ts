@@ -1,0 +1,310 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name>veldra::CCMCiInfoDlg</name>
+    <message>
+        <source>&amp;Label:</source>
+        <translation>&amp;Marke:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep checked out</source>
+        <translation>Ausgecheckt &amp;lassen</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::CCMCoInfoDlg</name>
+    <message>
+        <source>&amp;Label:</source>
+        <translation>&amp;Marke:</translation>
+    </message>
+    <message>
+        <source>&amp;Lock, to make changes</source>
+        <translation>&amp;Sperren, um zu ändern</translation>
+    </message>
+    <message>
+        <source>The latest version</source>
+        <translation>Die neueste Version</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::CCMConnectToArc</name>
+    <message>
+        <source>&amp;Archive:</source>
+        <translation>&amp;Archiv:</translation>
+    </message>
+    <message>
+        <source>A folder, a file or an address</source>
+        <translation>Ein Ordner, eine Datei oder eine Adresse</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::CCMDialog</name>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Shows only units that contain this text</source>
+        <translation>Zeigt nur Einheiten, die diesen Text enthalten</translation>
+    </message>
+    <message>
+        <source>Filter units (Ctrl+F)</source>
+        <translation>Einheiten filtern (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Units as a tree</source>
+        <translation>Einheiten als Baum</translation>
+    </message>
+    <message>
+        <source>Units as a list</source>
+        <translation>Einheiten als Liste</translation>
+    </message>
+    <message>
+        <source>What to do first</source>
+        <translation>Was zuerst zu tun ist</translation>
+    </message>
+    <message>
+        <source>Totals</source>
+        <translation>Summen</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>CM: %1</source>
+        <translation>CM: %1</translation>
+    </message>
+    <message>
+        <source>Configuration Management</source>
+        <translation>Konfigurationsverwaltung</translation>
+    </message>
+    <message>
+        <source>No project is open. Open one, then come back here.</source>
+        <translation>Kein Projekt ist geöffnet. Öffnen Sie eines und kommen Sie dann zurück.</translation>
+    </message>
+    <message>
+        <source>This project has no units with files of their own yet. Save the model, then add its units to the archive.</source>
+        <translation>Dieses Projekt hat noch keine Einheiten mit eigenen Dateien. Speichern Sie das Modell und nehmen Sie dann seine Einheiten ins Archiv auf.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n unit(s)</source>
+        <translation>
+            <numerusform>%1 von %n Einheit</numerusform>
+            <numerusform>%1 von %n Einheiten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unit(s)</source>
+        <translation>
+            <numerusform>%n Einheit</numerusform>
+            <numerusform>%n Einheiten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n selected</source>
+        <translation>
+            <numerusform>%1, %n gewählt</numerusform>
+            <numerusform>%1, %n gewählt</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>veldra::CCMDiffDialog</name>
+    <message>
+        <source>&amp;First version:</source>
+        <translation>&amp;Erste Version:</translation>
+    </message>
+    <message>
+        <source>&amp;Second version:</source>
+        <translation>&amp;Zweite Version:</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::CCMFetchDlg</name>
+    <message>
+        <source>&amp;Label or version:</source>
+        <translation>&amp;Marke oder Version:</translation>
+    </message>
+    <message>
+        <source>The latest version</source>
+        <translation>Die neueste Version</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::CCMLockInfoDlg</name>
+    <message>
+        <source>&amp;Label:</source>
+        <translation>&amp;Marke:</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::CCMSccInfoDlg</name>
+    <message>
+        <source>&amp;Keep checked out</source>
+        <translation>Ausgecheckt &amp;lassen</translation>
+    </message>
+    <message>
+        <source>&amp;Advanced...</source>
+        <translation>&amp;Erweitert...</translation>
+    </message>
+    <message>
+        <source>Advanced options</source>
+        <translation>Erweiterte Optionen</translation>
+    </message>
+    <message>
+        <source>Opens the provider&apos;s own options</source>
+        <translation>Öffnet die Optionen des Anbieters</translation>
+    </message>
+    <message>
+        <source>&amp;Lock, to make changes</source>
+        <translation>&amp;Sperren, um zu ändern</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::CCMUnitArchiveDlg</name>
+    <message>
+        <source>Archive of %1</source>
+        <translation>Archiv von %1</translation>
+    </message>
+    <message>
+        <source>Archive of a Unit</source>
+        <translation>Archiv einer Einheit</translation>
+    </message>
+    <message>
+        <source>Archive &amp;path:</source>
+        <translation>Archiv&amp;pfad:</translation>
+    </message>
+    <message>
+        <source>Archive path</source>
+        <translation>Archivpfad</translation>
+    </message>
+    <message>
+        <source>F&amp;ile...</source>
+        <translation>&amp;Datei...</translation>
+    </message>
+    <message>
+        <source>F&amp;older...</source>
+        <translation>&amp;Ordner...</translation>
+    </message>
+    <message>
+        <source>&amp;Associate</source>
+        <translation>&amp;Zuordnen</translation>
+    </message>
+    <message>
+        <source>Associate &amp;New...</source>
+        <translation>&amp;Neu zuordnen...</translation>
+    </message>
+    <message>
+        <source>&amp;Disassociate</source>
+        <translation>&amp;Trennen</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::CCoBranch</name>
+    <message>
+        <source>&amp;Branch:</source>
+        <translation>&amp;Zweig:</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::FailureStrip</name>
+    <message>
+        <source>Failed units</source>
+        <translation>Fehlgeschlagene Einheiten</translation>
+    </message>
+    <message>
+        <source>&amp;Select Them</source>
+        <translation>&amp;Auswählen</translation>
+    </message>
+    <message>
+        <source>Select the units that failed</source>
+        <translation>Die fehlgeschlagenen Einheiten auswählen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 did not succeed for %n unit(s).</source>
+        <translation>
+            <numerusform>%1 ist bei %n Einheit nicht gelungen.</numerusform>
+            <numerusform>%1 ist bei %n Einheiten nicht gelungen.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>veldra::OptionDialog</name>
+    <message>
+        <source>Comment</source>
+        <translation>Kommentar</translation>
+    </message>
+    <message>
+        <source>What was changed, and why. It is kept in the archive.</source>
+        <translation>Was geändert wurde und warum. Es wird im Archiv aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>What was changed, and why</source>
+        <translation>Was geändert wurde und warum</translation>
+    </message>
+    <message>
+        <source>The archive takes no comment here</source>
+        <translation>Das Archiv nimmt hier keinen Kommentar</translation>
+    </message>
+    <message>
+        <source>&amp;Comment:</source>
+        <translation>&amp;Kommentar:</translation>
+    </message>
+    <message>
+        <source>With all units &amp;below</source>
+        <translation>Mit allen Einheiten &amp;darunter</translation>
+    </message>
+    <message>
+        <source>Include &amp;information files</source>
+        <translation>&amp;Informationsdateien einbeziehen</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::PathBrowse</name>
+    <message>
+        <source>Choose a File</source>
+        <translation>Datei wählen</translation>
+    </message>
+    <message>
+        <source>Choose a Folder</source>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Browse</source>
+        <translation>&amp;Durchsuchen</translation>
+    </message>
+    <message>
+        <source>&amp;Folder...</source>
+        <translation>&amp;Ordner...</translation>
+    </message>
+    <message>
+        <source>F&amp;ile...</source>
+        <translation>&amp;Datei...</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::ProgressStrip</name>
+    <message>
+        <source>Progress of the command</source>
+        <translation>Fortschritt des Befehls</translation>
+    </message>
+    <message>
+        <source>%1 is running...</source>
+        <translation>%1 läuft...</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3, %4</source>
+        <translation>%1: %2 von %3, %4</translation>
+    </message>
+    <message>
+        <source>, about %1 s left</source>
+        <translation>, noch etwa %1 s</translation>
+    </message>
+</context>
+</TS>

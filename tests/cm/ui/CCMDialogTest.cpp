@@ -1,0 +1,181 @@
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTreeView>
+
+#include "cm/ui/logic/ButtonRules.h"
+#include "cm/ui/logic/ViewState.h"
+#include "tests/cm/ui/DialogTest.h"
+
+namespace veldra::test {
+namespace {
+
+class CCMDialogTest : public DialogTest {
+ protected:
+  QTreeView& list() { return at<QTreeView>(m_dialog, ControlId::FlatList); }
+  QTreeView& tree() { return at<QTreeView>(m_dialog, ControlId::UnitTree); }
+  QString cell(int row, int column) { return list().model()->index(row, column).data().toString(); }
+  void select(int row) {
+    list().selectionModel()->select(list().model()->index(row, 0),
+                                    QItemSelectionModel::Select | QItemSelectionModel::Rows);
+  }
+  /// Reloads put new units in the place of the old ones, which the owners here would not notice.
+  void ownNothing() {
+    m_project.record.aggregates.clear();
+    m_package.record.aggregates.clear();
+    m_dialog.DoAfterOpRefresh();
+  }
+  std::string lastMessage() const {
+    const auto& asked = m_host.memoryMessages.asked;
+    return asked.empty() ? "" : asked.back().text.substr(0, 5);
+  }
+
+  CCMDialog m_dialog;
+};
+
+TEST_F(CCMDialogTest, EveryControlIsFoundByItsNumberAndSaysItsName) {
+  std::vector<int> ids{ControlId::UnitTree, ControlId::FlatList, ControlId::Filter,
+                       ControlId::Close, ControlId::Progress};
+  for (const ButtonRow& row : buttonTable()) ids.push_back(row.controlId);
+  for (const int id : ids) {
+    EXPECT_FALSE(at(m_dialog, id).accessibleName().isEmpty()) << id;
+  }
+}
+
+TEST_F(CCMDialogTest, TheTreeFollowsTheModelAndTheListTheSorting) {
+  EXPECT_FALSE(tree().isHidden());
+  const QModelIndex root = tree().model()->index(0, 0);
+  EXPECT_EQ(root.data().toString(), QStringLiteral("Plant () (RO)"));
+  ASSERT_EQ(tree().model()->rowCount(root), 2);
+  const QModelIndex package = tree().model()->index(0, 0, root);
+  EXPECT_EQ(tree().model()->index(0, 0, package).data().toString(),
+            QStringLiteral("Boiler () (RO)"));
+  m_dialog.setView(true);
+  EXPECT_TRUE(tree().isHidden());
+  EXPECT_EQ(cell(0, 1), QStringLiteral("Boiler"));
+  for (int click = 0; click < 2; ++click) {
+    Q_EMIT list().header()->sectionClicked(0);
+    EXPECT_EQ(cell(0, 0), QStringLiteral("Brewing.vpk")) << "ascending both times";
+  }
+}
+
+TEST_F(CCMDialogTest, TheViewOutlivesTheDialog) {
+  set("GUI", "Flat", "General");
+  m_dialog.runCommand(ControlId::FlatView);
+  EXPECT_FALSE(at(m_dialog, ControlId::FlatView).isEnabled());
+  EXPECT_TRUE(m_dialog.runCommand(ControlId::TreeView));
+  const CCMDialog next;
+  EXPECT_FALSE(at(next, ControlId::UnitTree).isHidden());
+}
+
+TEST_F(CCMDialogTest, ACommandWithNothingSelectedIsRefused) {
+  tree().clearSelection();
+  m_dialog.runCommand(ControlId::CheckOut);
+  EXPECT_EQ(lastMessage(), "60400");
+  EXPECT_TRUE(commands().empty());
+}
+
+TEST_F(CCMDialogTest, CheckOutAndCheckInByKeyboardAlone) {
+  ownNothing();
+  set("CheckOut", "out $unit");
+  set("CheckIn", "in $unit $log");
+  m_dialog.setView(true);
+  m_dialog.show();
+  list().setCurrentIndex(list().model()->index(0, 0));
+  QTest::keyClick(&list(), Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_EQ(m_dialog.GetSelectedCount(), 2U);
+  onNextWindow([](QDialog& window) { QTest::keyClick(&window, Qt::Key_Return); });
+  QTest::keyClick(&at(m_dialog, ControlId::CheckOut), Qt::Key_Space);
+  onNextWindow([](QDialog& window) {
+    QTest::keyClicks(&at(window, ControlId::CheckInComment), QStringLiteral("finer"));
+    QTest::keyClick(&at(window, ControlId::CheckInLabel), Qt::Key_Return);
+  });
+  QTest::keyClick(&at(m_dialog, ControlId::CheckIn), Qt::Key_Space);
+  ASSERT_EQ(commands().size(), 4U);
+  EXPECT_EQ(commands().front(), "out Boiler.vcl");
+  EXPECT_EQ(commands().back(), "in Brewing.vpk finer");
+}
+
+TEST_F(CCMDialogTest, AForbiddenCommentKeepsTheWindowOpen) {
+  set("InValidCharactersInRevisionDescription", " ; ");
+  m_dialog.setView(true);
+  select(0);
+  onNextWindow([this](QDialog& window) {
+    at<QPlainTextEdit>(window, ControlId::CheckInComment).setPlainText(QStringLiteral("a;b"));
+    window.accept();
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(lastMessage(), "60405");
+    window.reject();
+  });
+  m_dialog.runCommand(ControlId::CheckIn);
+  EXPECT_TRUE(commands().empty());
+}
+
+TEST_F(CCMDialogTest, UnitsThatDieBehindTheDialogLeaveAnEmptyLine) {
+  m_dialog.setView(true);
+  ASSERT_EQ(cell(0, 1), QStringLiteral("Boiler"));
+  m_package.record.aggregates.clear();
+  m_model.destroy(&m_class);
+  EXPECT_EQ(cell(0, 1), QString());
+  QCoreApplication::postEvent(&m_dialog, new QEvent(static_cast<QEvent::Type>(RefreshMessage)));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(list().model()->rowCount(), 3) << "the message lists the workspace anew";
+}
+
+TEST_F(CCMDialogTest, TheFilterShowsWhatContainsTheTextInBothViews) {
+  auto& filter = at<QLineEdit>(m_dialog, ControlId::Filter);
+  filter.setText(QStringLiteral("boil"));
+  const QModelIndex root = tree().model()->index(0, 0);
+  EXPECT_EQ(tree().model()->rowCount(root), 1);
+  m_dialog.setView(true);
+  EXPECT_EQ(list().model()->rowCount(), 1);
+  select(0);
+  EXPECT_EQ(m_dialog.CmSelectedItems(), UnitList{&m_class});
+  filter.clear();
+  EXPECT_EQ(list().model()->rowCount(), 4);
+}
+
+TEST_F(CCMDialogTest, NamesCannotForgeWhatALineShows) {
+  m_class.record.name =
+      "a\n<b>\xE2\x80\xAE"
+      "gpj";
+  m_dialog.setView(true);
+  m_dialog.updateList();
+  bool found = false;
+  for (int row = 0; row < 4; ++row) {
+    found = found || cell(row, 1) == QStringLiteral("a\uFFFD<b>\uFFFDgpj");
+  }
+  EXPECT_TRUE(found);
+}
+
+TEST_F(CCMDialogTest, WithoutAProjectItSaysWhatToDoFirst) {
+  m_model.setActiveProject(nullptr);
+  const CCMDialog dialog;
+  EXPECT_FALSE(at(dialog, ControlId::EmptyState).isHidden());
+  EXPECT_TRUE(at(dialog, ControlId::FlatList).isHidden());
+}
+
+TEST_F(CCMDialogTest, ItCannotBeClosedWhileACommandRuns) {
+  ownNothing();
+  m_dialog.setView(true);
+  m_dialog.show();
+  select(0);
+  bool stayed = false;
+  Reply reply;
+  reply.effect = [&] {
+    m_dialog.close();
+    m_dialog.reject();
+    stayed = m_dialog.isVisible();
+  };
+  m_host.scriptedProcesses.answer("checkout", reply);
+  set("CheckOut", "checkout $unit");
+  acceptNextWindow();
+  m_dialog.runCommand(ControlId::CheckOut);
+  EXPECT_TRUE(stayed);
+  m_dialog.close();
+  EXPECT_FALSE(m_dialog.isVisible());
+}
+
+}  // namespace
+}  // namespace veldra::test
