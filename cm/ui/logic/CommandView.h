@@ -9,7 +9,7 @@ namespace veldra {
 
 /// What a running command asks of the window that it was started from. Messages and yes-no
 /// questions do not come this way but through the host (`IUserMessages`).
-class VELDRA_CM_EXPORT CommandView {
+class CommandView {
  public:
   virtual ~CommandView() = default;
 
