@@ -42,7 +42,8 @@ void Model::close() {
 }
 
 void Model::leaveToSystem() {
-  static std::vector<Project*> left;
+  // Never destroyed, so that what is left stays somebody's.
+  static std::vector<Project*>& left = *new std::vector<Project*>;
   m_workspace.reset();
   if (m_project) left.push_back(m_project.release());
 }
