@@ -31,6 +31,7 @@ scc::LONG fileTypeOf(const std::string& fileName) {
 
 long addFiles(const std::vector<std::string>& names, const std::string& comment, void* context) {
   std::vector<scc::LONG> types;
+  types.reserve(names.size());
   for (const std::string& name : names) types.push_back(fileTypeOf(name));
   FileNames files(names);
   return callOnFiles(providerState().dll.SccAdd, CallLines::PrePostAndReturn, context,

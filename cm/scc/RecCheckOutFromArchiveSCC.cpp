@@ -20,7 +20,7 @@ void addItemsBelow(const CMArchiveItemList& items, CMArchiveItemListWrapper& all
   }
   for (const CMArchiveItem* item : items) {
     IUnit* const unit = item != nullptr ? unitOfItem(*item) : nullptr;
-    if (!isPackageWithDirectory(unit)) continue;
+    if (unit == nullptr || !isPackageWithDirectory(unit)) continue;
     const pvContextStruct* const context = contextFor(unit, nullptr);
     if (context == nullptr) return;
     for (const std::string& file : archiveFilesBelow(
