@@ -77,7 +77,7 @@ UnitHead readWith(const std::string& path, const FileType* type, std::span<char>
   UnitHead unit;
   unit.isOwn = type && type->own;
   const FileHead head = readFileHead(path, unit.isOwn ? buffer : buffer.first(HeaderSearchSize));
-  unit.facts = head;
+  unit.facts = static_cast<const FileFacts&>(head);
   unit.problem = problemOf(head, path);
   unit.mode = modeOf(head);
   if (unit.problem) return unit;
