@@ -77,7 +77,8 @@ UnitHead readWith(const std::string& path, const FileType* type, std::span<char>
   UnitHead unit;
   unit.isOwn = type && type->own;
   const FileHead head = readFileHead(path, unit.isOwn ? buffer : buffer.first(HeaderSearchSize));
-  unit.facts = static_cast<const FileFacts&>(head);
+  const FileFacts& facts = head;
+  unit.facts = facts;
   unit.problem = problemOf(head, path);
   unit.mode = modeOf(head);
   if (unit.problem) return unit;
