@@ -133,7 +133,7 @@ TEST_P(RearrangingTest, AToolThatDiesHalfWayChangesNothingHere) {
   for (const std::vector<std::string>& command :
        {std::vector<std::string>{"rename", "Brewing/Grinder.vcmp", "Mill"},
         {"move", "Brewing/Grinder.vcmp", "Control"},
-        {"rename", "Control", "Steering"},
+        {"rename", "Control", "Regulation"},
         {"move", "Milk", "Control"}}) {
     const std::string told = inModel(3, command).err;
     EXPECT_THAT(told, HasSubstr("The model and the disk are as before. The archive holds "));
