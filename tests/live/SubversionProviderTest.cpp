@@ -132,6 +132,21 @@ TEST_F(SubversionProviderTest, CheckInOfAnUnchangedFileGivesTheLockBack) {
   EXPECT_EQ(m_provider.query(both), (std::vector<LONG>{Held, Held}));
 }
 
+TEST_F(SubversionProviderTest, GoesOnWhereAKilledProgramLeftTheRecords) {
+  const std::string a = controlled("a");
+  ASSERT_EQ(m_provider.checkOut({a}), SCC_OK);
+  m_sandbox.write("work/a", "second\n");
+  m_sandbox.shell(
+      "root=$(svn info --show-item repos-root-url work)\n"
+      "hook=${root#file://}/hooks/pre-commit\n"
+      "printf '#!/bin/sh\\nkill -9 $PPID\\n' >$hook; chmod +x $hook\n"
+      "svn ci -q -m killed work/a; rm $hook");
+  ASSERT_THAT(m_sandbox.shell("svn update work").err, HasSubstr("E155004")) << "nothing to mend";
+  EXPECT_EQ(m_provider.checkIn({a}, "after all"), SCC_OK) << ProviderSession::takeTexts();
+  EXPECT_EQ(inStore("a"), "second\n");
+  EXPECT_EQ(m_provider.status(a), SCC_STATUS_CONTROLLED);
+}
+
 TEST_F(SubversionProviderTest, UndoBringsTheFileBackAndGivesTheLockBack) {
   const std::string a = controlled("a");
   EXPECT_EQ(m_provider.undo({a}), SCC_E_NOTCHECKEDOUT);

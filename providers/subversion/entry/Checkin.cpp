@@ -20,7 +20,9 @@ void giveBackTheRest(Project& project, const FileNames& files, Outcome& outcome)
   const FileStates states = localStates(project.client, files);
   FileNames held;
   for (const std::string& file : files) {
-    if (stateIn(states, file).isHeldHere()) held.push_back(file);
+    if (!stateIn(states, file).isHeldHere()) continue;
+    held.push_back(file);
+    project.output.info("'" + lastPartOf(file) + "' has not been changed; no revision is made.");
   }
   giveBack(project, held, outcome);
 }

@@ -7,6 +7,7 @@
 #include "providers/subversion/runtime/BrokenPipeShield.h"
 #include "providers/subversion/runtime/Failure.h"
 #include "providers/subversion/session/Context.h"
+#include "providers/subversion/session/Records.h"
 
 /// What every entry point does before and after its own work.
 namespace veldra::subversion {
@@ -48,7 +49,14 @@ scc::SCCRTN withProject(scc::LPVOID pointer, Body body) noexcept {
     if (!context.project) return scc::SCC_E_PROJNOTOPEN;
     Project& project = *context.project;
     project.output.setCancelMode(context.hasCancelMode);
-    return guarded(project.output, [&] { return body(project); });
+    return guarded(project.output, [&] {
+      try {
+        return body(project);
+      } catch (const Failure& failure) {
+        if (!failure.isAboutRecords() || !mendRecords(project)) throw;
+      }
+      return body(project);
+    });
   });
 }
 

@@ -83,9 +83,15 @@ std::string textOf(const svn_error_t* error) {
   return text;
 }
 
+Failure::Failure(const svn_error_t& error) : m_result(resultOf(&error)), m_text(textOf(&error)) {
+  auto* chain = const_cast<svn_error_t*>(&error);
+  m_isAboutRecords = svn_error_find_cause(chain, SVN_ERR_WC_LOCKED) != nullptr ||
+                     svn_error_find_cause(chain, SVN_ERR_WC_CLEANUP_REQUIRED) != nullptr;
+}
+
 void check(svn_error_t* error) {
   if (!error) return;
-  const Failure failure(resultOf(error), textOf(error));
+  const Failure failure(*error);
   svn_error_clear(error);
   throw failure;
 }

@@ -14,15 +14,20 @@ namespace veldra::subversion {
 class Failure : public std::exception {
  public:
   Failure(scc::SCCRTN result, std::string text);
+  /// For an error of libsvn, which stays the caller's.
+  explicit Failure(const svn_error_t& error);
 
   scc::SCCRTN result() const { return m_result; }
   /// For the user; empty when there is nothing to add to the result.
   const std::string& text() const { return m_text; }
   const char* what() const noexcept override { return m_text.c_str(); }
+  /// Whether the working copy's records are in the hands of somebody, who may be gone.
+  bool isAboutRecords() const { return m_isAboutRecords; }
 
  private:
   scc::SCCRTN m_result;
   std::string m_text;
+  bool m_isAboutRecords = false;
 };
 
 /// The result that fits an error of libsvn.
