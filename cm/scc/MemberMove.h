@@ -9,9 +9,10 @@ namespace veldra {
 
 /// Gives one file another name in the archive and on the disk, so that both stay in step: what one
 /// of them refuses is taken back in the other. A file that the archive does not have is moved on
-/// the disk alone. Names are full names. False, with the user told and the report ended, when the
-/// file keeps its name.
+/// the disk alone. One that the user has checked out is checked in at its new place, with its
+/// changes and the comment, as command-line tools do it. Names are full names. False, with the user
+/// told and the report ended, when the file keeps its name.
 bool moveMember(const pvContextStruct& context, const std::string& from, const std::string& to,
-                UnitReport& report);
+                const std::string& comment, UnitReport& report);
 
 }  // namespace veldra

@@ -23,7 +23,9 @@ constexpr char MoveContextLine[] = "Getting SCC Context to perform move";
 /// A unit and the full name that its file gets.
 using Move = std::pair<IUnit*, std::string>;
 
-int carryOut(const std::vector<Move>& moves, DiagnosticList& diagnostics) {
+int carryOut(const std::vector<Move>& moves, const ArgumentList& arguments,
+             DiagnosticList& diagnostics) {
+  const std::string comment = argumentValue(arguments, "log");
   int result = moves.empty() ? 0 : 1;
   std::size_t position = 0;
   for (const auto& [unit, newName] : moves) {
@@ -33,7 +35,7 @@ int carryOut(const std::vector<Move>& moves, DiagnosticList& diagnostics) {
       return 0;
     const std::string file = unit->getFullFileName();
     UnitReport report(MoveName, ++position, moves.size(), file);
-    if (!moveMember(*context, file, newName, report)) result = 0;
+    if (!moveMember(*context, file, newName, comment, report)) result = 0;
   }
   return result;
 }
@@ -74,11 +76,11 @@ int MoveMemberSCC::operator()(UnitList& units, ArgumentList& arguments, Diagnost
     }
     planMove(*unit, directory, moves);
   }
-  return carryOut(moves, diagnostics);
+  return carryOut(moves, arguments, diagnostics);
 }
 
 int MoveMemberSCC::movePackageContent(IUnit* package, UnitList& units, const std::string& oldPath,
-                                      const std::string& newPath, ArgumentList& /*arguments*/,
+                                      const std::string& newPath, ArgumentList& arguments,
                                       DiagnosticList& diagnostics, bool /*flag*/) {
   UnitList all;
   if (package != nullptr) all = withUnitsBelow(*package);
@@ -89,7 +91,7 @@ int MoveMemberSCC::movePackageContent(IUnit* package, UnitList& units, const std
   for (IUnit* unit : all) {
     moves.emplace_back(unit, rebased(unit->getFullFileName(), oldPath, newPath));
   }
-  return carryOut(moves, diagnostics);
+  return carryOut(moves, arguments, diagnostics);
 }
 
 }  // namespace veldra

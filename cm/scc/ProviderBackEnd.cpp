@@ -1,5 +1,6 @@
 #include "cm/scc/ProviderBackEnd.h"
 
+#include "cm/core/UnitBatch.h"
 #include "cm/host/Host.h"
 #include "cm/scc/DeleteMemberSCC.h"
 #include "cm/scc/FileStatus.h"
@@ -137,7 +138,10 @@ int ProviderBackEnd::deleteDirectory(const DirectoryCall& call) {
 
 int ProviderBackEnd::renameMember(const RenameCall& call) {
   return guarded(&call.diagnostics, [&] {
-    return SCCFacade::SCCRenameMember(call.unit, call.oldName, call.newName, call.diagnostics);
+    const std::string comment =
+        call.arguments != nullptr ? argumentValue(*call.arguments, "log") : std::string();
+    return SCCFacade::SCCRenameMember(call.unit, call.oldName, call.newName, call.diagnostics,
+                                      comment);
   });
 }
 

@@ -23,11 +23,12 @@ int RenameMemberSCC::operator()(UnitList& units, ArgumentList& arguments,
                                 DiagnosticList& diagnostics, bool hybrid) {
   IUnit* const unit = units.size() == 1 ? units.front() : nullptr;
   return (*this)(unit, argumentValue(arguments, "oldName"), argumentValue(arguments, "newName"),
-                 diagnostics, hybrid);
+                 diagnostics, hybrid, argumentValue(arguments, "log"));
 }
 
 int RenameMemberSCC::operator()(IUnit* unit, const std::string& oldName, const std::string& newName,
-                                DiagnosticList& diagnostics, bool /*hybrid*/) {
+                                DiagnosticList& diagnostics, bool /*hybrid*/,
+                                const std::string& comment) {
   if (unit == nullptr || newName.empty()) {
     diagnostics.emplace_back(CMDiagnostic::Failed, loadMessage(MessageId::NoNewName), unit);
     return 0;
@@ -38,7 +39,7 @@ int RenameMemberSCC::operator()(IUnit* unit, const std::string& oldName, const s
   if (context == nullptr || !offers(providerState().dll.SccRename, RenameName, diagnostics))
     return 0;
   UnitReport report(RenameName, 1, 1, from);
-  return moveMember(*context, from, inDirectoryOf(*unit, newName), report) ? 1 : 0;
+  return moveMember(*context, from, inDirectoryOf(*unit, newName), comment, report) ? 1 : 0;
 }
 
 }  // namespace veldra

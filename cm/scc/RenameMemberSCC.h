@@ -10,11 +10,11 @@ namespace veldra {
 /// disk are kept in step; the model is left to the host. 1 when the file has its new name.
 class RenameMemberSCC : public CMWorkspaceOperation {
  public:
-  /// The new name is the argument "newName".
+  /// The new name is the argument "newName", the comment that of "log".
   int operator()(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics,
                  bool hybrid) override;
   int operator()(IUnit* unit, const std::string& oldName, const std::string& newName,
-                 DiagnosticList& diagnostics, bool hybrid);
+                 DiagnosticList& diagnostics, bool hybrid, const std::string& comment = {});
 };
 
 }  // namespace veldra

@@ -93,8 +93,8 @@ int SCCFacade::SCCMoveMember(UnitList& units, ArgumentList& arguments,
   return MoveMemberSCC()(units, arguments, diagnostics, false);
 }
 int SCCFacade::SCCRenameMember(IUnit* unit, const std::string& oldName, const std::string& newName,
-                               DiagnosticList& diagnostics) {
-  return RenameMemberSCC()(unit, oldName, newName, diagnostics, false);
+                               DiagnosticList& diagnostics, const std::string& comment) {
+  return RenameMemberSCC()(unit, oldName, newName, diagnostics, false, comment);
 }
 int SCCFacade::SCCAddDirectory(std::string directory, ArgumentList& arguments,
                                DiagnosticList& diagnostics) {

@@ -35,7 +35,7 @@ class SCCFacade {
   static int SCCDeleteMember(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics);
   static int SCCMoveMember(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics);
   static int SCCRenameMember(IUnit* unit, const std::string& oldName, const std::string& newName,
-                             DiagnosticList& diagnostics);
+                             DiagnosticList& diagnostics, const std::string& comment = {});
   static int SCCAddDirectory(std::string directory, ArgumentList& arguments,
                              DiagnosticList& diagnostics);
 

@@ -149,6 +149,23 @@ TEST_F(MemberOperationsSccTest, RenameKeepsArchiveAndDiskInStep) {
   EXPECT_FALSE(hasFile("/plan/A.vcl"));
 }
 
+TEST_F(MemberOperationsSccTest, WhatIsCheckedOutIsCheckedInUnderItsNewName) {
+  m_provider->status["/plan/A.vcl"] = 0x1003;
+  EXPECT_EQ(CMFacade::RenameMember(&m_a, m_a.getFullFileName(), "Engine.vcl", m_arguments,
+                                   m_diagnostics),
+            1);
+  EXPECT_THAT(calls("SccCheckin"), ElementsAre("SccCheckin /plan/Engine.vcl 'why' 0"));
+  // The new place stands, and the user learns that the file is still out.
+  m_provider->results["SccCheckin"] = scc::SCC_E_CHECKINCONFLICT;
+  m_provider->status["/plan/B.vcl"] = 0x1003;
+  CMTargetFile target("/plan/New");
+  m_units = {&m_b};
+  m_arguments.push_back(&target);
+  EXPECT_EQ(call(CMFacade::MoveMember), 1);
+  EXPECT_TRUE(hasFile("/plan/New/B.vcl"));
+  EXPECT_THAT(shown(), ElementsAre(HasSubstr("48329")));
+}
+
 TEST_F(MemberOperationsSccTest, RenameRefusesWhatCannotStayInStep) {
   EXPECT_EQ(rename("B.vcl"), 0) << "there is such a file";
   EXPECT_EQ(rename(""), 0);
