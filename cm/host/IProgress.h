@@ -30,7 +30,8 @@ class IProgress {
  public:
   virtual ~IProgress() = default;
   virtual void unitStarted(const ProgressStep& step) = 0;
-  /// `words` is what the tool or the module said about a failure; empty otherwise.
+  /// `words` is what the tool or the module said about a failure, or what the user should know of a
+  /// unit that is done, for example that nothing in it had changed; mostly empty.
   virtual void unitEnded(const ProgressStep& step, UnitEnd end, const std::string& words) = 0;
   /// Around every call into a source control provider, with the name of its entry point. The call
   /// runs on the thread that called the module and nothing can take it back: a host that wants to

@@ -75,6 +75,9 @@ inline constexpr int FileNotMoved = 60209;     ///< File.
 inline constexpr int NowhereToMove = 60210;    ///< File.
 inline constexpr int ChangedAndStale = 60211;  ///< File.
 
+/// A check-in that made no revision: file.
+inline constexpr int NothingChanged = 60250;
+
 // What the dialogs say. A group with one text per command begins at the number given and goes on in
 // the order of `DialogCommand`.
 inline constexpr int NothingSelected = 60400;

@@ -20,6 +20,12 @@ namespace veldra {
 
 namespace {
 
+/// Many providers never say that a file is modified. One that names holders also does that.
+bool isKnownUnchanged(std::int32_t status) {
+  SCCdll& dll = providerState().dll;
+  return dll.has(dll.SccQueryHolders) && (status & scc::SCC_STATUS_MODIFIED) == 0;
+}
+
 /// The units of a check-in, sorted by what is to become of them.
 class Groups {
  public:
@@ -37,7 +43,7 @@ class Groups {
   void finish(long code);
 
  private:
-  void accept(ProviderFile file, std::unique_ptr<UnitReport> report);
+  void accept(ProviderFile file, std::unique_ptr<UnitReport> report, bool isUnchanged);
   void leaveOut(int messageId, const std::string& file, UnitReport& report) const;
 
   void* m_context;
@@ -47,6 +53,7 @@ class Groups {
   std::vector<std::string> m_names;
   std::vector<ProviderFile> m_files;
   std::vector<std::unique_ptr<UnitReport>> m_reports;
+  std::vector<bool> m_unchanged;
   UnitList m_newUnits;
 };
 
@@ -70,11 +77,12 @@ void Groups::sort(IUnit& unit) {
   } else if (code == 0 && (status & scc::SCC_STATUS_CHECKEDOUT) == 0) {
     leaveOut(MessageId::NotCheckedOut, file.name(), *report);
   } else {
-    accept(std::move(file), std::move(report));
+    accept(std::move(file), std::move(report), code == 0 && isKnownUnchanged(status));
   }
 }
 
-void Groups::accept(ProviderFile file, std::unique_ptr<UnitReport> report) {
+void Groups::accept(ProviderFile file, std::unique_ptr<UnitReport> report, bool isUnchanged) {
+  m_unchanged.push_back(isUnchanged);
   m_names.push_back(file.name());
   m_files.push_back(std::move(file));
   m_reports.push_back(std::move(report));
@@ -90,8 +98,12 @@ void Groups::finish(long code) {
   for (ProviderFile& file : m_files) {
     if (code == 0) file.succeeded();
   }
-  for (const auto& report : m_reports) {
-    if (code != 0) markFailed(code, *report);
+  for (std::size_t i = 0; i < m_reports.size(); ++i) {
+    if (code != 0) {
+      markFailed(code, *m_reports[i]);
+    } else if (m_unchanged[i]) {
+      m_reports[i]->endsAs(UnitEnd::Done, formatMessage(MessageId::NothingChanged, {m_names[i]}));
+    }
   }
   m_files.clear();
 }

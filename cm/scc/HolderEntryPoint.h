@@ -3,7 +3,9 @@
 #include "cm/scc/interface/SccTypes.h"
 
 /// An entry point beyond the published interface: the status word says that a file is out, but not
-/// to whom. A provider that knows may export this; without it the holder stays empty.
+/// to whom. A provider that knows may export this; without it the holder stays empty. A provider
+/// that does so promises to set `SCC_STATUS_MODIFIED` for every file that differs from what was
+/// checked out.
 namespace veldra::scc {
 
 extern "C" {

@@ -12,7 +12,8 @@ const OperationRow& CMCheckIn::row() const {
       .traceAfter = "Check in command returned the following: ",
       .save = SaveRule::Always,
       .choosesArchive = true,
-      .handlerKind = CMVDYHandler::CheckIn};
+      .handlerKind = CMVDYHandler::CheckIn,
+      .tellsUnchanged = true};
   return row;
 }
 

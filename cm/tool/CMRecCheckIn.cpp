@@ -12,7 +12,8 @@ const OperationRow& CMRecCheckIn::row() const {
       .traceAfter = "Recursive check in command returned the following: ",
       .save = SaveRule::Always,
       .choosesArchive = true,
-      .handlerKind = CMVDYHandler::CheckIn};
+      .handlerKind = CMVDYHandler::CheckIn,
+      .tellsUnchanged = true};
   return row;
 }
 

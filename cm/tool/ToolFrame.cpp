@@ -1,5 +1,6 @@
 #include "cm/tool/ToolFrame.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "cm/core/CMArchive.h"
@@ -21,6 +22,10 @@ void UnitProgress::endsByCommand(int expanded, int executed) {
   } else if (last.failed) {
     endsAs(UnitEnd::ToolFailed, last.words);
   }
+}
+
+void UnitProgress::endsAsUnchanged(const std::string& file) {
+  endsAs(UnitEnd::Done, formatMessage(MessageId::NothingChanged, {file}));
 }
 
 CommandTemplate templateForDirectory(IUnit& unit, const CommandTemplate& forDirectory,
@@ -58,6 +63,17 @@ void chooseArchiveOf(const IUnit* unit) {
   std::string archive;
   CMProperty::getBatchArchiveRecursive(unit, archive);
   CMArchive::setMainArchive(archive);
+}
+
+std::unordered_set<std::string_view> markedFiles(std::string_view answer, std::string_view mark) {
+  std::unordered_set<std::string_view> files;
+  for (std::size_t from = 0; from < answer.size();) {
+    const std::size_t end = std::min(answer.find('\n', from), answer.size());
+    const std::string_view line = answer.substr(from, end - from);
+    if (line.starts_with(mark)) files.insert(line.substr(mark.size()));
+    from = end + 1;
+  }
+  return files;
 }
 
 int runTraced(const std::string& command, const char* traceBefore, const char* traceAfter,

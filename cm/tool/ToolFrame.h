@@ -1,6 +1,8 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <unordered_set>
 
 #include "cm/core/CMDiagnostic.h"
 #include "cm/core/CMOperation.h"
@@ -23,6 +25,8 @@ struct OperationRow {
   KeepRule keeps = KeepRule::Nothing;  ///< What it may overwrite.
   int handlerKind = 0;                 ///< Of `CMVDYHandler::Kind`; 0 without a handler.
   bool isHybrid = false;               ///< Serves projects that select the provider, too.
+  bool tellsUnchanged = false;  ///< Its commands may find that there was nothing to do: they print
+                                ///< a line "unchanged: " with the unit's full name.
 };
 
 /// The template of a command, and where it is looked up when a provider is selected.
@@ -37,6 +41,8 @@ class UnitProgress : public UnitReport {
   using UnitReport::UnitReport;
   /// From the result of expansion or execution, and from how the last command ended.
   void endsByCommand(int expanded, int executed);
+  /// The command was well, and there was nothing to do for the file.
+  void endsAsUnchanged(const std::string& file);
 };
 
 /// Whether the tool has the template, and it is not empty.
@@ -57,6 +63,13 @@ bool refuseUnsafeName(const IUnit* unit, const std::string& name, DiagnosticList
 
 /// Makes the unit's archive the main one, unless the user chooses the archive.
 void chooseArchiveOf(const IUnit* unit);
+
+/// What begins a line about a unit in the answer of a command.
+inline constexpr std::string_view DoneMark = "done: ";
+inline constexpr std::string_view UnchangedMark = "unchanged: ";
+
+/// The rest of each line of a command's answer that begins with a mark.
+std::unordered_set<std::string_view> markedFiles(std::string_view answer, std::string_view mark);
 
 /// Runs an expanded command between its two trace lines; the result of `Execute`.
 int runTraced(const std::string& command, const char* traceBefore, const char* traceAfter,

@@ -1,8 +1,5 @@
 #include "cm/tool/UnitBatches.h"
 
-#include <algorithm>
-#include <string_view>
-#include <unordered_set>
 #include <utility>
 
 #include "cm/core/CMArchive.h"
@@ -46,19 +43,6 @@ class UnitListFile : public CMArgument {
   std::string m_path;
 };
 
-/// The files that an answer names as done.
-std::unordered_set<std::string_view> doneFiles(std::string_view answer) {
-  constexpr std::string_view mark = "done: ";
-  std::unordered_set<std::string_view> files;
-  for (std::size_t from = 0; from < answer.size();) {
-    const std::size_t end = std::min(answer.find('\n', from), answer.size());
-    const std::string_view line = answer.substr(from, end - from);
-    if (line.starts_with(mark)) files.insert(line.substr(mark.size()));
-    from = end + 1;
-  }
-  return files;
-}
-
 }  // namespace
 
 bool UnitBatches::offers(const CommandTemplate& single) const {
@@ -95,31 +79,34 @@ void UnitBatches::run(const std::function<UnitPreparation(IUnit&)>& prepare) {
   }
 }
 
-std::optional<std::string> UnitBatches::runCommand(const Group& group) {
+UnitBatches::Answer UnitBatches::runCommand(const Group& group) {
   UnitListFile list(group.units);
-  if (!list.exists()) return std::string();
+  if (!list.exists()) return {};
   const PushedArgument pushed(m_arguments, list);
   std::string command;
   std::string extra;
   if (CMProperty::ExpandProperty(batchProperty(group.single), m_arguments, command, extra,
                                  group.single.providerMetaclass) != 1 ||
       command.empty()) {
-    return std::string();
+    return {};
   }
-  std::string output;
+  Answer answer;
   std::string errorText;
-  const int executed = runTraced(command, m_row.traceBefore, m_row.traceAfter, output, errorText);
-  if (executed == 1 && !theCMToolShellInterface().lastCommandEnd().failed) return std::nullopt;
-  return output;
+  const int executed =
+      runTraced(command, m_row.traceBefore, m_row.traceAfter, answer.output, errorText);
+  answer.isWell = executed == 1 && !theCMToolShellInterface().lastCommandEnd().failed;
+  return answer;
 }
 
 void UnitBatches::runGroup(const Group& group, Preparations preparations) {
-  const std::optional<std::string> answer = runCommand(group);
-  const std::unordered_set<std::string_view> files =
-      answer ? doneFiles(*answer) : std::unordered_set<std::string_view>();
+  const Answer answer = runCommand(group);
+  const auto done = markedFiles(answer.output, DoneMark);
+  const auto unchanged = markedFiles(answer.output, UnchangedMark);
   for (const IUnit* unit : group.units) {
-    if (answer && !files.contains(unit->getFullFileName())) continue;
-    m_done[unit] = std::move(preparations[unit]);
+    const std::string file = unit->getFullFileName();
+    if (!answer.isWell && !done.contains(file)) continue;
+    UnitPreparation& preparation = m_done[unit] = std::move(preparations[unit]);
+    preparation.wasUnchanged = m_row.tellsUnchanged && unchanged.contains(file);
   }
 }
 

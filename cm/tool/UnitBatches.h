@@ -20,6 +20,7 @@ struct UnitPreparation {
   std::unique_ptr<KeptCopy> kept;
   std::unique_ptr<CMVDYHandler> handler;
   std::unique_ptr<CCMFileCompare> compare;
+  bool wasUnchanged = false;  ///< Its batch has found nothing to do for it.
 
   bool mustNotRun() const { return kept != nullptr && !kept->objection().empty(); }
 };
@@ -53,8 +54,11 @@ class UnitBatches {
   using Preparations = std::unordered_map<const IUnit*, UnitPreparation>;
 
   void runGroup(const Group& group, Preparations preparations);
-  /// The tool's answer; nothing when it has done all units.
-  std::optional<std::string> runCommand(const Group& group);
+  struct Answer {
+    std::string output{};
+    bool isWell = false;  ///< It has done all units.
+  };
+  Answer runCommand(const Group& group);
 
   const OperationRow& m_row;
   ArgumentList& m_arguments;

@@ -148,6 +148,7 @@ void UnitCommand::runUnit(UnitRun& run, const UnitCallFrame& call, UnitProgress&
   const bool isWell = isDone || !theCMToolShellInterface().lastCommandEnd().failed;
   if (run.handler != nullptr && isWell) run.handler->complete();
   after(run);
+  if (isDone && preparation->wasUnchanged) progress.endsAsUnchanged(run.unit->getFullFileName());
   if (run.reloadFailed) progress.endsAs(UnitEnd::NotReloaded, run.errorText);
 }
 
@@ -163,11 +164,17 @@ int UnitCommand::runCommand(UnitRun& run, const UnitCallFrame& call, UnitProgres
   const int expanded = CMProperty::ExpandProperty(single.property, call.arguments, command, extra,
                                                   single.providerMetaclass);
   int status = expanded;
+  bool isUnchanged = false;
   if (expanded == 1) {
     std::string output;
     status = runTraced(command, row().traceBefore, row().traceAfter, output, run.errorText);
+    isUnchanged = status == 1 && row().tellsUnchanged &&
+                  markedFiles(output, UnchangedMark).contains(run.unit->getFullFileName());
   }
   progress.endsByCommand(expanded, status);
+  if (isUnchanged && !theCMToolShellInterface().lastCommandEnd().failed) {
+    progress.endsAsUnchanged(run.unit->getFullFileName());
+  }
   return status;
 }
 

@@ -90,6 +90,25 @@ scratch() {
   mktemp "$@" "${TMPDIR:-/tmp}/veldra-cm-$$-XXXXXX"
 }
 
+# open_work: makes sure that there is $work, a folder that goes with the helper.
+open_work() {
+  [ -z "${work:-}" ] || return 0
+  work=$(scratch -d)
+  trap 'rm -rf "$work"' EXIT
+}
+
+# tell_unchanged UNITS: names those that a check-in makes no revision of. The paths that have changed,
+# relative to this folder, are on the input.
+tell_unchanged() {
+  open_work
+  cat >"$work/changed-units"
+  lines "$1" >"$work/named-units"
+  relative "$1" | NAMED=$work/named-units awk '
+    FILENAME == ARGV[1] { changed[$0]; next }
+    { getline named <ENVIRON["NAMED"]; if (!($0 in changed)) print "unchanged: " named }
+  ' "$work/changed-units" -
+}
+
 # login: the name of who is at work, for tools that are told no other.
 login() {
   printf '%s\n' "${LOGNAME:-${USER:-$(id -un)}}"

@@ -43,5 +43,4 @@ attach_label() {
   [ -z "$label" ] || run on "$1" tag -- "$label" || give_up
 }
 
-work=$(scratch -d)
-trap 'rm -rf "$work"' EXIT
+open_work

@@ -7,4 +7,7 @@
 name_files "$1" "$2"
 shift 2
 read_options "$@"
-check_in "$comment" -u && attach_label
+former=$(newest)
+check_in "$comment" -u || exit
+[ "$(newest)" != "$former" ] || printf 'unchanged: %s\n' "$working"
+attach_label

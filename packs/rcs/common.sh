@@ -17,6 +17,11 @@ for program in ci co rcs rcsdiff rlog; do
   command -v "$program" >/dev/null || fail "The program '$program' is not installed or not in PATH."
 done
 
+# newest: the newest revision of $archived.
+newest() {
+  sed -n '1s/^head[[:space:]]*\(.*\);.*/\1/p' "$archived"
+}
+
 # name_files ARCHIVEFILE DIRECTORY: sets $archived and $working.
 name_files() {
   archived=$1

@@ -133,6 +133,25 @@ name_targets() {
   esac >"$targets"
 }
 
+# tell WORD PATHS|-v PATHS: names those of $targets, each after the word, that are among the paths, which
+# svn prints relative to this folder; with -v the others.
+tell() {
+  word=$1 others=
+  shift
+  if [ "$1" = -v ]; then
+    others=1
+    shift
+  fi
+  A=$PWD/ B=$(pwd -P)/ W="$word: " V=$others awk '
+    FILENAME == ARGV[1] { named[$0]; next }
+    {
+      full = path = substr($0, 1, length($0) - 1)
+      if (index(path, ENVIRON["A"]) == 1) path = substr(path, length(ENVIRON["A"]) + 1)
+      else if (index(path, ENVIRON["B"]) == 1) path = substr(path, length(ENVIRON["B"]) + 1)
+      if ((path in named || full in named) != (ENVIRON["V"] != "")) print ENVIRON["W"] full
+    }' "$1" "$targets"
+}
+
 # held: those of $targets that this folder holds a lock of; the sixth column of a status tells.
 held() {
   tr '\n' '\000' <"$targets" | xargs -0 sh "${0%/*}/svn.sh" status --depth empty -- |

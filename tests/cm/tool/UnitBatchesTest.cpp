@@ -93,6 +93,17 @@ TEST_F(UnitBatchesTest, WhatAFailedBatchLeftIsDoneOneByOne) {
   }
 }
 
+TEST_F(UnitBatchesTest, ACheckInThatFoundNothingChangedIsRemarkedUponForItsUnitAlone) {
+  answerBatch(
+      {.output = "unchanged: /plan/B.vcl\ndone: /plan/A.vcl\ndone: /plan/B.vcl\n", .code = 1});
+  answer("ci C.vcl", {.output = "unchanged: /plan/C.vcl\nunchanged: /plan/A.vcl\n"});
+  callOnUnits<CMCheckIn>();
+  Lines words;
+  for (const MemoryProgress::End& end : m_host.memoryProgress.ended) words.push_back(end.words);
+  EXPECT_THAT(words, ElementsAre("", "60250: /plan/B.vcl", "60250: /plan/C.vcl"));
+  EXPECT_THAT(ends(), ElementsAre("/plan/A.vcl done", "/plan/B.vcl done", "/plan/C.vcl done"));
+}
+
 TEST_F(UnitBatchesTest, SingleUnitsAndImpossibleBatchesTakeTheOrdinaryTemplate) {
   set("CheckInBatch", "ci-all $unitList $nobody");
   callOnUnits<CMCheckIn>();
