@@ -6,8 +6,7 @@
 # folder that goes with the helper.
 read_move() {
   old_place=$1 new_place=$2 old_file=$3 new_file=$4
-  work=$(scratch -d)
-  trap 'rm -rf "$work"' EXIT
+  open_work
 }
 
 # check_move: fails where nothing may be moved.

@@ -7,9 +7,8 @@
 # begin_update: looks at files before they are touched, in the folder $work. Fails when local changes
 # and those of the archive do not fit together.
 begin_update() {
-  work=$(scratch -d)
-  trap 'rm -rf "$work"' EXIT
-  mkdir "$work/merged"
+  open_work
+  mkdir -p "$work/merged"
   arriving | sort -z >"$work/arriving"
   changed | sort -z >"$work/changed"
   cat "$work/arriving" "$work/changed" >"$work/touched"

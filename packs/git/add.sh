@@ -5,7 +5,7 @@
 units=$1
 shift
 read_options "$@"
-begin_commit
+begin_commit "$units"
 present=$(about "$units" git ls-files)
 [ -z "$present" ] || fail "'${present%%"$newline"*}' is in the archive already."
 run on "$units" add -N -f || give_up

@@ -7,13 +7,13 @@
 units=$1
 shift
 read_options "$@"
-begin_commit
+begin_commit "$units"
 in_archive "$units"
+about "$units" git diff --relative --name-only -z HEAD | tr '\000' '\n' | tell_unchanged "$units"
 if has_content_of "$units" HEAD; then
-  echo "Nothing has been changed."
+  publish "$units"
 else
-  run commit "$units" "$comment" || give_up
+  deliver "$units" "$comment"
 fi
-publish "$units"
 make_read_only "$units"
 give_locks "$units"

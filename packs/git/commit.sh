@@ -1,19 +1,29 @@
 # Sourced by the helpers that bring something into the archive.
+. "${0%/*}/newest.sh"
 
 moved_on="The archive has newer commits than this folder. Fetch first, then do it again."
 
 unsaved="A file has local changes; check it in, or undo them first."
 
-# begin_commit: refuses what would fail in the end. Sets $old, the commit to go back to.
+# begin_commit UNITS: refuses what would fail in the end. Sets $old, the commit to go back to.
 begin_commit() {
   open_repository
   name_user
-  receive || give_up
-  ! is_behind || fail "$moved_on"
   [ ! -e "$(git rev-parse --git-path MERGE_HEAD)" ] ||
     fail "A merge is not finished in this folder; git commit or git merge --abort ends it."
-  old=$(git rev-parse -q --verify HEAD || :)
+  catch_up "$1"
   [ -z "$label" ] || check_label
+}
+
+# catch_up UNITS: the archive takes commits on top of its newest one only, so what others have done to
+# other files is brought here first; these files must be as this folder knows them.
+catch_up() {
+  receive || give_up
+  if is_behind; then
+    each "$1" | xargs -0 git diff --quiet HEAD "$tip" -- 2>/dev/null || fail "$moved_on"
+    bring_newest
+  fi
+  old=$(git rev-parse -q --verify HEAD || :)
 }
 
 # A label on the newest commit moves along with the next; any other stays what it is.
@@ -64,11 +74,29 @@ tag_and_push() {
   return 1
 }
 
-refuse_push() {
+# was_late: whether somebody was quicker with a push.
+was_late() {
   case $answer in
-    *'(fetch first)'* | *'(non-fast-forward)'*) fail "$moved_on" ;;
-    *) give_up ;;
+    *'(fetch first)'* | *'(non-fast-forward)'* | *'cannot lock ref'*) ;;
+    *) return 1 ;;
   esac
+}
+
+refuse_push() {
+  was_late && fail "$moved_on"
+  give_up
+}
+
+# deliver UNITS COMMENTFILE: commits these files and pushes; when somebody is quicker with other files,
+# once more on top of that.
+deliver() {
+  for patience in 3 2 1; do
+    run commit "$1" "$2" || give_up
+    tag_and_push && return
+    take_back "$1"
+    was_late && [ "$patience" -gt 1 ] || refuse_push
+    catch_up "$1"
+  done
 }
 
 # publish UNITS: as `tag_and_push`; takes the commit back when that fails.

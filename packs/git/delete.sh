@@ -7,7 +7,7 @@
 units=$1
 shift
 read_options "$@"
-begin_commit
+begin_commit "$units"
 in_archive "$units"
 has_content_of "$units" HEAD || fail "$unsaved"
 refuse_locked "$units"

@@ -4,5 +4,5 @@
 
 read_options "$@"
 [ -n "$label" ] || fail "No label is given."
-begin_commit
+begin_commit .
 tag_and_push || refuse_push

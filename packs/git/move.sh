@@ -22,7 +22,7 @@ both() {
 
 read_move "$@"
 read_options "${5:-}"
-begin_commit
+begin_commit "$1"
 in_archive "$old_place"
 check_move
 refuse_locked "$old_place"

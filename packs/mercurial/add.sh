@@ -5,7 +5,7 @@
 units=$1
 shift
 read_options "$@"
-begin_commit
+begin_commit "$units"
 present=$(on "$units" files 2>/dev/null || :)
 [ -z "$present" ] || fail "'${present%%"$newline"*}' is in the archive already."
 run on "$units" add -q || give_up

@@ -5,12 +5,12 @@
 units=$1
 shift
 read_options "$@"
-begin_commit
+begin_commit "$units"
 in_archive "$units"
+printf '%s\n' "$states" | sed -n 's/^[MR!] //p' | tell_unchanged "$units"
 if is_changed; then
-  commit "$units" "$comment" || give_up
+  deliver "$units" "$comment"
 else
-  echo "Nothing has been changed."
+  publish
 fi
-publish
 make_read_only "$units"

@@ -1,14 +1,24 @@
 # Sourced by the helpers that bring something into the archive.
+. "${0%/*}/newest.sh"
 
 moved_on="The archive has newer commits than this folder. Fetch first, then do it again."
 
-# begin_commit: refuses what would fail in the end.
+# begin_commit UNITS: refuses what would fail in the end.
 begin_commit() {
   open_repository
   name_user
-  receive || give_up
-  [ -z "$tip" ] || fail "$moved_on"
+  catch_up "$1"
   [ -z "$label" ] || check_label
+}
+
+# catch_up UNITS: the archive takes commits on top of its newest one only, so what others have done to
+# other files is brought here first; these files must be as this folder knows them.
+catch_up() {
+  receive || give_up
+  [ -n "$tip" ] || return 0
+  [ -z "$(on "$1" status --rev "$base" --rev "$tip" 2>/dev/null)" ] || fail "$moved_on"
+  bring_newest
+  base=$tip
 }
 
 # A label on the newest commit moves along with the next; any other stays what it is.
@@ -42,11 +52,31 @@ take_back() {
   hg debugrebuilddirstate
 }
 
-refuse_push() {
+# was_late: whether somebody was quicker with a push.
+was_late() {
   case $answer in
-    *'new remote head'*) fail "$moved_on" ;;
-    *) give_up ;;
+    *'new remote head'* | *'repository changed while'* | *'push creates new'*) ;;
+    *) return 1 ;;
   esac
+}
+
+refuse_push() {
+  was_late && fail "$moved_on"
+  give_up
+}
+
+# deliver UNITS COMMENTFILE: commits these files and pushes; when somebody is quicker with other files,
+# once more on top of that.
+deliver() {
+  for patience in 3 2 1; do
+    commit "$1" "$2" || give_up
+    tag_and_push && return
+    reason=$answer
+    take_back
+    answer=$reason
+    was_late && [ "$patience" -gt 1 ] || refuse_push
+    catch_up "$1"
+  done
 }
 
 # publish: as `tag_and_push`; takes the commits back when that fails.

@@ -6,7 +6,7 @@
 units=$1
 shift
 read_options "$@"
-begin_commit
+begin_commit "$units"
 [ -d "$units" ] || in_archive "$units"
 changed=$(on "$units" status -mard | sed -n '1s/^..//p')
 [ -z "$changed" ] || fail "'$changed' has local changes; check it in, or undo them first."

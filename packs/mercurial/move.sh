@@ -10,12 +10,12 @@ move_files() {
 }
 
 changed_below() {
-  hg status -mardn -- "$1" | while read -r file; do relative "$top/$file"; done
+  hg status -mardn -- "$1"
 }
 
 read_move "$@"
 read_options "${5:-}"
-begin_commit
+begin_commit "$1"
 [ -d "$old_place" ] || in_archive "$old_place"
 check_move
 move_there || give_up

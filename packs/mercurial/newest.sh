@@ -75,7 +75,7 @@ is_fetched() {
 restore() {
   bring_missing
   on "$1" status -mn 2>/dev/null | while read -r file; do
-    file=$(pwd -P)/$(relative "$top/$file")
+    file=$(pwd -P)/$file
     if [ -z "$(printf '%s\000' "$(relative "$file")" | writable)" ] && is_fetched "$file"; then
       hg revert -q --no-backup -- "$file" && chmod a-w -- "$file" || return
     fi

@@ -153,7 +153,47 @@ TEST_P(TwoUsersTest, ACheckInOnTopOfANewerOneIsRefusedAndNothingIsLost) {
   EXPECT_EQ(tool().newestText(Unit), m_job.read(Unit));
 }
 
+TEST_P(TwoUsersTest, ACheckInIsNotStoppedByWhatHappensToOtherFiles) {
+  m_job.cm({"checkout", Unit, "Machine.vdy"});
+  m_job.change(Unit, "Grinds one portion", "Crushes one portion");
+  const std::string ofBob = m_job.read(Unit);
+  m_job.become("alice", "model");
+  m_job.cm({"checkout", Other});
+  m_job.change(Other, "Steam", "Hot steam");
+  const std::string ofAlice = m_job.read(Other);
+  m_job.cm({"checkin", Other, "-m", "by alice"});
+  m_job.cm({"delete", "Milk/Steam Wand.vcmp", "-m", "by alice, too"});
+  m_job.become("bob", "second");
+
+  m_job.cm({"checkin", Unit, "-m", "by bob"});
+  EXPECT_EQ(tool().newestText(Unit), ofBob);
+  EXPECT_EQ(tool().newestText(Other), ofAlice);
+  EXPECT_FALSE(tool().files().contains("Milk/Steam Wand.vcmp"));
+  EXPECT_TRUE(m_job.isWritable("Machine.vdy")) << "what is checked out stays so";
+  m_job.sandbox().write("second/Milk/Whisk.puml", "@startuml\n@enduml\n");
+  m_job.cm({"add", "Milk/Whisk.puml", "-m", "new"});
+  EXPECT_TRUE(tool().files().contains("Milk/Whisk.puml"));
+}
+
 class MergingUsersTest : public TwoUsersTest {};
+
+TEST_P(MergingUsersTest, ACheckInThatNeedsAMergeOfAnotherFileLosesNothing) {
+  changeUnasked("\"5\"", "\"7\"");
+  m_job.cm({"checkout", Other});
+  m_job.change(Other, "Steam", "Hot steam");
+  const std::string ofBob = m_job.read(Unit);
+  const std::string otherOfBob = m_job.read(Other);
+  checkInAsAlice("\"5\"", "\"6\"");
+  const Ended refused = m_job.tryCm({"checkin", Other, "-m", "by bob"});
+  EXPECT_EQ(refused.code, 3);
+  EXPECT_THAT(refused.err, AllOf(HasSubstr(Unit), HasSubstr("cannot be merged")));
+  EXPECT_EQ(m_job.read(Unit), ofBob);
+  EXPECT_EQ(m_job.read(Other), otherOfBob);
+  EXPECT_TRUE(m_job.isWritable(Other));
+  m_job.cm({"undo", Unit});
+  m_job.cm({"checkin", Other, "-m", "by bob"});
+  EXPECT_EQ(tool().newestText(Other), otherOfBob);
+}
 
 TEST_P(MergingUsersTest, ChangesThatDoNotFitTogetherAreKept) {
   changeUnasked("\"5\"", "\"7\"");
