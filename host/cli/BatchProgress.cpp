@@ -1,13 +1,52 @@
 #include "host/cli/BatchProgress.h"
 
+#include <chrono>
+#include <cstdlib>
 #include <utility>
 
+#include "host/cli/ExitCode.h"
 #include "host/cli/Interrupt.h"
 #include "host/cli/printing/BytesAsText.h"
 #include "host/model/PathNames.h"
 #include "host/platform/Secrets.h"
 
 namespace veldra::host::cli {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+// A server that answers at all answers within this; then people begin to wonder.
+constexpr auto Patience = 10s;
+// What is under way may be a commit, which should rather end by itself.
+constexpr auto Farewell = 5s;
+
+void tellOfWaiting(Console& console, const char* entryPoint) {
+  console.err << std::string("The source control provider has been busy in its function ") +
+                     entryPoint + " for " + std::to_string(Patience.count()) +
+                     " seconds. If it does not come back, Ctrl-C gives up.\n"
+              << std::flush;
+}
+
+/// Nothing can take the call back, and its thread is the program's own.
+[[noreturn]] void leaveCall(Console& console, const char* entryPoint) {
+  console.err << std::string("Interrupted in the provider's function ") + entryPoint +
+                     ", which does not come back. \"veldra-cm status\" shows where the units "
+                     "stand; then give the same command again.\n"
+              << std::flush;
+  std::_Exit(static_cast<int>(ExitCode::Interrupted));
+}
+
+}  // namespace
+
+BatchProgress::BatchProgress(Console& console, OutputWindow& window)
+    : m_console(console),
+      m_window(window),
+      m_watch({.untilTold = Patience,
+               .untilGivenUp = Farewell,
+               .tell = [&console](const char* name) { tellOfWaiting(console, name); },
+               .giveUp = [&console](const char* name) { leaveCall(console, name); },
+               .isInterrupted = wasInterrupted}) {}
 
 void BatchProgress::noteCommand(const std::string& command) {
   (m_isInUnit ? m_current.commands : m_otherCommands).push_back(withoutSecrets(command));

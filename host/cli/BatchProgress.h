@@ -7,6 +7,7 @@
 #include "cm/host/IProgress.h"
 #include "host/cli/Console.h"
 #include "host/cli/OutputWindow.h"
+#include "host/cli/ProviderWatch.h"
 
 namespace veldra::host::cli {
 
@@ -14,7 +15,7 @@ namespace veldra::host::cli {
 struct UnitTrace {
   std::string file;  ///< The full name of the file, or an item's path.
   UnitEnd end = UnitEnd::Done;
-  std::string words{};                  ///< What the tool said about a failure.
+  std::string words{};                  ///< What was said about a failure, or a remark.
   std::vector<std::string> commands{};  ///< The command lines that were run for it.
   std::string output{};                 ///< What the output window got meanwhile.
 };
@@ -24,7 +25,7 @@ class BatchProgress : public IProgress {
  public:
   using Listener = std::function<void(const UnitTrace&)>;
 
-  BatchProgress(Console& console, OutputWindow& window) : m_console(console), m_window(window) {}
+  BatchProgress(Console& console, OutputWindow& window);
 
   /// Told each unit as it ends.
   void setListener(Listener listener) { m_listener = std::move(listener); }
@@ -39,6 +40,8 @@ class BatchProgress : public IProgress {
 
   void unitStarted(const ProgressStep& step) override;
   void unitEnded(const ProgressStep& step, UnitEnd end, const std::string& words) override;
+  void providerCallStarted(const char* entryPoint) override { m_watch.started(entryPoint); }
+  void providerCallEnded() override { m_watch.ended(); }
   bool isCancelled() override;
 
  private:
@@ -50,6 +53,7 @@ class BatchProgress : public IProgress {
   UnitTrace m_current;
   std::vector<UnitTrace> m_traces;
   std::vector<std::string> m_otherCommands;
+  ProviderWatch m_watch;
 };
 
 }  // namespace veldra::host::cli

@@ -57,9 +57,8 @@ void offerLastComment(Session& session, std::string& comment) {
   if (wants) comment = last;
 }
 
-void keepComment(Session& session, const std::string& comment, ExitCode end) {
+void keepComment(Session& session, const std::string& comment, bool isDone) {
   if (comment.empty() || session.options().dryRun) return;
-  const bool isDone = end == ExitCode::AllDone;
   const std::string folder = session.project().getProjectDirectory();
   if (const auto failure = rememberComment(folder, isDone ? std::string() : comment)) {
     session.console().err << "The comment cannot be kept. " << linesForPeople(*failure) << '\n';

@@ -17,9 +17,9 @@ std::string readComment(const Options& options, std::istream& standardInput);
 /// --last-comment, or by the answer to a question where one can be asked.
 void offerLastComment(Session& session, std::string& comment);
 
-/// Keeps the comment of a command that did not do all of its work, for the next try; forgets it
-/// after one that did.
-void keepComment(Session& session, const std::string& comment, ExitCode end);
+/// Keeps the comment for the next try, unless `isDone`: the command did all of its work, and the
+/// comment is in the archive. Then what was kept is forgotten.
+void keepComment(Session& session, const std::string& comment, bool isDone);
 
 /// Ends the command when the comment holds one of the characters that the tool cannot take.
 void refuseForbidden(std::string_view comment, std::string_view forbiddenCharacters);

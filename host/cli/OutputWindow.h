@@ -19,6 +19,8 @@ class OutputWindow : private std::streambuf, public std::ostream {
   OutputWindow(std::ostream* shown, std::size_t room)
       : std::ostream(static_cast<std::streambuf*>(this)), m_shown(shown), m_room(room) {}
 
+  /// From here on it goes there; null for nowhere.
+  void show(std::ostream* shown) { m_shown = shown; }
   /// What was written since the last call.
   std::string take() { return std::exchange(m_kept, {}); }
 

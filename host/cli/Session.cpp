@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "cm/core/CMFacade.h"
+#include "cm/host/IUserMessages.h"
 #include "cm/host/MessageIds.h"
 #include "host/cli/printing/BytesAsText.h"
 #include "host/model/FileTypes.h"
@@ -52,7 +53,8 @@ std::string nearestProject(const std::string& directory) {
 }
 
 Session::Session(const Invocation& invocation, WindowUse window)
-    : m_options(invocation.options),
+    : m_invocation(invocation),
+      m_options(invocation.options),
       m_console(invocation.console),
       m_door(invocation.console, invocation.options.force),
       m_window(shownWindow(invocation, window),
@@ -66,6 +68,10 @@ Session::Session(const Invocation& invocation, WindowUse window)
   m_door.setQuitListener([this] { m_progress.stop(); });
   // The failures are listed with the tool's own words.
   m_door.mute(m_host.messages().loadString(MessageId::ErrorPatternMatched));
+  // A question of which every answer is the same, about what is told unit by unit.
+  m_door.prepareAnswer(
+      formatMessage(MessageId::ProviderQuestion, {loadMessage(MessageId::CheckedIn)}),
+      MessageBox::AnswerYes);
   if (!m_options.dryRun) CMFacade::saveCallbackFunc() = [this] { save(true); };
   tellProblems(m_host.problems());
 }
@@ -123,6 +129,10 @@ Project& Session::openProject(const std::string& directoryOrFile) {
   }
   tellProblems(project().problems());
   return project();
+}
+
+void Session::setWindow(WindowUse window) {
+  m_window.show(shownWindow(m_invocation, window));
 }
 
 void Session::save(bool tells) {

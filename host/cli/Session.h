@@ -47,6 +47,9 @@ class Session {
   const Options& options() const { return m_options; }
   Console& console() { return m_console; }
 
+  /// Where the output window goes from here on.
+  void setWindow(WindowUse window);
+
   /// Writes what is modified; nothing in a dry run. What cannot be written is told when `tells`.
   void save(bool tells);
 
@@ -54,6 +57,7 @@ class Session {
   void tellProblems(const Problems& problems);
   HostOptions hostOptions();
 
+  const Invocation& m_invocation;
   const Options& m_options;
   Console& m_console;
   TerminalDoor m_door;

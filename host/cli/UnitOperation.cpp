@@ -25,12 +25,7 @@ namespace veldra::host::cli {
 namespace {
 
 void checkUsage(const Options& options) {
-  if (options.units.empty() && !options.all) {
-    throw CommandError(ExitCode::WrongUsage, "Name the units, or give --all.");
-  }
-  if (!options.units.empty() && options.all) {
-    throw CommandError(ExitCode::WrongUsage, "Name the units, or give --all, not both.");
-  }
+  checkUnitOptions(options);
   if (const std::optional<std::string> reason = unsafeInCommand(options.label)) {
     throw CommandError(ExitCode::WrongUsage, "The label contains " + *reason +
                                                  ", which no command can carry. Give another one.");
@@ -82,6 +77,8 @@ class UnitBatch {
     const CMAskOnCheckoutGuard guard;
     UnitList units = m_selection.units;
     if (units.empty()) return;
+    // A provider runs no commands that could be held back.
+    if (options.dryRun && CMProperty::useSccCompliantTool() != 0) return planAll();
     const bool isRecursive = options.recursive && m_operation.runRecursive;
     const UnitOperation::Run& run = isRecursive ? m_operation.runRecursive : m_operation.run;
     run(units, arguments.list(), m_diagnostics);
@@ -147,6 +144,15 @@ class UnitBatch {
     keepByArchive(m_operation.archived, archived, units);
   }
 
+  void planAll() {
+    for (const IUnit* unit : m_selection.units) {
+      const std::string file = unit->getFullFileName();
+      const std::size_t index = m_indexOf.at(file);
+      m_reached.insert(index);
+      makePlan({.file = file}, m_operation.lock, m_records[index]);
+    }
+  }
+
   bool admit(IUnit& unit) {
     const std::optional<std::string> reason = m_rearranging.admit(*UnitCore::of(&unit));
     if (!reason) return true;
@@ -175,8 +181,9 @@ class UnitBatch {
                          !m_operation.outputIsResult && at != m_indexOf.end();
     if (!isShown) return;
     m_session.console().out << m_operation.pastAction << "  "
-                            << textForPeople(m_records[at->second].path) << '\n'
-                            << std::flush;
+                            << textForPeople(m_records[at->second].path) << '\n';
+    printRemark(trace.words, m_session.console().out);
+    m_session.console().out << std::flush;
   }
 
   void apply(const UnitTrace& trace) {
@@ -253,6 +260,13 @@ void print(const Report& report, const UnitOperation& operation, const Invocatio
   }
 }
 
+/// Units about which there is a remark had no change that a comment could go with.
+bool isCommentUsed(const std::vector<UnitRecord>& units) {
+  return std::ranges::any_of(units, [](const UnitRecord& unit) {
+    return unit.result == UnitResult::Done && unit.message.empty();
+  });
+}
+
 }  // namespace
 
 ExitCode runUnitOperation(const Invocation& invocation, const UnitOperation& operation) {
@@ -260,6 +274,9 @@ ExitCode runUnitOperation(const Invocation& invocation, const UnitOperation& ope
   std::string comment = readComment(invocation.options, invocation.console.in);
   Session session(invocation, operation.outputIsResult ? WindowUse::Result : WindowUse::Quiet);
   session.openProject();
+  if (operation.byTool != nullptr && CMProperty::useSccCompliantTool() == 0) {
+    return operation.byTool(session, invocation);
+  }
   if ((invocation.command.options & OptionSet::Comment) != 0) offerLastComment(session, comment);
   checkComment(comment);
   UnitBatch batch(session, operation, comment);
@@ -274,7 +291,7 @@ ExitCode runUnitOperation(const Invocation& invocation, const UnitOperation& ope
     return ExitCode::AllDone;
   }
   const ExitCode code = wasInterrupted() ? ExitCode::Interrupted : exitCodeOf(report.units);
-  keepComment(session, comment, code);
+  keepComment(session, comment, code == ExitCode::AllDone && isCommentUsed(report.units));
   return code;
 }
 

@@ -30,6 +30,9 @@ struct UnitOperation {
   Rearranging::Plan plan{};       ///< For operations that take units from their places.
   /// With "-r": whether a package is done with everything in it at once.
   bool (*wholePackage)(const UnitCore& package) = nullptr;
+  /// Does it where the project works with a command-line tool, and the module has only the
+  /// provider's way.
+  ExitCode (*byTool)(Session& session, const Invocation& invocation) = nullptr;
 };
 
 /// The sequence that all of them share: comment and label, project, units, the call, the report.

@@ -85,7 +85,7 @@ std::string failureOf(const UnitTrace& trace, const char* templateProperty) {
 void applyTrace(const UnitTrace& trace, const char* templateProperty,
                 const DiagnosticList& diagnostics, UnitRecord& record) {
   record.result = resultOf(trace.end);
-  record.message = failureOf(trace, templateProperty);
+  record.message = trace.end == UnitEnd::Done ? trace.words : failureOf(trace, templateProperty);
   if (trace.end != UnitEnd::Refused) return;
   const CMDiagnostic* const reason = diagnosticOf(trace.file, diagnostics);
   if (reason != nullptr) record.message = reason->getMessage();

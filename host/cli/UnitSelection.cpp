@@ -9,6 +9,7 @@
 #include "cm/core/CMFacade.h"
 #include "cm/host/IPN.h"
 #include "cm/templates/CMProperty.h"
+#include "host/cli/ExitCode.h"
 #include "host/cli/UnitDescription.h"
 #include "host/model/FileTypes.h"
 #include "host/model/PathNames.h"
@@ -88,6 +89,15 @@ bool isListable(IUnit& unit) {
 }
 
 }  // namespace
+
+void checkUnitOptions(const Options& options) {
+  if (options.units.empty() && !options.all) {
+    throw CommandError(ExitCode::WrongUsage, "Name the units, or give --all.");
+  }
+  if (!options.units.empty() && options.all) {
+    throw CommandError(ExitCode::WrongUsage, "Name the units, or give --all, not both.");
+  }
+}
 
 UnitCore* unitNamed(Project& project, const std::string& name) {
   const std::vector<UnitCore*> found = candidates(project, name, true);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cm/host/IUnit.h"
+#include "host/cli/Options.h"
 #include "host/cli/UnitRecord.h"
 #include "host/model/Project.h"
 
@@ -15,6 +16,9 @@ struct UnitSelection {
   UnitList units;                   ///< Each once, in the order in which they were named.
   std::vector<UnitRecord> unknown;  ///< Names that are no unit, with the reason.
 };
+
+/// Ends the command unless the options either name units or mean all of them.
+void checkUnitOptions(const Options& options);
 
 /// Which units "--all" means.
 enum class AllUnits {

@@ -1,13 +1,17 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <nlohmann/json.hpp>
+#include <set>
+#include <string>
 
 #include "tests/live/Sandbox.h"
 
 namespace veldra::live {
 namespace {
 
+using testing::AllOf;
 using testing::HasSubstr;
 
 /// veldra-cm over a provider that it finds in a registry of the sandbox's.
@@ -88,6 +92,121 @@ TEST_F(ProviderCommandTest, CarriesACommentAndNamesTheHolder) {
   for (const auto& record : status["units"]) {
     EXPECT_EQ(record["locker"], record["path"] == unit ? "alice" : "") << record["path"];
   }
+}
+
+TEST_F(ProviderCommandTest, TellsPlainlyOfACheckInThatChangedNothing) {
+  connectSample();
+  ASSERT_EQ(in("model", {"add", "--all", "-m", "all"}).code, 0);
+  const std::string unit = "Brewing/Grinder.vcmp";
+  const std::string other = "Milk/Milk.vpkg";
+  ASSERT_EQ(in("model", {"checkout", unit, other}).code, 0);
+  m_sandbox.write("model/" + other, m_sandbox.read("model/" + other) + "\n");
+  const Ended ended = in("model", {"checkin", unit, other, "-m", "changed", "--json"});
+  ASSERT_EQ(ended.code, 0) << ended.err;
+  for (const auto& record : nlohmann::json::parse(ended.out)["units"]) {
+    EXPECT_EQ(record["message"] == "", record["path"] == other) << record;
+    EXPECT_EQ(record["mode"], "RO");
+  }
+}
+
+TEST_F(ProviderCommandTest, ShowsPropertiesAndWhereUnitsStand) {
+  connectSample();
+  ASSERT_EQ(in("model", {"add", "--all", "-m", "all"}).code, 0);
+  ASSERT_EQ(in("model", {"checkout", "Brewing/Grinder.vcmp"}).code, 0);
+  const Ended properties = in("model", {"properties", "Brewing/Grinder.vcmp"});
+  EXPECT_EQ(properties.code, 0) << properties.err;
+  EXPECT_THAT(properties.out, AllOf(HasSubstr("Revision: "), HasSubstr("svn:needs-lock = *")));
+  EXPECT_THAT(in("model", {"refresh"}).out, HasSubstr("checked out  1\n"));
+}
+
+TEST_F(ProviderCommandTest, ADryRunCallsNothing) {
+  connectSample();
+  const std::string unit = "Brewing/Grinder.vcmp";
+  ASSERT_EQ(in("model", {"add", "--all", "-m", "all"}).code, 0);
+  const std::string revision =
+      m_sandbox.run({"svnlook", "youngest", m_sandbox.path("archive")}).out;
+  for (const std::string command : {"checkout", "delete", "undo"}) {
+    const Ended planned = in("model", {"--dry-run", command, unit});
+    EXPECT_EQ(planned.code, 0) << planned.err;
+    EXPECT_THAT(planned.out, HasSubstr("would "));
+  }
+  EXPECT_FALSE(m_sandbox.isWritable("model/" + unit));
+  EXPECT_EQ(m_sandbox.run({"svnlook", "youngest", m_sandbox.path("archive")}).out, revision);
+  EXPECT_THAT(m_sandbox.run({"svnadmin", "lslocks", m_sandbox.path("archive")}).out, "");
+}
+
+TEST_F(ProviderCommandTest, ARenamedUnitStandsAsWithTools) {
+  connectSample();
+  ASSERT_EQ(in("model", {"add", "--all", "-m", "all"}).code, 0);
+  ASSERT_EQ(in("model", {"checkout", "Brewing/Grinder.vcmp"}).code, 0);
+  const Ended renamed = in("model", {"rename", "Brewing/Grinder.vcmp", "Mill", "-m", "better"});
+  ASSERT_EQ(renamed.code, 0) << renamed.err;
+  EXPECT_FALSE(m_sandbox.isWritable("model/Brewing/Mill.vcmp"));
+  EXPECT_THAT(m_sandbox.read("model/Brewing/Mill.vcmp"), HasSubstr("\"Mill\""));
+  EXPECT_EQ(m_sandbox.run({"svn", "cat", "file://" + m_sandbox.path("archive/Brewing/Mill.vcmp")})
+                .out.find("\"Grinder\""),
+            std::string::npos);
+  EXPECT_EQ(m_sandbox.run({"svnadmin", "lslocks", m_sandbox.path("archive")}).out, "");
+}
+
+TEST_F(ProviderCommandTest, AnInterruptEndsACallThatHangs) {
+  connectSample();
+  // The same place in the registry, another library behind it; the project's name chooses the
+  // fault.
+  std::string registry = m_sandbox.read("user.toml");
+  registry.replace(registry.find(VELDRA_SUBVERSION_PROVIDER),
+                   std::string(VELDRA_SUBVERSION_PROVIDER).size(), VELDRA_MISBEHAVING_PROVIDER);
+  m_sandbox.write("user.toml", registry);
+  ASSERT_EQ(in("model", {"property", "set", "SCC.ProjName", "hang"}).code, 0);
+  const std::string unit = "model/Brewing/Grinder.vcmp";
+  const std::string before = m_sandbox.read(unit);
+  const Ended ended = m_sandbox.shell(
+      "\"$CM\" -p model fetch Brewing/Grinder.vcmp & cm=$!\n"
+      "sleep 2; kill -INT $cm; wait $cm\n");
+  EXPECT_EQ(ended.code, 130);
+  EXPECT_THAT(ended.err, AllOf(HasSubstr("SccGet"), HasSubstr("veldra-cm status")));
+  EXPECT_EQ(m_sandbox.read(unit), before);
+}
+
+/// How many units the project has; more of them by hand: the look takes no longer, but making the
+/// project does.
+std::size_t manyUnits() {
+  const char* const wish = std::getenv("VELDRA_MANY_UNITS");
+  return wish != nullptr ? std::stoul(wish) : 2000;
+}
+
+TEST_F(ProviderCommandTest, StatusNamesExactlyWhatASecondUserHolds) {
+  const std::size_t count = manyUnits();
+  std::set<std::string> held;
+  std::string lock;
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::string unit = "p" + std::to_string(i / 100) + "/u" + std::to_string(i) + ".puml";
+    m_sandbox.write("model/" + unit, "@startuml\n@enduml\n");
+    if (i % (count / 100) == 0 && held.insert(unit).second) lock += unit + '\n';
+  }
+  ASSERT_EQ(m_sandbox.cm({"init", m_sandbox.path("model"), "--name", "Many"}).code, 0);
+  ASSERT_EQ(m_sandbox.cm({"provider", "install", VELDRA_SUBVERSION_PROVIDER}).code, 0);
+  ASSERT_EQ(in("model", {"provider", "use", "veldra subversion"}).code, 0);
+  ASSERT_EQ(in("model", {"connect", "--archive", m_sandbox.path("archive")}).code, 0);
+  const Ended added = in("model", {"add", "--all", "-m", "all"});
+  ASSERT_EQ(added.code, 0) << added.err.substr(0, 2000);
+  m_sandbox.write("other/list", lock);
+  const Ended locked = m_sandbox.shell(
+      "svn co -q file://$PWD/archive other/wc --username alice --no-auth-cache && cd other/wc &&\n"
+      "svn lock -q --username alice --no-auth-cache --targets ../list");
+  ASSERT_EQ(locked.code, 0) << locked.err;
+
+  const auto status = nlohmann::json::parse(in("model", {"status", "--json"}).out);
+  EXPECT_EQ(status["units"].size(), count + 1) << "and the project";
+  std::set<std::string> named;
+  for (const auto& record : status["units"]) {
+    if (record["state"] == "checked in" && record["locker"] == "") continue;
+    EXPECT_EQ(record["locker"], "alice") << record;
+    EXPECT_EQ(record["state"], "checked out by another user") << record;
+    named.insert(record["path"]);
+  }
+  EXPECT_EQ(named, held);
+  EXPECT_EQ(held.size(), 100U);
 }
 
 }  // namespace

@@ -59,6 +59,8 @@ class ScenarioTest : public testing::TestWithParam<const char*> {
   void connectAndAdd();
   void list();
   void checkOutAndIn();
+  void checkInUnchanged();
+  void properties();
   void labels();
   void undo();
   void locks();
@@ -125,6 +127,36 @@ void ScenarioTest::checkOutAndIn() {
   const json local = Job::unitOf(m_job.document({"status"}), Unit);
   if (leftOut("version in the file", tool().traits().noKeywords)) return;
   EXPECT_EQ(archived["version"], local["version"]);
+}
+
+void ScenarioTest::checkInUnchanged() {
+  const std::string comment = tool().newestComment(Unit);
+  m_job.cm({"checkout", Unit, "Milk/Milk.vpkg"});
+  m_job.change("Milk/Milk.vpkg", "Steam", "Hot steam");
+  const json told = m_job.document({"checkin", Unit, "Milk/Milk.vpkg", "-m", "nothing"});
+  EXPECT_THAT(Job::unitOf(told, Unit)["message"].get<std::string>(), HasSubstr("has changed"));
+  EXPECT_EQ(Job::unitOf(told, "Milk/Milk.vpkg")["message"], "");
+  expectInArchive(Unit);
+  EXPECT_EQ(tool().newestComment(Unit), comment);
+  m_job.cm({"checkout", Unit});
+  const Ended alone = m_job.cm({"checkin", Unit, "-m", "for nothing"});
+  EXPECT_THAT(alone.out, HasSubstr("Nothing in " + m_job.sandbox().path("model/") + Unit));
+  EXPECT_THAT(alone.err, HasSubstr("--last-comment"));
+  done("check in an unchanged unit");
+}
+
+void ScenarioTest::properties() {
+  m_job.cm({"checkout", Unit});
+  const json properties = Job::unitOf(m_job.document({"properties", Unit}), Unit);
+  EXPECT_EQ(properties["state"], "checked out");
+  EXPECT_EQ(properties["version"], Job::unitOf(m_job.document({"ls"}), Unit)["version"]);
+  EXPECT_THAT(m_job.cm({"properties", Unit}).out, HasSubstr("version  "));
+  EXPECT_EQ(m_job.tryCm({"properties", "No/Such"}).code, 3);
+  const Ended refreshed = m_job.cm({"refresh"});
+  EXPECT_THAT(refreshed.out, HasSubstr("checked out  1\n"));
+  EXPECT_THAT(refreshed.out, HasSubstr(Unit));
+  m_job.cm({"undo", Unit});
+  done("properties, refresh");
 }
 
 void ScenarioTest::labels() {
@@ -240,6 +272,8 @@ TEST_P(ScenarioTest, FromConnectionToDeletion) {
   connectAndAdd();
   list();
   checkOutAndIn();
+  checkInUnchanged();
+  properties();
   labels();
   undo();
   locks();

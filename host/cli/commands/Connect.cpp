@@ -16,6 +16,11 @@ ExitCode runConnect(const Invocation& invocation) {
   if (options.archive) place = archivePlace(*options.archive);
   Session session(invocation);
   session.openProject();
+  if (options.dryRun && CMProperty::useSccCompliantTool() != 0) {
+    // A provider runs no commands that could be held back.
+    printCommandPlan(invocation, {"connect  " + place.value_or(connectedProject(session))}, {});
+    return ExitCode::AllDone;
+  }
   if (const std::optional<std::string> failure = connectToArchive(session, place)) {
     throw CommandError(wasInterrupted() ? ExitCode::Interrupted : ExitCode::NothingDone, *failure);
   }

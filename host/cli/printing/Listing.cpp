@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "host/cli/printing/BytesAsText.h"
 #include "host/platform/CommandLine.h"
@@ -64,6 +65,15 @@ void printListing(const std::vector<UnitRecord>& units, std::ostream& out) {
   out << text;
 }
 
+void printProperties(const UnitRecord& unit, std::ostream& out) {
+  const std::pair<const char*, const std::string&> lines[] = {
+      {"name     ", unit.name},    {"type     ", unit.type},   {"state    ", unit.state},
+      {"version  ", unit.version}, {"locker   ", unit.locker}, {"mode     ", unit.mode},
+  };
+  out << textForPeople(unit.path) << '\n';
+  for (const auto& [label, value] : lines) printIndented(label, textForPeople(value), out);
+}
+
 void printPlan(const UnitRecord& unit, const char* action, std::ostream& out) {
   out << "would " << action << "  " << textForPeople(unit.path) << '\n';
   for (const std::vector<std::string>& command : unit.plan.commands) {
@@ -71,6 +81,10 @@ void printPlan(const UnitRecord& unit, const char* action, std::ostream& out) {
   }
   printIndented("file     ", textForPeople(unit.plan.file), out);
   printIndented("lock     ", unit.plan.lock, out);
+}
+
+void printRemark(const std::string& remark, std::ostream& out) {
+  printIndented("", linesForPeople(remark), out);
 }
 
 void printFailure(const UnitRecord& unit, std::ostream& out) {

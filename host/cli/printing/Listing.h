@@ -10,8 +10,14 @@ namespace veldra::host::cli {
 /// A table of units for people: mode, version, locker, type, name and path.
 void printListing(const std::vector<UnitRecord>& units, std::ostream& out);
 
+/// A paragraph about one unit, a line a property.
+void printProperties(const UnitRecord& unit, std::ostream& out);
+
 /// What a dry run would do for one unit; `action` is, for example, "check in".
 void printPlan(const UnitRecord& unit, const char* action, std::ostream& out);
+
+/// A remark about the unit that was printed last; nothing when it is empty.
+void printRemark(const std::string& remark, std::ostream& out);
 
 /// A unit that came to nothing, with what there is to say about it.
 void printFailure(const UnitRecord& unit, std::ostream& out);
