@@ -102,7 +102,9 @@ void Groups::finish(long code) {
     if (code != 0) {
       markFailed(code, *m_reports[i]);
     } else if (m_unchanged[i]) {
-      m_reports[i]->endsAs(UnitEnd::Done, formatMessage(MessageId::NothingChanged, {m_names[i]}));
+      const std::string text = formatMessage(MessageId::NothingChanged, {m_names[i]});
+      CMOutputer::writeToCMOutputWnd(text);
+      m_reports[i]->endsAs(UnitEnd::Done, text);
     }
   }
   m_files.clear();

@@ -30,6 +30,14 @@ std::ostream* shownWindow(const Invocation& invocation, WindowUse use) {
   return isDocument ? &console.err : &console.out;
 }
 
+std::string questionAfterCheckIn(IUserMessages& messages) {
+  std::string question = messages.loadString(MessageId::ProviderQuestion);
+  const std::size_t place = question.find("%1");
+  if (place != std::string::npos)
+    question.replace(place, 2, messages.loadString(MessageId::CheckedIn));
+  return question;
+}
+
 bool holdsProject(const fs::path& directory) {
   std::error_code failed;
   for (fs::directory_iterator at(directory, failed), end; !failed && at != end;
@@ -69,9 +77,7 @@ Session::Session(const Invocation& invocation, WindowUse window)
   // The failures are listed with the tool's own words.
   m_door.mute(m_host.messages().loadString(MessageId::ErrorPatternMatched));
   // A question of which every answer is the same, about what is told unit by unit.
-  m_door.prepareAnswer(
-      formatMessage(MessageId::ProviderQuestion, {loadMessage(MessageId::CheckedIn)}),
-      MessageBox::AnswerYes);
+  m_door.prepareAnswer(questionAfterCheckIn(m_host.messages()), MessageBox::AnswerYes);
   if (!m_options.dryRun) CMFacade::saveCallbackFunc() = [this] { save(true); };
   tellProblems(m_host.problems());
 }

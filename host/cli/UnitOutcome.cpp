@@ -1,6 +1,7 @@
 #include "host/cli/UnitOutcome.h"
 
 #include <algorithm>
+#include <sstream>
 #include <string_view>
 
 #include "host/cli/CallArguments.h"
@@ -52,6 +53,19 @@ std::string wordsFor(UnitEnd end, const char* templateProperty) {
   return {};
 }
 
+/// What a provider said by itself. It goes to the output window, among the names of files; the
+/// module's words tell only what the provider's code means.
+std::string providerWords(const UnitTrace& trace) {
+  if (trace.end != UnitEnd::ToolFailed || !trace.commands.empty()) return {};
+  std::string words;
+  std::istringstream lines(trace.output);
+  for (std::string line; std::getline(lines, line);) {
+    const bool isNew = line != trace.file && trace.words.find(line) == std::string::npos;
+    if (isNew) words += line + '\n';
+  }
+  return words;
+}
+
 /// The diagnostic that speaks of the file, or nothing.
 const CMDiagnostic* diagnosticOf(const std::string& file, const DiagnosticList& diagnostics) {
   const auto at = std::ranges::find_if(diagnostics, [&](const CMDiagnostic& diagnostic) {
@@ -74,7 +88,7 @@ std::string adviceLine(const std::string& words) {
 
 std::string failureOf(const UnitTrace& trace, const char* templateProperty) {
   if (trace.end == UnitEnd::Done) return {};
-  std::string failure = toolWords(trace.words);
+  std::string failure = toolWords(providerWords(trace) + trace.words);
   // Why nothing could be run was written to the output window alone.
   if (trace.end == UnitEnd::NotRun) failure = toolWords(trace.output);
   if (failure.empty()) failure = wordsFor(trace.end, templateProperty);

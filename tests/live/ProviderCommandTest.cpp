@@ -28,11 +28,16 @@ class ProviderCommandTest : public testing::Test {
     return m_sandbox.cm(arguments);
   }
 
-  void connectSample() {
-    m_sandbox.copySample("model");
+  /// Makes a project of the folder "model".
+  void makeProject() {
     ASSERT_EQ(m_sandbox.cm({"init", m_sandbox.path("model"), "--name", "Sample"}).code, 0);
     ASSERT_EQ(m_sandbox.cm({"provider", "install", VELDRA_SUBVERSION_PROVIDER}).code, 0);
     ASSERT_EQ(in("model", {"provider", "use", "veldra subversion"}).code, 0);
+  }
+
+  void connectSample() {
+    m_sandbox.copySample("model");
+    makeProject();
     const Ended connected = in("model", {"connect", "--archive", m_sandbox.path("archive")});
     ASSERT_EQ(connected.code, 0) << connected.err;
   }
@@ -87,7 +92,9 @@ TEST_F(ProviderCommandTest, CarriesACommentAndNamesTheHolder) {
       "svn co -q file://$PWD/archive other --username alice --no-auth-cache &&\n"
       "svn lock --username alice --no-auth-cache other/Brewing/Grinder.vcmp");
   ASSERT_EQ(locked.code, 0) << locked.err;
-  EXPECT_EQ(in("model", {"checkout", unit}).code, 3);
+  const Ended refused = in("model", {"checkout", unit});
+  EXPECT_EQ(refused.code, 3);
+  EXPECT_THAT(refused.err, HasSubstr("is checked out by alice"));
   const auto status = nlohmann::json::parse(in("model", {"status", "-u", "--json"}).out);
   for (const auto& record : status["units"]) {
     EXPECT_EQ(record["locker"], record["path"] == unit ? "alice" : "") << record["path"];
@@ -150,7 +157,8 @@ TEST_F(ProviderCommandTest, ARenamedUnitStandsAsWithTools) {
 }
 
 TEST_F(ProviderCommandTest, AnInterruptEndsACallThatHangs) {
-  connectSample();
+  m_sandbox.copySample("model");
+  makeProject();
   // The same place in the registry, another library behind it; the project's name chooses the
   // fault.
   std::string registry = m_sandbox.read("user.toml");
@@ -161,6 +169,7 @@ TEST_F(ProviderCommandTest, AnInterruptEndsACallThatHangs) {
   const std::string unit = "model/Brewing/Grinder.vcmp";
   const std::string before = m_sandbox.read(unit);
   const Ended ended = m_sandbox.shell(
+      "chmod a-w model/Brewing/Grinder.vcmp\n"
       "\"$CM\" -p model fetch Brewing/Grinder.vcmp & cm=$!\n"
       "sleep 2; kill -INT $cm; wait $cm\n");
   EXPECT_EQ(ended.code, 130);
@@ -184,9 +193,7 @@ TEST_F(ProviderCommandTest, StatusNamesExactlyWhatASecondUserHolds) {
     m_sandbox.write("model/" + unit, "@startuml\n@enduml\n");
     if (i % (count / 100) == 0 && held.insert(unit).second) lock += unit + '\n';
   }
-  ASSERT_EQ(m_sandbox.cm({"init", m_sandbox.path("model"), "--name", "Many"}).code, 0);
-  ASSERT_EQ(m_sandbox.cm({"provider", "install", VELDRA_SUBVERSION_PROVIDER}).code, 0);
-  ASSERT_EQ(in("model", {"provider", "use", "veldra subversion"}).code, 0);
+  makeProject();
   ASSERT_EQ(in("model", {"connect", "--archive", m_sandbox.path("archive")}).code, 0);
   const Ended added = in("model", {"add", "--all", "-m", "all"});
   ASSERT_EQ(added.code, 0) << added.err.substr(0, 2000);

@@ -140,7 +140,7 @@ TEST_F(SubversionProviderTest, GoesOnWhereAKilledProgramLeftTheRecords) {
       "root=$(svn info --show-item repos-root-url work)\n"
       "hook=${root#file://}/hooks/pre-commit\n"
       "printf '#!/bin/sh\\nkill -9 $PPID\\n' >$hook; chmod +x $hook\n"
-      "svn ci -q -m killed work/a; rm $hook");
+      "PATH=${PATH#*:} svn ci --username bob -q -m killed work/a; rm $hook");
   ASSERT_THAT(m_sandbox.shell("svn update work").err, HasSubstr("E155004")) << "nothing to mend";
   EXPECT_EQ(m_provider.checkIn({a}, "after all"), SCC_OK) << ProviderSession::takeTexts();
   EXPECT_EQ(inStore("a"), "second\n");
