@@ -44,7 +44,10 @@ class TwoCopies {
     runQuietly("find '" + ours() + "' '" + theirs() +
                "' -name '*.vcmp' | while read -r file; do echo >>\"$file\"; done");
   }
-  /// One command a unit, as the pack has none for many.
+  /// From here on ours takes one command a unit, too.
+  void withoutBatches() const {
+    runQuietly(program() + " property set Subversion.CheckOutBatch ''");
+  }
   void checkOutOurs() const { runQuietly(program() + " checkout --all"); }
   void checkOutTheirs() const {
     runQuietly("find '" + theirs() +
@@ -84,6 +87,7 @@ double addBatchAgainstSubversion() {
 
 double checkoutAgainstShell() {
   const TwoCopies copies(500);
+  copies.withoutBatches();
   copies.addOurs();
   copies.addTheirs();
   copies.checkOutOurs();
