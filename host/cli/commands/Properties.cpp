@@ -13,7 +13,7 @@ namespace veldra::host::cli {
 
 namespace {
 
-void print(const Report& report, const Invocation& invocation) {
+void show(const Report& report, const Invocation& invocation) {
   Console& console = invocation.console;
   if (invocation.options.json) return printJson(report, console.out);
   for (const UnitRecord& unit : report.units) {
@@ -41,7 +41,7 @@ ExitCode tellWhatIsListed(Session& session, const Invocation& invocation) {
   Report report{.command = invocation.command.name, .units = describeUnits(selection.units)};
   takeFromArchive(session, content, report.units);
   std::ranges::move(selection.unknown, std::back_inserter(report.units));
-  print(report, invocation);
+  show(report, invocation);
   return wasInterrupted() ? ExitCode::Interrupted : exitCodeOf(report.units);
 }
 
