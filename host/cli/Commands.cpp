@@ -22,6 +22,8 @@ std::span<const Command> commandTable() {
        runFetch},
       {"history", "Show the revisions of units", Units | Recursive | Label, runHistory},
       {"properties", "Show what the archive knows of units", Units, runProperties},
+      {"compare", "Show what differs between a unit and its versions in the archive", Comparing,
+       runCompare},
       {"delete", "Delete units from the archive, the model and the disk",
        NamedUnits | Recursive | Comment, runDelete},
       {"move", "Move units to another package, which is named last", NamedUnits | Comment, runMove},

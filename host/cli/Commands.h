@@ -44,6 +44,7 @@ ExitCode runUnlock(const Invocation& invocation);
 ExitCode runFetch(const Invocation& invocation);
 ExitCode runHistory(const Invocation& invocation);
 ExitCode runProperties(const Invocation& invocation);
+ExitCode runCompare(const Invocation& invocation);
 ExitCode runDelete(const Invocation& invocation);
 ExitCode runMove(const Invocation& invocation);
 ExitCode runRename(const Invocation& invocation);
