@@ -1,6 +1,5 @@
 #include <QLineEdit>
 #include <QMenu>
-#include <QPointer>
 #include <QTreeView>
 
 #include "cm/ui/Icons.h"
@@ -12,9 +11,7 @@
 #include "cm/ui/logic/UserDefinedCommand.h"
 #include "cm/ui/logic/ViewState.h"
 #include "cm/ui/widgets/ButtonPanel.h"
-#include "cm/ui/widgets/FailureStrip.h"
 #include "cm/ui/widgets/HeldInput.h"
-#include "cm/ui/widgets/ProgressStrip.h"
 #include "cm/ui/widgets/Text.h"
 #include "cm/ui/widgets/WorkspaceData.h"
 
@@ -32,7 +29,7 @@ bool CCMDialog::runCommand(int controlId) {
   for (const CommandButton* button : m_panel->buttons()) {
     const ButtonRow& row = buttonTable()[static_cast<std::size_t>(button->command())];
     if (row.controlId != controlId) continue;
-    if (button->isHidden() || !button->isEnabled() || m_isRunning) return false;
+    if (button->isHidden() || !button->isEnabled() || isRunning()) return false;
     press(button->command());
     return true;
   }
@@ -40,20 +37,7 @@ bool CCMDialog::runCommand(int controlId) {
 }
 
 void CCMDialog::press(DialogCommand command) {
-  if (m_isRunning) return;
-  const QPointer<QWidget> focused = focusWidget();
-  m_isRunning = true;
-  m_failures->tell({}, 0);
-  runPressed(command);
-  m_isRunning = false;
-  thaw();
-  m_panel->refresh();
-  m_failures->tell(shown(ButtonRules::caption(command)), m_progress->failedFiles().size());
-  if (focused != nullptr && focused->isEnabled()) focused->setFocus();
-  if (m_isRefreshDue) {
-    m_isRefreshDue = false;
-    refresh40001();
-  }
+  runOnce(shown(ButtonRules::caption(command)), [this, command] { runPressed(command); });
 }
 
 void CCMDialog::runPressed(DialogCommand command) {
@@ -107,19 +91,20 @@ void CCMDialog::commandStarts(const CommandRow& row) {
   m_data->isFrozen = true;
   for (QTreeView* view : {m_tree, m_list}) view->viewport()->setUpdatesEnabled(false);
   m_panel->setCommandsEnabled(false);
-  m_heldInput = std::make_unique<HeldInput>(*this);
-  m_progress->begin(shown(ButtonRules::caption(row.command)));
+  holdInput(shown(ButtonRules::caption(row.command)));
 }
 
 void CCMDialog::commandEnds() {
-  m_heldInput.reset();
-  m_progress->finish();
+  releaseInput();
 }
 
-void CCMDialog::thaw() {
+void CCMDialog::afterCommand() {
   m_data->isFrozen = false;
   for (QTreeView* view : {m_tree, m_list}) view->viewport()->setUpdatesEnabled(true);
-  m_panel->setCommandsEnabled(true);
+  m_panel->refresh();
+  if (!m_isRefreshDue) return;
+  m_isRefreshDue = false;
+  refresh40001();
 }
 
 void CCMDialog::dropGoneUnits() {
