@@ -1,5 +1,6 @@
 #include "cm/ui/CCMDialog.h"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -115,9 +116,7 @@ void CCMDialog::OnInitDialog() {
     ViewState::initialize();
   }
   const CommandWindows& windows = commandWindows();
-  m_panel->setAvailable(DialogCommand::ListArchive, windows.listArchive != nullptr);
   m_panel->setAvailable(DialogCommand::Compare, windows.compare != nullptr);
-  m_panel->setAvailable(DialogCommand::Synchronize, windows.synchronize != nullptr);
   addColumns();
   {
     const RefillScope once(*this);

@@ -28,9 +28,7 @@ struct WorkspaceData;
 /// Windows that the main dialog opens but that are no part of it. Whoever has them puts them here;
 /// a button whose window is missing stays disabled.
 struct CommandWindows {
-  std::function<void(CCMDialog&)> listArchive;
   std::function<void(CCMDialog&)> compare;
-  std::function<void(CCMDialog&)> synchronize;
 };
 
 /// The main CM dialog: the units of the active project as a tree or as a list, and a button for
@@ -110,6 +108,8 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public CommandWindow, private CommandView 
   void runPressed(DialogCommand command);
   void runUserCommand(DialogCommand command);
   void refreshStatus();
+  void listArchive();
+  void synchronize();
   void showContextMenu(const QPoint& place);
   void refresh40001();
   void afterCommand() override;

@@ -2,14 +2,22 @@
 #include <QMenu>
 #include <QTreeView>
 
+#include "cm/core/CMArchiveItem.h"
+#include "cm/host/MessageIds.h"
 #include "cm/ui/Icons.h"
 #include "cm/ui/OptionWindows.h"
 #include "cm/ui/RefillScope.h"
+#include "cm/ui/archive/CCMArcCoDlg.h"
 #include "cm/ui/logic/CommandRun.h"
+#include "cm/ui/logic/HostTexts.h"
+#include "cm/ui/logic/MainArchive.h"
 #include "cm/ui/logic/ProviderOptions.h"
 #include "cm/ui/logic/StatusRefresh.h"
 #include "cm/ui/logic/UserDefinedCommand.h"
 #include "cm/ui/logic/ViewState.h"
+#include "cm/ui/logic/archive/ArchiveRows.h"
+#include "cm/ui/logic/synchronize/SyncSettings.h"
+#include "cm/ui/synchronize/CMSyncDlg.h"
 #include "cm/ui/widgets/ButtonPanel.h"
 #include "cm/ui/widgets/HeldInput.h"
 #include "cm/ui/widgets/Text.h"
@@ -46,11 +54,11 @@ void CCMDialog::runPressed(DialogCommand command) {
     case DialogCommand::TreeView:
       return setView(command == DialogCommand::FlatView);
     case DialogCommand::ListArchive:
-      return call(commandWindows().listArchive, *this);
+      return listArchive();
     case DialogCommand::Compare:
       return call(commandWindows().compare, *this);
     case DialogCommand::Synchronize:
-      return call(commandWindows().synchronize, *this);
+      return synchronize();
     case DialogCommand::RefreshStatus:
       return refreshStatus();
     default:
@@ -81,6 +89,38 @@ void CCMDialog::RunUserDefCommandFromBrowser(const std::string& command, IUnit* 
 void CCMDialog::refreshStatus() {
   StatusRefresh::run(m_data->units.alive());
   CmFillCI();
+}
+
+void CCMDialog::listArchive() {
+  const QString caption = shown(ButtonRules::caption(DialogCommand::ListArchive));
+  CMArchiveItemListWrapper items;
+  DiagnosticList diagnostics;
+  holdInput(caption);
+  const bool isListed = listArchiveInto(items, diagnostics);
+  releaseInput();
+  if (!isListed) {
+    return showItemFailure(MessageId::CommandFailed + static_cast<int>(DialogCommand::ListArchive),
+                           diagnostics);
+  }
+  CCMArcCoDlg(items.list(), this).exec();
+  DoAfterOpRefresh();
+}
+
+void CCMDialog::synchronize() {
+  if (!CMSyncDlg::canSynchronize(1)) return;
+  const UnitList selected = CmSelectedItems();
+  chooseMainArchive(selected);
+  CMSyncDlg dialog(this);
+  holdInput(shown(ButtonRules::caption(DialogCommand::Synchronize)));
+  const bool isListed = dialog.listFirst(SyncSettings::read().label);
+  releaseInput();
+  if (isListed) {
+    dialog.exec();
+  } else {
+    dialogError(
+        dialogText(MessageId::CommandFailed + static_cast<int>(DialogCommand::Synchronize)));
+  }
+  DoAfterOpRefresh();
 }
 
 std::optional<CommandOptions> CCMDialog::askOptions(const OptionPresets& presets) {
