@@ -34,7 +34,7 @@ int listWorkspaceVersions(CMArchiveItemList& items, ArgumentList& arguments) {
       .templateProperty = IPN::WorkspaceVersions,
       .traceBefore = "Executing the following command to list the versions of the files: ",
       .traceAfter = "List versions command returned the following: "};
-  return hasValue({row.templateProperty}) ? runListing(row, items, arguments) : 0;
+  return runListing(row, items, arguments);
 }
 
 }  // namespace veldra

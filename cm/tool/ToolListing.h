@@ -18,7 +18,7 @@ struct ListingRow {
 int runListing(const ListingRow& row, CMArchiveItemList& items, ArgumentList& arguments);
 
 /// Lists the versions that the project's files have here, for tools that leave none in the files:
-/// the property "WorkspaceVersions". 0, and nothing is run, when the tool has no such command.
+/// the property "WorkspaceVersions". The result of the last step.
 int listWorkspaceVersions(CMArchiveItemList& items, ArgumentList& arguments);
 
 }  // namespace veldra

@@ -9,13 +9,12 @@
 #include "cm/ui/RefillScope.h"
 #include "cm/ui/archive/CCMArcCoDlg.h"
 #include "cm/ui/logic/CommandRun.h"
-#include "cm/ui/logic/HostTexts.h"
 #include "cm/ui/logic/MainArchive.h"
 #include "cm/ui/logic/ProviderOptions.h"
 #include "cm/ui/logic/StatusRefresh.h"
 #include "cm/ui/logic/UserDefinedCommand.h"
 #include "cm/ui/logic/ViewState.h"
-#include "cm/ui/logic/archive/ArchiveRows.h"
+#include "cm/ui/logic/archive/ListArchive.h"
 #include "cm/ui/logic/synchronize/SyncSettings.h"
 #include "cm/ui/synchronize/CMSyncDlg.h"
 #include "cm/ui/widgets/ButtonPanel.h"
@@ -96,7 +95,7 @@ void CCMDialog::listArchive() {
   CMArchiveItemListWrapper items;
   DiagnosticList diagnostics;
   holdInput(caption);
-  const bool isListed = listArchiveInto(items, diagnostics);
+  const bool isListed = listArchiveInto(items, {}, diagnostics);
   releaseInput();
   if (!isListed) {
     return showItemFailure(MessageId::CommandFailed + static_cast<int>(DialogCommand::ListArchive),
@@ -112,13 +111,14 @@ void CCMDialog::synchronize() {
   chooseMainArchive(selected);
   CMSyncDlg dialog(this);
   holdInput(shown(ButtonRules::caption(DialogCommand::Synchronize)));
-  const bool isListed = dialog.listFirst(SyncSettings::read().label);
+  DiagnosticList diagnostics;
+  const bool isListed = dialog.listFirst(SyncSettings::read().label, diagnostics);
   releaseInput();
   if (isListed) {
     dialog.exec();
   } else {
-    dialogError(
-        dialogText(MessageId::CommandFailed + static_cast<int>(DialogCommand::Synchronize)));
+    showItemFailure(MessageId::CommandFailed + static_cast<int>(DialogCommand::Synchronize),
+                    diagnostics);
   }
   DoAfterOpRefresh();
 }

@@ -18,6 +18,8 @@ std::span<const Command> commandTable() {
       {"unlock", "Give the lock of units back", Units | Recursive | Label, runUnlock},
       {"fetch", "Get the archived revision of units, read-only", Units | Recursive | Label,
        runFetch},
+      {"sync", "Show where the model and the archive differ, and take the archive's over", Sync,
+       runSync},
       {"history", "Show the revisions of units", Units | Recursive | Label, runHistory},
       {"delete", "Delete units from the archive, the model and the disk",
        NamedUnits | Recursive | Comment, runDelete},

@@ -13,7 +13,6 @@
 #include "cm/ui/ControlIds.h"
 #include "cm/ui/Icons.h"
 #include "cm/ui/logic/BackEndMode.h"
-#include "cm/ui/logic/HostTexts.h"
 #include "cm/ui/logic/synchronize/SyncCommand.h"
 #include "cm/ui/logic/synchronize/SyncPossible.h"
 #include "cm/ui/logic/synchronize/SyncSettings.h"
@@ -82,19 +81,20 @@ bool CMSyncDlg::canSynchronize(int flag) {
   return veldra::canSynchronize(flag);
 }
 
-bool CMSyncDlg::listFirst(const std::string& label) {
+bool CMSyncDlg::listFirst(const std::string& label, DiagnosticList& diagnostics) {
   beginRefill();
-  const bool isListed = m_listing.list(label);
+  const bool isListed = m_listing.list(label, diagnostics);
   m_listing.fill();
   endRefill();
   sortItems();
   return isListed;
 }
 
-bool CMSyncDlg::listAgain() {
-  if (listFirst(label())) return true;
-  dialogError(dialogText(MessageId::CommandFailed + static_cast<int>(DialogCommand::Synchronize)));
-  return false;
+void CMSyncDlg::listAgain() {
+  DiagnosticList diagnostics;
+  if (listFirst(label(), diagnostics)) return;
+  showItemFailure(MessageId::CommandFailed + static_cast<int>(DialogCommand::Synchronize),
+                  diagnostics);
 }
 
 void CMSyncDlg::OnSyncRefresh() {
@@ -136,7 +136,9 @@ void CMSyncDlg::OnCancel() {
 void CMSyncDlg::flashDlgOnDiff(int code) {
   if (!canSynchronize(code)) return;
   CMSyncDlg dialog;
-  if (dialog.listFirst(SyncSettings::read().label) && dialog.m_listing.size() > 0) dialog.exec();
+  DiagnosticList diagnostics;
+  const bool isListed = dialog.listFirst(SyncSettings::read().label, diagnostics);
+  if (isListed && dialog.m_listing.size() > 0) dialog.exec();
 }
 
 }  // namespace veldra

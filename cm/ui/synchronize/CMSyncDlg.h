@@ -22,7 +22,7 @@ class VELDRA_CM_UI_EXPORT CMSyncDlg : public ItemWindow {
   static void flashDlgOnDiff(int code);
 
   /// Lists workspace and archive; false when the archive could not be listed.
-  bool listFirst(const std::string& label);
+  bool listFirst(const std::string& label, DiagnosticList& diagnostics);
   const SyncListing& listing() const { return m_listing; }
 
   /// Lists both anew.
@@ -38,7 +38,7 @@ class VELDRA_CM_UI_EXPORT CMSyncDlg : public ItemWindow {
   void addMethod();
   bool usesMethod() const;
   std::string label() const;
-  bool listAgain();
+  void listAgain();
   void methodChosen(int entry);
 
   SyncListing& m_listing;

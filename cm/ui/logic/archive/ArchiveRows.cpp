@@ -3,9 +3,7 @@
 #include <utility>
 
 #include "cm/core/CMArchiveItem.h"
-#include "cm/core/CMFacade.h"
 #include "cm/host/MessageIds.h"
-#include "cm/ui/logic/GuardedCall.h"
 #include "cm/ui/logic/HostTexts.h"
 
 namespace veldra {
@@ -57,11 +55,6 @@ CMArchiveItemList ArchiveRows::itemsOf(const std::vector<int>& rows) const {
     if (row >= 0 && position < m_items.size()) items.addTail(m_items[position]);
   }
   return items;
-}
-
-bool listArchiveInto(CMArchiveItemListWrapper& items, DiagnosticList& diagnostics) {
-  ArgumentList noArguments;
-  return guardedCall(&CMFacade::ListArchive, items.list(), noArguments, diagnostics);
 }
 
 }  // namespace veldra

@@ -2,7 +2,6 @@
 
 #include <vector>
 
-#include "cm/core/CMDiagnostic.h"
 #include "cm/ui/logic/ItemRows.h"
 
 namespace veldra {
@@ -36,8 +35,5 @@ class VELDRA_CM_EXPORT ArchiveRows : public ItemRows {
  private:
   std::vector<CMArchiveItem*> m_items;
 };
-
-/// Lists the archive; the wrapper owns the items. False when the back end reported a failure.
-VELDRA_CM_EXPORT bool listArchiveInto(CMArchiveItemListWrapper& items, DiagnosticList& diagnostics);
 
 }  // namespace veldra

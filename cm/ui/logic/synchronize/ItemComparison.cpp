@@ -39,6 +39,10 @@ bool ItemComparison::IsFileAndUnitAttributesSame(const IUnit& unit, const std::s
   return unit.isReadOnly() != omFileHasWritePermission(fileName);
 }
 
+std::string ItemComparison::unitVersion(const IUnit* unit) const {
+  return unit != nullptr ? m_versions.of(*unit) : std::string();
+}
+
 std::string ItemComparison::getItemVersion(const CMArchiveItem* item, const IUnit* unit) const {
   if (item == nullptr) return {};
   return unit != nullptr && !m_branchViewMode ? m_versions.of(*unit) : item->getVersion();

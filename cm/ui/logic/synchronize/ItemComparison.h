@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "cm/core/CMArchiveItem.h"
@@ -33,6 +32,11 @@ class VELDRA_CM_EXPORT ItemComparison {
   std::string getItemVersion(const CMArchiveItem* item, const IUnit* unit) const;
   /// "U" for a stub, "RO" or "RW"; empty without a unit.
   static std::string getUnitRWStatus(const IUnit* unit);
+
+  /// The version that the unit has here; empty without one.
+  std::string unitVersion(const IUnit* unit) const;
+  /// See `UnitVersions`.
+  bool knowsVersions() const { return m_versions.isKnown(); }
 
   bool branchViewMode() const { return m_branchViewMode; }
   bool usesProvider() const { return m_usesProvider; }

@@ -2,13 +2,12 @@
 
 #include <utility>
 
-#include "cm/core/CMArguments.h"
 #include "cm/core/CMFacade.h"
 #include "cm/host/IPN.h"
 #include "cm/host/MessageIds.h"
 #include "cm/templates/CMProperty.h"
-#include "cm/ui/logic/GuardedCall.h"
 #include "cm/ui/logic/HostTexts.h"
+#include "cm/ui/logic/archive/ListArchive.h"
 
 namespace veldra {
 
@@ -42,18 +41,17 @@ std::string syncStatusText(SyncStatus status) {
   }
 }
 
-bool SyncListing::list(const std::string& label) {
+bool SyncListing::list(const std::string& label, DiagnosticList& diagnostics) {
   const UnitList units = listWorkspace();
   auto items = std::make_unique<CMArchiveItemListWrapper>();
   const bool usesProvider = CMProperty::getUseSCCtool() != 0;
   if (usesProvider) createDummyArchiveItems(units, *items);
-  CMLabel labelArgument(label);
-  ArgumentList arguments{&labelArgument};
-  DiagnosticList diagnostics;
-  if (!guardedCall(&CMFacade::ListArchive, items->list(), arguments, diagnostics)) return false;
+  if (!listArchiveInto(*items, label, diagnostics)) return false;
+  auto comparison = std::make_unique<ItemComparison>();
+  if (!comparison->knowsVersions()) return false;
   m_rows.clear();
   m_archive = std::move(items);
-  m_comparison.emplace();
+  m_comparison = std::move(comparison);
   m_comparison->setStubExclusion(m_stubExclusion);
   m_newerInArchive.clear();
   if (usesProvider) askProviderForNewer(units);

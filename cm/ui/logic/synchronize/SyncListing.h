@@ -1,11 +1,11 @@
 #pragma once
 
 #include <memory>
-#include <optional>
 #include <string>
 #include <unordered_set>
 #include <vector>
 
+#include "cm/core/CMDiagnostic.h"
 #include "cm/ui/logic/ItemRows.h"
 #include "cm/ui/logic/synchronize/ItemComparison.h"
 
@@ -28,16 +28,16 @@ inline constexpr int Count = 5;
 class VELDRA_CM_EXPORT SyncListing : public ItemRows {
  public:
   /// Lists workspace and archive anew; with a provider every unit of the workspace gets a
-  /// placeholder item. `label` may be empty. False when the archive could not be listed; the list
-  /// is then as it was.
-  bool list(const std::string& label);
+  /// placeholder item. `label` may be empty. False when the archive, or the versions that the files
+  /// have here, could not be listed; the list is then as it was.
+  bool list(const std::string& label, DiagnosticList& diagnostics);
   /// Computes which items differ, and stores the words for that in the items.
   void fill();
 
   SyncStatus status(std::size_t row) const { return m_rows[row].status; }
   CMArchiveItem& archiveItem(std::size_t row) const { return *m_rows[row].item; }
   /// Null until something has been listed.
-  const ItemComparison* comparison() const { return m_comparison ? &*m_comparison : nullptr; }
+  const ItemComparison* comparison() const { return m_comparison.get(); }
   void setStubExclusion(bool excludes) { m_stubExclusion = excludes; }
 
   // --- ItemRows ---
@@ -60,7 +60,7 @@ class VELDRA_CM_EXPORT SyncListing : public ItemRows {
   void askProviderForNewer(const UnitList& units);
 
   std::unique_ptr<CMArchiveItemListWrapper> m_archive;
-  std::optional<ItemComparison> m_comparison;
+  std::unique_ptr<ItemComparison> m_comparison;
   std::unordered_set<std::string> m_newerInArchive;  ///< Files, as the provider says.
   std::vector<Row> m_rows;
   bool m_stubExclusion = false;

@@ -24,18 +24,27 @@ bool usesTimeStamps() {
 
 }  // namespace
 
-bool canSynchronize(int /*flag*/) {
-  if (CurrentWorkspace::GetActiveProject() == nullptr) return false;
+std::optional<int> objectionToSynchronizing() {
+  if (CurrentWorkspace::GetActiveProject() == nullptr) return MessageId::NoCMToolSelected;
   const bool usesProvider = CMProperty::useSccCompliantTool() != 0;
   if (!usesProvider) {
     const BackEndMode mode = BackEndMode::current();
-    if (mode.isNoTool || CMProperty::getCMTool(nullptr, false) == nullptr) return false;
-    if (!mode.isBranchTool) return true;
+    if (mode.isNoTool || CMProperty::getCMTool(nullptr, false) == nullptr) {
+      return MessageId::NoCMToolSelected;
+    }
+    if (!mode.isBranchTool) return std::nullopt;
   }
-  if (usesTimeStamps()) return true;
-  dialogWarning(dialogText(usesProvider ? MessageId::TimeStampsForProvider
-                                        : MessageId::TimeStampsForBranches));
-  return false;
+  if (usesTimeStamps()) return std::nullopt;
+  return usesProvider ? MessageId::TimeStampsForProvider : MessageId::TimeStampsForBranches;
+}
+
+bool canSynchronize(int /*flag*/) {
+  const std::optional<int> objection = objectionToSynchronizing();
+  // Without a tool the button does nothing, as before a tool is chosen.
+  if (objection && *objection != MessageId::NoCMToolSelected) {
+    dialogWarning(dialogText(*objection));
+  }
+  return !objection;
 }
 
 }  // namespace veldra

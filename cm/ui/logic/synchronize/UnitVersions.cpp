@@ -6,25 +6,29 @@
 #include "cm/host/IPN.h"
 #include "cm/templates/CMProperty.h"
 #include "cm/tool/ToolListing.h"
+#include "cm/ui/logic/archive/ListArchive.h"
 
 namespace veldra {
 
 namespace {
 
-bool headersTell() {
-  std::string pattern;
-  return CMProperty::getUseSCCtool() != 0 ||
-         (CMProperty::getToolPropertyValue(IPN::CMHeaderItsVersion, pattern) && !pattern.empty());
+bool hasValue(const char* name) {
+  std::string value;
+  return CMProperty::getToolPropertyValue(name, value) && !value.empty();
 }
 
 }  // namespace
 
 UnitVersions::UnitVersions() {
-  if (headersTell()) return;
+  m_isListed = CMProperty::getUseSCCtool() == 0 && !hasValue(IPN::CMHeaderItsVersion) &&
+               hasValue(IPN::WorkspaceVersions);
+  if (!m_isListed) return;
   CMArchiveItemListWrapper items;
   ArgumentList arguments;
-  withoutEscape(CMTranscationType::TxnListArchive,
-                [&] { return listWorkspaceVersions(items.list(), arguments); });
+  const ListingOutcome outcome;
+  const int result =
+      withoutEscape(TxnListArchive, [&] { return listWorkspaceVersions(items.list(), arguments); });
+  m_isKnown = outcome.succeeded(result);
   for (const CMArchiveItem* item : items.list()) {
     const IUnit* const unit = item->getLoadedUnit();
     if (unit != nullptr) m_listed.emplace(unit->getFullFileName(), item->getVersion());
@@ -32,7 +36,7 @@ UnitVersions::UnitVersions() {
 }
 
 std::string UnitVersions::of(const IUnit& unit) const {
-  if (m_listed.empty()) return m_headers.getVersion(&unit);
+  if (!m_isListed) return m_headers.getVersion(&unit);
   const auto found = m_listed.find(unit.getFullFileName());
   return found != m_listed.end() ? found->second : std::string();
 }

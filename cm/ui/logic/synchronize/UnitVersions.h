@@ -15,11 +15,15 @@ namespace veldra {
 class VELDRA_CM_EXPORT UnitVersions {
  public:
   UnitVersions();
+  /// False when that listing failed: then nothing can be compared.
+  bool isKnown() const { return m_isKnown; }
   /// Empty for a unit without a version.
   std::string of(const IUnit& unit) const;
 
  private:
   CMHeaderReader m_headers;
+  bool m_isKnown = true;
+  bool m_isListed = false;
   std::unordered_map<std::string, std::string> m_listed;  ///< By full file name.
 };
 
