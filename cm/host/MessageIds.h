@@ -124,5 +124,14 @@ inline constexpr int SyncComparesTimes = 60625;
 inline constexpr int ArchiveTitle = 60626;       ///< Archive.
 inline constexpr int ItemButtonCaption = 60630;  ///< In the order of `ItemButton`, up to 60636.
 inline constexpr int ItemButtonTooltip = 60640;  ///< The same, up to 60646.
+// What is said about comparisons.
+inline constexpr int NothingToCompare = 60650;           ///< File or directory.
+inline constexpr int CompareToolNotStarted = 60651;      ///< Program.
+inline constexpr int StubNotCompared = 60652;            ///< Name, type name.
+inline constexpr int ControlledFileNotCompared = 60653;  ///< What such files are called.
+inline constexpr int SideNotMade = 60654;                ///< Directory.
+inline constexpr int SideNotWritten = 60655;             ///< Unit's name, directory.
+inline constexpr int NewestVersionCompared = 60656;      ///< Label.
+inline constexpr int VersionNotFetched = 60657;          ///< Unit's name.
 
 }  // namespace veldra::MessageId

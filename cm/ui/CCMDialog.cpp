@@ -45,11 +45,6 @@ void CCMDialog::DoPopupCmDialog(QWidget* parent) {
   CCMDialog(parent).exec();
 }
 
-CommandWindows& CCMDialog::commandWindows() {
-  static CommandWindows windows;
-  return windows;
-}
-
 const LiveUnits& CCMDialog::units() const {
   return m_data->units;
 }
@@ -115,8 +110,6 @@ void CCMDialog::OnInitDialog() {
     loadEverything("CM Dialog");
     ViewState::initialize();
   }
-  const CommandWindows& windows = commandWindows();
-  m_panel->setAvailable(DialogCommand::Compare, windows.compare != nullptr);
   addColumns();
   {
     const RefillScope once(*this);

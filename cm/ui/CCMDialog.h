@@ -19,17 +19,10 @@ class QTreeView;
 namespace veldra {
 
 class ButtonPanel;
-class CCMDialog;
 class UnitFilter;
 class UnitListModel;
 class UnitTreeModel;
 struct WorkspaceData;
-
-/// Windows that the main dialog opens but that are no part of it. Whoever has them puts them here;
-/// a button whose window is missing stays disabled.
-struct CommandWindows {
-  std::function<void(CCMDialog&)> compare;
-};
 
 /// The main CM dialog: the units of the active project as a tree or as a list, and a button for
 /// every CM operation.
@@ -47,7 +40,6 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public CommandWindow, private CommandView 
 
   /// Makes a dialog and runs it modally.
   static void DoPopupCmDialog(QWidget* parent = nullptr);
-  static CommandWindows& commandWindows();
 
   /// As if the button of that number were pressed. False when there is none, it is hidden or
   /// disabled, or a command runs already.

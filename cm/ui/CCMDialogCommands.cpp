@@ -15,6 +15,7 @@
 #include "cm/ui/logic/UserDefinedCommand.h"
 #include "cm/ui/logic/ViewState.h"
 #include "cm/ui/logic/archive/ListArchive.h"
+#include "cm/ui/logic/compare/UnitComparison.h"
 #include "cm/ui/logic/synchronize/SyncSettings.h"
 #include "cm/ui/synchronize/CMSyncDlg.h"
 #include "cm/ui/widgets/ButtonPanel.h"
@@ -23,14 +24,6 @@
 #include "cm/ui/widgets/WorkspaceData.h"
 
 namespace veldra {
-
-namespace {
-
-void call(const std::function<void(CCMDialog&)>& window, CCMDialog& dialog) {
-  if (window) window(dialog);
-}
-
-}  // namespace
 
 bool CCMDialog::runCommand(int controlId) {
   for (const CommandButton* button : m_panel->buttons()) {
@@ -55,7 +48,8 @@ void CCMDialog::runPressed(DialogCommand command) {
     case DialogCommand::ListArchive:
       return listArchive();
     case DialogCommand::Compare:
-      return call(commandWindows().compare, *this);
+      UnitComparison(*this).OnVddiff();
+      return;
     case DialogCommand::Synchronize:
       return synchronize();
     case DialogCommand::RefreshStatus:

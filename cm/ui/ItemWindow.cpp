@@ -14,6 +14,7 @@
 #include "cm/ui/Icons.h"
 #include "cm/ui/OptionWindows.h"
 #include "cm/ui/logic/ViewState.h"
+#include "cm/ui/options/CCMDiffDialog.h"
 #include "cm/ui/widgets/CommandButton.h"
 #include "cm/ui/widgets/Control.h"
 #include "cm/ui/widgets/FailureStrip.h"
@@ -169,6 +170,14 @@ void ItemWindow::showContextMenu(const QPoint& place) {
 
 std::optional<CommandOptions> ItemWindow::askOptions(const OptionPresets& presets) {
   return showOptionWindow(presets, this);
+}
+
+std::optional<VersionChoice> ItemWindow::askVersions() {
+  CCMDiffDialog window(this);
+  if (window.exec() != QDialog::Accepted) return std::nullopt;
+  return VersionChoice{.first = window.firstVersion(),
+                       .second = window.secondVersion(),
+                       .withDescendants = window.options().withDescendants};
 }
 
 void ItemWindow::commandStarts() {

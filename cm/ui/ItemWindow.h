@@ -57,6 +57,7 @@ class VELDRA_CM_UI_EXPORT ItemWindow : public CommandWindow, protected ItemView 
 
   // --- ItemView ---
   std::optional<CommandOptions> askOptions(const OptionPresets& presets) override;
+  std::optional<VersionChoice> askVersions() override;
   void commandStarts() override;
   void commandEnds() override;
   void refreshItems() override;

@@ -21,6 +21,8 @@ std::span<const Command> commandTable() {
       {"sync", "Show where the model and the archive differ, and take the archive's over", Sync,
        runSync},
       {"history", "Show the revisions of units", Units | Recursive | Label, runHistory},
+      {"compare", "Show what differs between a unit and its versions in the archive", Comparing,
+       runCompare},
       {"delete", "Delete units from the archive, the model and the disk",
        NamedUnits | Recursive | Comment, runDelete},
       {"move", "Move units to another package, which is named last", NamedUnits | Comment, runMove},

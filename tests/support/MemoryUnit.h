@@ -82,6 +82,13 @@ class MemoryUnitOf : public MemoryObject<Interface> {
   std::string getComputedFileName() const override {
     return record.computedFileName.empty() ? record.fileName : record.computedFileName;
   }
+  bool saveUnitToFile(const std::string& fileName) override {
+    const MemoryFiles::File* const file = m_files->find(getFullFileName());
+    m_journal->add("save " + record.fileName + " to " + fileName);
+    if (file == nullptr) return false;
+    m_files->write(fileName, file->content, true);
+    return true;
+  }
   void setFileName(const std::string& fileName) override {
     m_journal->add("rename " + record.fileName + " to " + fileName);
     record.fileName = fileName;
@@ -168,6 +175,7 @@ class MemoryProject : public MemoryUnitOf<IProject> {
   void attachProperty(const std::string& subject, const std::string& metaclass,
                       std::unique_ptr<IProperty> property) override;
 
+  std::string getVdId() const override { return identifier; }
   std::string getProjectDirectory() const override { return record.directory; }
   std::string getUnitDirectory() const override { return unitDirectory; }
   std::string getFileExtension() const override { return ".vdy"; }
@@ -181,6 +189,7 @@ class MemoryProject : public MemoryUnitOf<IProject> {
   MemoryComponent component{"Component", "Component"};
   NamedObject<IConfiguration> configuration{"Configuration", "Configuration"};
   std::string unitDirectory;
+  std::string identifier = "Plant 7 of 9";
   bool hasComponent = true;
   bool hasConfiguration = true;
   bool showsStatus = false;

@@ -13,6 +13,7 @@ class ScriptedItemView : public ItemView {
   CMArchiveItemList selected;
   CMArchiveItemList all;
   std::optional<CommandOptions> answer = CommandOptions{};
+  std::optional<VersionChoice> versions = VersionChoice{};
   std::vector<OptionPresets> asked;
   int running = 0;
   int refreshes = 0;
@@ -23,6 +24,7 @@ class ScriptedItemView : public ItemView {
     asked.push_back(presets);
     return answer;
   }
+  std::optional<VersionChoice> askVersions() override { return versions; }
   void commandStarts() override { ++running; }
   void commandEnds() override { --running; }
   void refreshItems() override { ++refreshes; }

@@ -7,6 +7,7 @@
 #include "cm/ui/Icons.h"
 #include "cm/ui/logic/SelectionRules.h"
 #include "cm/ui/logic/archive/ArchiveCommands.h"
+#include "cm/ui/logic/archive/ArchiveComparison.h"
 #include "cm/ui/logic/archive/ItemOperations.h"
 #include "cm/ui/widgets/CommandButton.h"
 #include "cm/ui/widgets/Text.h"
@@ -22,6 +23,8 @@ CCMArcCoDlg::CCMArcCoDlg(const CMArchiveItemList& items, QWidget* parent)
   setEmptyText(tr("The archive holds nothing of this project yet. Add units to it first."));
   addButton(ItemButton::CheckOutFromArchive, [this] { OnArcCo(); });
   addButton(ItemButton::FetchFromArchive, [this] { OnArcFetch(); });
+  addButton(ItemButton::CompareModel, [this] { OnArcVdDiff(); });
+  addButton(ItemButton::CompareVersions, [this] { OnArcCmDiff(); });
   addButton(ItemButton::CheckOutBranch, nullptr);
   start();
 }
@@ -32,6 +35,14 @@ void CCMArcCoDlg::OnArcCo() {
 
 void CCMArcCoDlg::OnArcFetch() {
   ArchiveCommands(*this).OnArcFetch();
+}
+
+void CCMArcCoDlg::OnArcVdDiff() {
+  ArchiveComparison(*this).OnArcVdDiff();
+}
+
+void CCMArcCoDlg::OnArcCmDiff() {
+  ArchiveComparison(*this).OnArcCmDiff();
 }
 
 bool CCMArcCoDlg::CheckForDescendentsInSelectedItems() {

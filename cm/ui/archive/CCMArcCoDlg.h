@@ -16,6 +16,8 @@ class VELDRA_CM_UI_EXPORT CCMArcCoDlg : public ItemWindow {
 
   void OnArcCo();
   void OnArcFetch();
+  void OnArcVdDiff();
+  void OnArcCmDiff();
   bool CheckForDescendentsInSelectedItems();
 
  private:

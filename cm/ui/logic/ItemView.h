@@ -1,12 +1,20 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include "cm/core/CMArchiveItemList.h"
 #include "cm/core/CMDiagnostic.h"
 #include "cm/ui/logic/OptionRules.h"
 
 namespace veldra {
+
+/// Two versions of the archive that are to be compared.
+struct VersionChoice {
+  std::string first;
+  std::string second;
+  bool withDescendants = false;
+};
 
 /// What a command on archive items asks of the window that it was started from. Messages and
 /// questions do not come this way but through the host (`IUserMessages`).
@@ -20,6 +28,8 @@ class ItemView {
   virtual CMArchiveItemList allItems() = 0;
   /// Shows the option window; nothing when the user gives up.
   virtual std::optional<CommandOptions> askOptions(const OptionPresets& presets) = 0;
+  /// Asks which versions of an item are compared; nothing when the user gives up.
+  virtual std::optional<VersionChoice> askVersions() = 0;
   /// From now until the end of the command units may be replaced or die: nothing may look at them.
   virtual void commandStarts() = 0;
   virtual void commandEnds() = 0;

@@ -74,17 +74,9 @@ void ButtonPanel::setCommandsEnabled(bool enabled) {
     const bool isCurrentView = button->command() == (ViewState::isFlat() ? DialogCommand::FlatView
                                                                          : DialogCommand::TreeView);
     const bool isBranch = button->command() == DialogCommand::CheckOutBranch;
-    const bool isMissing = std::find(m_unavailable.begin(), m_unavailable.end(),
-                                     button->command()) != m_unavailable.end();
     const bool isHiddenBranch = isBranch && button->isHidden();
-    button->setEnabled(enabled && !isCurrentView && !isMissing && !isHiddenBranch);
+    button->setEnabled(enabled && !isCurrentView && !isHiddenBranch);
   }
-}
-
-void ButtonPanel::setAvailable(DialogCommand command, bool available) {
-  std::erase(m_unavailable, command);
-  if (!available) m_unavailable.push_back(command);
-  setCommandsEnabled(true);
 }
 
 }  // namespace veldra

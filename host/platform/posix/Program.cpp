@@ -3,8 +3,11 @@
 #include <errno.h>
 #include <signal.h>
 #include <stdlib.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <string>
 
@@ -33,8 +36,26 @@ std::string locateProgram(const std::string& name) {
   return found ? *found : std::string();
 }
 
+std::string programFolder() {
+  std::error_code error;
+  const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+  return error ? std::string() : program.parent_path().string();
+}
+
+void addOwnFolderToPath() {
+  const std::string folder = programFolder();
+  const char* const path = std::getenv("PATH");
+  if (folder.empty()) return;
+  setVariable("PATH", path == nullptr ? folder.c_str() : (path + (":" + folder)).c_str());
+}
+
 bool canWriteInto(const std::string& folder) {
   return access(folder.c_str(), W_OK | X_OK) == 0;
+}
+
+bool belongsToUser(const std::string& path) {
+  struct stat status {};
+  return lstat(path.c_str(), &status) == 0 && status.st_uid == geteuid();
 }
 
 long processNumber() {
