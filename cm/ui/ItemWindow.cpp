@@ -208,9 +208,9 @@ void ItemWindow::updateState() {
   const int all = static_cast<int>(m_rows->size());
   const int selected = static_cast<int>(m_list->selectionModel()->selectedRows().size());
   const bool filtered = m_list->model() != m_model;
-  const QString entries =
-      filtered ? tr("%1 of %n entry(ies)", nullptr, all).arg(m_list->model()->rowCount())
-               : tr("%n entry(ies)", nullptr, all);
+  const QString entries = filtered
+                              ? tr("%1 of %n row(s)", nullptr, all).arg(m_list->model()->rowCount())
+                              : tr("%n row(s)", nullptr, all);
   m_totals->setText(tr("%1, %n selected", nullptr, selected).arg(entries));
 }
 

@@ -2,7 +2,7 @@
 
 #include "cm/core/CMArchiveItem.h"
 #include "cm/core/CMAskOnCheckoutGuard.h"
-#include "cm/host/IUserMessages.h"
+#include "cm/ui/logic/HostTexts.h"
 #include "cm/ui/logic/synchronize/SyncCommand.h"
 #include "cm/ui/logic/synchronize/SyncListing.h"
 #include "cm/ui/logic/synchronize/SyncPossible.h"
@@ -222,7 +222,7 @@ void checkUsage(const Options& options) {
 
 void checkPossible() {
   const std::optional<int> objection = objectionToSynchronizing();
-  if (objection) throw CommandError(ExitCode::NothingDone, loadMessage(*objection));
+  if (objection) throw CommandError(ExitCode::NothingDone, dialogText(*objection));
 }
 
 }  // namespace
