@@ -17,6 +17,12 @@ class UserDoor {
   virtual int ask(const std::string& text, int flags) = 0;
   /// Whether a writable file may be overwritten: "yes", "no", "yestoall", "notoall" or "cancel".
   virtual std::string askOverwrite(const std::string& text) = 0;
+  /// Whether a unit that the model does not have yet is loaded into it. The same answers.
+  virtual std::string askPartialLoad(const std::string& text, const std::string& unitName) {
+    (void)text;
+    (void)unitName;
+    return "no";
+  }
   /// Shows the window in which the user names the archive to connect to; a program without windows
   /// does nothing.
   virtual void showConnectToArchive() {}

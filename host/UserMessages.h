@@ -43,6 +43,9 @@ class UserMessages : public IUserMessages {
   int notifyUserAndAsk(const std::string& text, int flags, int level) override;
   void oneTimeMessageBox(const std::string& key, const std::string& text, int flags) override;
   std::string askOverwrite(const std::string& text) override;
+  std::string askPartialLoad(const std::string& text, const std::string& unitName) override {
+    return m_door ? m_door->askPartialLoad(text, unitName) : "no";
+  }
   void showConnectToArchive() override {
     if (m_door) m_door->showConnectToArchive();
   }

@@ -8,6 +8,10 @@ CMAskOnCheckoutGuard::CMAskOnCheckoutGuard() {
   ++moduleState().checkoutGuards;
 }
 
+CMAskOnCheckoutGuard::CMAskOnCheckoutGuard(const std::string& answer) : CMAskOnCheckoutGuard() {
+  moduleState().rememberedAnswer = answer;
+}
+
 CMAskOnCheckoutGuard::CMAskOnCheckoutGuard(const CMAskOnCheckoutGuard& /*other*/)
     : CMAskOnCheckoutGuard() {}
 

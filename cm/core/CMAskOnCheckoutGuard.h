@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "cm/host/Export.h"
 
@@ -11,6 +12,8 @@ namespace veldra {
 class VELDRA_CM_EXPORT CMAskOnCheckoutGuard {
  public:
   CMAskOnCheckoutGuard();
+  /// The question has been answered already, by "yestoall" or "notoall".
+  explicit CMAskOnCheckoutGuard(const std::string& answer);
   // Copies count too: each of them is destroyed one day.
   CMAskOnCheckoutGuard(const CMAskOnCheckoutGuard&);
   CMAskOnCheckoutGuard& operator=(const CMAskOnCheckoutGuard&) { return *this; }

@@ -120,6 +120,7 @@ void CMToolShellInterface::runCommand(const std::string& command, std::string& o
     debugEcho({"no command to execute\n"});
     return;
   }
+  ++m_commandCount;
   echo(command + "\n");
   Host* const host = installedHost();
   IProcesses* const processes = host != nullptr ? host->processes() : nullptr;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "cm/tool/CMToolInterface.h"
@@ -20,6 +21,8 @@ class VELDRA_CM_EXPORT CMToolShellInterface : public CMToolInterface {
               std::string workingDirectory) override;
 
   const CommandEnd& lastCommandEnd() const { return m_end; }
+  /// How many commands have been run so far.
+  std::size_t commandCount() const { return m_commandCount; }
 
  protected:
   /// Tells the user when the text matches the tool's error or warning pattern.
@@ -29,6 +32,7 @@ class VELDRA_CM_EXPORT CMToolShellInterface : public CMToolInterface {
   void runCommand(const std::string& command, std::string& output, std::string& errorText);
 
   CommandEnd m_end;
+  std::size_t m_commandCount = 0;
 };
 
 /// The one instance that every operation uses.

@@ -41,6 +41,17 @@ std::vector<UnitRecord> describeItems(const CMArchiveItemList& items) {
 
 }  // namespace
 
+std::string whyNotListed(Session& session, std::size_t tracesBefore,
+                         const DiagnosticList& diagnostics) {
+  const std::vector<UnitTrace>& traces = session.progress().traces();
+  if (traces.size() == tracesBefore) return reasonForNothing(session, diagnostics);
+  for (std::size_t i = tracesBefore; i < traces.size(); ++i) {
+    std::string failure = failureOf(traces[i], IPN::CMListArchive);
+    if (!failure.empty()) return failure;
+  }
+  return reasonForNoRecords();
+}
+
 ArchiveContent listArchive(Session& session) {
   CallArguments arguments =
       callArguments({.projectDirectory = session.project().getProjectDirectory(),
@@ -57,13 +68,9 @@ ArchiveContent listArchive(Session& session) {
     content.files = describeItems(items.list());
     return content;
   }
-  if (traces.size() == before) {
-    content.failure = reasonForNothing(session, diagnostics);
-    return content;
-  }
+  content.failure = whyNotListed(session, before, diagnostics);
+  if (traces.size() == before) return content;
   content.commands = traces.back().commands;
-  content.failure = failureOf(traces.back(), IPN::CMListArchive);
-  if (content.failure.empty()) content.failure = reasonForNoRecords();
   content.files = describeItems(items.list());
   return content;
 }

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
+#include "cm/core/CMDiagnostic.h"
 #include "host/cli/Session.h"
 #include "host/cli/UnitRecord.h"
 
@@ -16,5 +18,10 @@ struct ArchiveContent {
 };
 
 ArchiveContent listArchive(Session& session);
+
+/// Why a listing of the archive came to nothing, or may lack something; empty when nothing speaks
+/// against it. `tracesBefore` is how many traces the session's progress had before.
+std::string whyNotListed(Session& session, std::size_t tracesBefore,
+                         const DiagnosticList& diagnostics);
 
 }  // namespace veldra::host::cli

@@ -20,6 +20,8 @@ std::span<const Command> commandTable() {
       {"unlock", "Give the lock of units back", Units | Recursive | Label, runUnlock},
       {"fetch", "Get the archived revision of units, read-only", Units | Recursive | Label,
        runFetch},
+      {"sync", "Show where the model and the archive differ, and take the archive's over", Sync,
+       runSync},
       {"history", "Show the revisions of units", Units | Recursive | Label, runHistory},
       {"properties", "Show what the archive knows of units", Units, runProperties},
       {"compare", "Show what differs between a unit and its versions in the archive", Comparing,

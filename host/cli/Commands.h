@@ -48,6 +48,7 @@ ExitCode runCompare(const Invocation& invocation);
 ExitCode runDelete(const Invocation& invocation);
 ExitCode runMove(const Invocation& invocation);
 ExitCode runRename(const Invocation& invocation);
+ExitCode runSync(const Invocation& invocation);
 ExitCode runProperty(const Invocation& invocation);
 ExitCode runExpand(const Invocation& invocation);
 ExitCode runPack(const Invocation& invocation);

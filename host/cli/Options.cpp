@@ -28,6 +28,10 @@ std::span<const OptionRow> optionTable() {
       {Update, "-u,--update", "", "Ask the archive for versions and for who holds what",
        &Options::update},
 
+      {Sync, "units", "UNIT", "With --take: which; \"all\" takes everything that differs",
+       &Options::units},
+      {Sync, "--take", "", "Take the named units over from the archive", &Options::take},
+
       {NewProject, "directory", "DIR", "The folder of the new project", &Options::directory, true},
       {NewProject, "--name", "NAME", "The project's name; otherwise that of the folder",
        &Options::name},

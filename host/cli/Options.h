@@ -42,6 +42,7 @@ struct Options {
   bool forUser = false;
   bool forMachine = false;
 
+  bool take = false;
   std::vector<std::string> labels;
 
   bool list = false;
@@ -70,6 +71,7 @@ inline constexpr unsigned Recursive = 0x10000;
 inline constexpr unsigned NamedUnits = 0x20000;  ///< Units that have to be named one by one.
 inline constexpr unsigned NewName = 0x40000;
 inline constexpr unsigned Provider = 0x80000;
+inline constexpr unsigned Sync = 0x400000;
 inline constexpr unsigned Comparing = 0x100000;
 }  // namespace OptionSet
 

@@ -1,7 +1,14 @@
-# list.sh: a record a file, each with a zero byte behind it: mode, kind and object, then the holder of
-# a lock where there is one, a tab, the path below this folder.
+# list.sh [--here]: a record a file, each with a zero byte behind it: mode, kind and object, then the
+# holder of a lock where there is one, a tab, the path below this folder. --here lists what the folder
+# came by, without asking the archive.
 . "${0%/*}/common.sh"
 . "${0%/*}/locks.sh"
+
+if [ "${1:-}" = --here ]; then
+  git ls-files --stage -z --abbrev=12 | tr '\n\000' '\001\n' |
+    sed 's/^\([0-7]*\) \([0-9a-f]*\) [0-3]/\1 blob \2/' | tr '\n\001' '\000\n'
+  exit
+fi
 
 open_repository
 receive || give_up

@@ -1,12 +1,13 @@
-# list.sh: a line a file: newest commit that changed it, nothing, RO, path below this folder; with
-# tabs between.
+# list.sh [--here]: a line a file: newest commit that changed it, nothing, RO, path below this folder;
+# with tabs between. --here lists what the folder came by, without asking the archive.
 . "${0%/*}/common.sh"
 
 open_repository
-receive || give_up
+[ "${1:-}" = --here ] || receive || give_up
 prefix=$(pwd -P)
 prefix=${prefix#"$top"}
 state=${tip:-$base}
+[ "${1:-}" != --here ] || state=.
 {
   hg files -r "$state" -T '{path}\n' -- "$PWD" || :
   echo

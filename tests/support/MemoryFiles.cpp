@@ -5,7 +5,7 @@ namespace veldra::test {
 void MemoryFiles::write(const std::string& path, std::string content, bool writable) {
   const bool isBare = directoryOf(path).empty() && !m_current.empty();
   const std::string full = isBare ? m_current + '/' + path : path;
-  m_files[full] = {std::move(content), writable};
+  m_files[full] = {.content = std::move(content), .writable = writable};
   makeDirectory(directoryOf(full));
 }
 

@@ -41,10 +41,6 @@
 <context>
     <name>veldra::CCMDialog</name>
     <message>
-        <source>Filter</source>
-        <translation>Filter</translation>
-    </message>
-    <message>
         <source>Shows only units that contain this text</source>
         <translation>Zeigt nur Einheiten, die diesen Text enthalten</translation>
     </message>
@@ -305,6 +301,142 @@
     <message>
         <source>, about %1 s left</source>
         <translation>, noch etwa %1 s</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::ItemWindow</name>
+    <message>
+        <source>Filter entries (Ctrl+F)</source>
+        <translation>Einträge filtern (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Shows only entries that contain this text</source>
+        <translation>Zeigt nur Einträge, die diesen Text enthalten</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>Einträge</translation>
+    </message>
+    <message>
+        <source>Nothing to show</source>
+        <translation>Nichts zu zeigen</translation>
+    </message>
+    <message>
+        <source>Totals</source>
+        <translation>Summen</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n row(s)</source>
+        <translation>
+            <numerusform>%1 von %n Eintrag</numerusform>
+            <numerusform>%1 von %n Einträgen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n Eintrag</numerusform>
+            <numerusform>%n Einträge</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n selected</source>
+        <translation>
+            <numerusform>%1, %n gewählt</numerusform>
+            <numerusform>%1, %n gewählt</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>veldra::CCMArcCoDlg</name>
+    <message>
+        <source>The archive holds nothing of this project yet. Add units to it first.</source>
+        <translation>Das Archiv enthält noch nichts von diesem Projekt. Nehmen Sie zuerst Einheiten auf.</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::CMSyncDlg</name>
+    <message>
+        <source>The model and the archive are in step.</source>
+        <translation>Modell und Archiv stimmen überein.</translation>
+    </message>
+    <message>
+        <source>Compare by</source>
+        <translation>Vergleichen nach</translation>
+    </message>
+    <message>
+        <source>What tells whether a unit is up to date</source>
+        <translation>Woran sich zeigt, ob eine Einheit auf dem neuesten Stand ist</translation>
+    </message>
+    <message>
+        <source>Version in the header</source>
+        <translation>Version im Kopf der Datei</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Marke</translation>
+    </message>
+    <message>
+        <source>The label whose versions are compared</source>
+        <translation>Die Marke, mit deren Versionen verglichen wird</translation>
+    </message>
+    <message>
+        <source>How units are compared</source>
+        <translation>Wie Einheiten verglichen werden</translation>
+    </message>
+    <message>
+        <source>Compare &amp;by:</source>
+        <translation>&amp;Vergleichen nach:</translation>
+    </message>
+    <message>
+        <source>&amp;Label:</source>
+        <translation>&amp;Marke:</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::QuestionWindow</name>
+    <message>
+        <source>Question</source>
+        <translation>Frage</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>Yes to &amp;All</source>
+        <translation>Ja, &amp;alle</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nein</translation>
+    </message>
+    <message>
+        <source>N&amp;o to All</source>
+        <translation>N&amp;ein, keine</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>Ab&amp;brechen</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::ListView</name>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
     </message>
 </context>
 </TS>

@@ -35,4 +35,28 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>veldra::ItemWindow</name>
+    <message numerus="yes">
+        <source>%1 of %n row(s)</source>
+        <translation>
+            <numerusform>%1 of %n entry</numerusform>
+            <numerusform>%1 of %n entries</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n entry</numerusform>
+            <numerusform>%n entries</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n selected</source>
+        <translation>
+            <numerusform>%1, %n selected</numerusform>
+            <numerusform>%1, %n selected</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -20,8 +20,6 @@ class ButtonPanel : public QWidget {
   void refresh();
   /// The buttons that can be pressed, as long as no command runs.
   void setCommandsEnabled(bool enabled);
-  /// A button that can do nothing here: it stays and tells why.
-  void setAvailable(DialogCommand command, bool available);
 
  Q_SIGNALS:
   void pressed(veldra::DialogCommand command);
@@ -30,7 +28,6 @@ class ButtonPanel : public QWidget {
   int placeLine(int line, const ButtonPlaces& places);
 
   std::vector<CommandButton*> m_buttons;
-  std::vector<DialogCommand> m_unavailable;
   QWidget* m_firstPlace;
   QWidget* m_secondPlace;
 };

@@ -1,7 +1,6 @@
 #include "host/cli/printing/Listing.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -14,10 +13,7 @@ namespace veldra::host::cli {
 
 namespace {
 
-constexpr std::size_t ColumnCount = 7;
-using Row = std::array<std::string, ColumnCount>;
-
-Row rowOf(const UnitRecord& unit) {
+std::vector<std::string> rowOf(const UnitRecord& unit) {
   return {unit.state,
           unit.mode,
           textForPeople(unit.version),
@@ -44,23 +40,20 @@ void printIndented(std::string_view mark, std::string_view text, std::ostream& o
 
 }  // namespace
 
-void printListing(const std::vector<UnitRecord>& units, std::ostream& out) {
-  std::vector<Row> rows = {{"STATE", "MODE", "VERSION", "LOCKER", "TYPE", "NAME", "PATH"}};
-  rows.reserve(units.size() + 1);
-  for (const UnitRecord& unit : units) rows.push_back(rowOf(unit));
-  std::array<std::size_t, ColumnCount> widths{};
-  for (const Row& row : rows) {
-    for (std::size_t i = 0; i < ColumnCount; ++i) widths[i] = std::max(widths[i], widthOf(row[i]));
+void printTable(const std::vector<std::vector<std::string>>& rows, std::ostream& out) {
+  std::vector<std::size_t> widths;
+  for (const auto& row : rows) {
+    widths.resize(std::max(widths.size(), row.size()));
+    for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], widthOf(row[i]));
   }
-  const bool hasState =
-      std::ranges::any_of(units, [](const UnitRecord& unit) { return !unit.state.empty(); });
   std::string text;
-  for (const Row& row : rows) {
-    for (std::size_t i = hasState ? 0 : 1; i + 1 < ColumnCount; ++i) {
+  for (const auto& row : rows) {
+    for (std::size_t i = 0; i + 1 < row.size(); ++i) {
       text += row[i];
       text.append(widths[i] - widthOf(row[i]) + 2, ' ');
     }
-    text += row.back() + '\n';
+    if (!row.empty()) text += row.back();
+    text += '\n';
   }
   out << text;
 }
@@ -72,6 +65,19 @@ void printProperties(const UnitRecord& unit, std::ostream& out) {
   };
   out << textForPeople(unit.path) << '\n';
   for (const auto& [label, value] : lines) printIndented(label, textForPeople(value), out);
+}
+
+void printListing(const std::vector<UnitRecord>& units, std::ostream& out) {
+  const bool hasState =
+      std::ranges::any_of(units, [](const UnitRecord& unit) { return !unit.state.empty(); });
+  std::vector<std::vector<std::string>> rows{
+      {"STATE", "MODE", "VERSION", "LOCKER", "TYPE", "NAME", "PATH"}};
+  rows.reserve(units.size() + 1);
+  for (const UnitRecord& unit : units) rows.push_back(rowOf(unit));
+  if (!hasState) {
+    for (auto& row : rows) row.erase(row.begin());
+  }
+  printTable(rows, out);
 }
 
 void printPlan(const UnitRecord& unit, const char* action, std::ostream& out) {

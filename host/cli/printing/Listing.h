@@ -1,11 +1,15 @@
 #pragma once
 
 #include <ostream>
+#include <string>
 #include <vector>
 
 #include "host/cli/UnitRecord.h"
 
 namespace veldra::host::cli {
+
+/// Rows of texts, the first one with the headings, as columns that are as wide as they have to be.
+void printTable(const std::vector<std::vector<std::string>>& rows, std::ostream& out);
 
 /// A table of units for people: mode, version, locker, type, name and path.
 void printListing(const std::vector<UnitRecord>& units, std::ostream& out);

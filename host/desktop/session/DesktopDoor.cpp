@@ -53,8 +53,9 @@ int DesktopDoor::ask(const std::string& text, int flags) {
   }
 }
 
-std::string DesktopDoor::askOverwrite(const std::string& text) {
+std::string DesktopDoor::askForAll(const std::string& text, const std::string& field) {
   switch (m_questions.ask({.text = shown(text),
+                           .field = shown(field),
                            .icon = QMessageBox::Question,
                            .buttons = QMessageBox::Yes | QMessageBox::YesToAll | QMessageBox::No |
                                       QMessageBox::NoToAll | QMessageBox::Cancel,

@@ -16,7 +16,10 @@ class DesktopDoor : public UserDoor {
 
   void notify(const std::string& text, int level) override;
   int ask(const std::string& text, int flags) override;
-  std::string askOverwrite(const std::string& text) override;
+  std::string askOverwrite(const std::string& text) override { return askForAll(text, {}); }
+  std::string askPartialLoad(const std::string& text, const std::string& unitName) override {
+    return askForAll(text, unitName);
+  }
   void showConnectToArchive() override {
     if (m_connect) m_connect();
   }
@@ -24,6 +27,9 @@ class DesktopDoor : public UserDoor {
   void setConnectWindow(std::function<void()> show) { m_connect = std::move(show); }
 
  private:
+  /// A question whose answer may hold for everything that follows.
+  std::string askForAll(const std::string& text, const std::string& field);
+
   Questions& m_questions;
   std::function<void()> m_connect;
 };

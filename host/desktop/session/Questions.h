@@ -9,6 +9,7 @@ namespace veldra::host::desktop {
 struct Question {
   QString text;
   QString details{};  ///< What a message with many lines keeps apart, to be read and copied.
+  QString field{};    ///< A name that stands in a field of its own; empty for none.
   QMessageBox::Icon icon = QMessageBox::Information;
   QMessageBox::StandardButtons buttons = QMessageBox::Ok;
   QMessageBox::StandardButton preset = QMessageBox::NoButton;

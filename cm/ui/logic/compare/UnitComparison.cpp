@@ -32,6 +32,10 @@ constexpr CompareFlags UnitTree{.recursive = true, .mergeBack = true, .cm2 = tru
 
 }  // namespace
 
+const CommandRow& comparisonRow() {
+  return Row;
+}
+
 bool canCompare(IUnit& unit) {
   if ((unit.getFlags() & UnitFlag::Stub) != 0) {
     dialogWarning(formatMessage(MessageId::StubNotCompared, {unit.getName(), unit.getTypeName()}));

@@ -9,6 +9,9 @@
 
 namespace veldra {
 
+/// The command, for its options.
+VELDRA_CM_EXPORT const CommandRow& comparisonRow();
+
 /// Whether a unit can be compared with the archive at all: it is loaded and part of the model.
 /// Otherwise the user has been told.
 VELDRA_CM_EXPORT bool canCompare(IUnit& unit);
