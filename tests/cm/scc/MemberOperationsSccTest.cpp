@@ -151,9 +151,9 @@ TEST_F(MemberOperationsSccTest, RenameKeepsArchiveAndDiskInStep) {
 
 TEST_F(MemberOperationsSccTest, WhatIsCheckedOutIsCheckedInUnderItsNewName) {
   m_provider->status["/plan/A.vcl"] = 0x1003;
-  EXPECT_EQ(CMFacade::RenameMember(&m_a, m_a.getFullFileName(), "Engine.vcl", m_arguments,
-                                   m_diagnostics),
-            1);
+  EXPECT_EQ(
+      CMFacade::RenameMember(&m_a, m_a.getFullFileName(), "Engine.vcl", m_arguments, m_diagnostics),
+      1);
   EXPECT_THAT(calls("SccCheckin"), ElementsAre("SccCheckin /plan/Engine.vcl 'why' 0"));
   // The new place stands, and the user learns that the file is still out.
   m_provider->results["SccCheckin"] = scc::SCC_E_CHECKINCONFLICT;
