@@ -14,7 +14,7 @@ namespace veldra::host {
 namespace {
 
 /// The process whose number the name carries; 0 when it is another file's name.
-long processOf(std::string_view name) {
+long ownerOf(std::string_view name) {
   constexpr std::string_view Prefix = "veldra-cm-";
   constexpr std::size_t SuffixLength = sizeof("-XXXXXX") - 1;
   if (!name.starts_with(Prefix) || name.size() <= Prefix.size() + SuffixLength) return 0;
@@ -47,7 +47,7 @@ bool isOldSide(const std::filesystem::directory_entry& entry) {
 }
 
 bool isStale(const std::filesystem::directory_entry& entry) {
-  const long process = processOf(entry.path().filename().native());
+  const long process = ownerOf(entry.path().filename().native());
   return process != 0 ? !isProcessAlive(process) : isOldSide(entry);
 }
 
