@@ -18,6 +18,7 @@ double getAgainstUpdate();
 double checkoutAgainstShell();
 double gitListing();
 double subversionListing();
+double synchronizeAgainstListing();
 double consumerAgainstLoop();
 double floodAgainstCat();
 double floodMemory();

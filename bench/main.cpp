@@ -36,6 +36,8 @@ constexpr auto Rows = std::to_array<Row>({
      1.05},
     {"ls-git: archive of 20,000 files / the tool's own listing", gitListing, 1.2},
     {"ls-svn: archive of 20,000 files / the tool's own listing", subversionListing, 1.2},
+    {"sync: 20,000 items, 50 differ, Subversion / svn list, reading versions",
+     synchronizeAgainstListing, 1.3},
     {"query: 20,000 units of a provider / svn status -v", queryAgainstStatus, 0.8},
     {"lock: 1,000 units of a provider over loopback / svn lock", lockAgainstSubversion, 1.1},
     {"get: 2,000 unchanged units of a provider / svn update", getAgainstUpdate, 1.2},

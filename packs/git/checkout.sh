@@ -12,6 +12,8 @@ receive || {
   has_locks && give_up
   printf 'The archive cannot be reached; the newest state here is taken.\n'
 }
+# In a file that is missing there is nothing to merge.
+[ "$mode" = --lock ] || bring_missing "$units"
 if is_behind && ! has_content_of "$units" "$tip"; then
   [ "$mode" != --lock ] || fail "The archive has a newer state of the file; fetch it first."
   bring_newest

@@ -48,10 +48,16 @@ Bring both together with git rebase or git merge."
   end_update
 }
 
+# bring_missing UNITS: brings back files that are missing, read-only.
+bring_missing() {
+  about "$1" git ls-files -z --deleted |
+    xargs -0 -r sh -c 'git checkout-index -q -- "$@" && chmod a-w -- "$@"' sh
+}
+
 # restore UNITS: brings back files that are missing, and read-only ones with an older content of the
 # archive; a read-only file with any other content is somebody's work.
 restore() {
-  about "$1" git ls-files -z --deleted | git checkout-index -q -z --stdin || return
+  bring_missing "$1" || return
   about "$1" git diff --relative --name-only -z HEAD | tr '\000' '\n' | while read -r file; do
     if [ -z "$(printf '%s\000' "$file" | writable)" ] && is_archived "./$file"; then
       git checkout -q HEAD -- "./$file" || return

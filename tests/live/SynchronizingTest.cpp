@@ -118,8 +118,11 @@ TEST_P(SynchronizingTest, AnArchiveThatCannotBeReachedIsNoArchiveInStep) {
   EXPECT_FALSE(ended.err.empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Packs, SynchronizingTest, testing::Values("Subversion", "Git"),
-                         [](const auto& info) { return std::string(info.param); });
+std::string nameOf(const testing::TestParamInfo<const char*>& info) {
+  return info.param;
+}
+
+INSTANTIATE_TEST_SUITE_P(Packs, SynchronizingTest, testing::Values("Subversion", "Git"), nameOf);
 
 }  // namespace
 }  // namespace veldra::live

@@ -17,6 +17,7 @@
 #include "cm/ui/logic/archive/ItemOperations.h"
 #include "cm/ui/logic/archive/ModelLoading.h"
 #include "cm/ui/logic/archive/PartialLoad.h"
+#include "cm/ui/logic/synchronize/GivenUpFiles.h"
 
 namespace veldra {
 
@@ -38,6 +39,12 @@ Way wayOf(const BackEndMode& mode) {
   if (!checksOut) return {&CMFacade::FetchFromArchive, false};
   if (mode.isBranchTool) return {&CMFacade::RecCheckOutFromArchive, false};
   return {&CMFacade::CheckOutFromArchive, true};
+}
+
+bool callTool(ItemCommandFunction function, CMArchiveItemList& items, ArgumentList& arguments,
+              DiagnosticList& diagnostics) {
+  const GivenUpFiles files(items);
+  return items.empty() || guardedCall(function, items, arguments, diagnostics);
 }
 
 }  // namespace
@@ -69,9 +76,8 @@ TakeOver takeOver(CMArchiveItemList& items, const std::string& label, Diagnostic
   CMMode readOnly(CMMode::ReadOnly);
   CMLabel labelArgument(label);
   ArgumentList arguments{&readOnly, &labelArgument};
-  const bool succeeded = mode.usesProvider
-                             ? doCheckOut(items, arguments, diagnostics)
-                             : guardedCall(way.function, items, arguments, diagnostics);
+  const bool succeeded = mode.usesProvider ? doCheckOut(items, arguments, diagnostics)
+                                           : callTool(way.function, items, arguments, diagnostics);
   markSaveDue();
   if (!succeeded) return TakeOver::CheckOutFailed;
   CMArchiveItemList toLoad;

@@ -6,8 +6,8 @@
 
 namespace veldra {
 
-/// What stands against synchronizing the model with the archive, as the number of a message; nothing
-/// when it is possible.
+/// What stands against synchronizing the model with the archive, as the number of a message;
+/// nothing when it is possible.
 VELDRA_CM_EXPORT std::optional<int> objectionToSynchronizing();
 
 /// Whether the model can be synchronized with the archive at all. Where files are compared by their

@@ -70,12 +70,32 @@ TEST_F(SyncCommandTest, EachAnswerAboutOwnChanges) {
   }
 }
 
-TEST_F(SyncCommandTest, CopiesOfOwnChangesAreKept) {
-  m_host.files.find("/plan/Mine.vcl")->writable = true;
+TEST_F(SyncCommandTest, OwnChangesAreOutOfTheWayMeanwhileAndACopyIsKept) {
+  MemoryFiles& files = m_host.files;
+  files.write("/plan/Mine.vcl", "mine", true);
+  files.write("/plan/Yours.vcl", "yours", true);
   answers() = {"yestoall"};
-  EXPECT_TRUE(run({1}));
-  EXPECT_EQ(m_host.memoryKeptCopies.lines.front(),
-            "keep /plan/Mine.vcl before Check Out from Archive");
+  Reply reply;
+  reply.effect = [&files] {
+    EXPECT_EQ(files.find("/plan/Mine.vcl"), nullptr) << "a tool would merge into it";
+    files.write("/plan/Mine.vcl", "the archive's");
+  };
+  m_host.scriptedProcesses.answer("co ro /plan/Mine.vcl", reply);
+  run({1, 3});
+  EXPECT_EQ(files.find("/plan/Mine.vcl")->content, "the archive's");
+  EXPECT_EQ(files.find("/plan/Yours.vcl")->content, "yours") << "nobody has brought another one";
+  EXPECT_EQ(files.find("/plan/Mine.vcl_temp"), nullptr);
+  EXPECT_EQ(m_host.memoryKeptCopies.lines.front(), "keep /plan/Mine.vcl before Synchronize");
+}
+
+TEST_F(SyncCommandTest, WithoutACopyTheOwnFileStays) {
+  m_host.files.write("/plan/Mine.vcl", "mine", true);
+  m_host.memoryKeptCopies.refusal = "no room";
+  answers() = {"yestoall"};
+  run({1});
+  EXPECT_EQ(commandsOf("co"), Lines{});
+  EXPECT_EQ(messages(), "60030 ");
+  EXPECT_EQ(m_host.files.find("/plan/Mine.vcl")->content, "mine");
 }
 
 TEST_F(SyncCommandTest, NothingSelectedIsAWarning) {
