@@ -55,6 +55,10 @@ bool omFileExist(const std::string& path) {
   return ask(false, [&](IEnvironment& e) { return e.omFileExist(path); });
 }
 
+bool omFileExistsAndNonEmpty(const std::string& path) {
+  return ask(false, [&](IEnvironment& e) { return e.omFileExistsAndNonEmpty(path); });
+}
+
 bool omFileHasWritePermission(const std::string& path) {
   return ask(false, [&](IEnvironment& e) { return e.omFileHasWritePermission(path); });
 }

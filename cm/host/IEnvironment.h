@@ -25,6 +25,11 @@ class IEnvironment {
   virtual std::string omGetCurrentUser() = 0;
 
   virtual bool omFileExist(const std::string& path) = 0;
+  /// True for a file that holds at least one byte. A host that cannot tell says no.
+  virtual bool omFileExistsAndNonEmpty(const std::string& path) {
+    (void)path;
+    return false;
+  }
   /// True when the file's owner may write it (the mode bit, or on Windows no read-only attribute);
   /// what the current user could do plays no part.
   virtual bool omFileHasWritePermission(const std::string& path) = 0;
@@ -34,6 +39,13 @@ class IEnvironment {
   /// The absolute name of a directory; the empty path means the current one. Empty, with the reason
   /// in `errorText`, when it cannot be had.
   virtual std::string omGetFullPathOfDirectory(const std::string& path, std::string& errorText) = 0;
+  /// Makes one directory, for the current user alone. True as well when it is there already and
+  /// belongs to this user; false when that fails, the directory above is missing, or the name is
+  /// taken by anything else.
+  virtual bool createDirectory(const std::string& path) {
+    (void)path;
+    return false;
+  }
   virtual bool setCurrentDirectory(const std::string& path) = 0;
   /// The system's words for the error of the last call above that failed.
   virtual std::string omGetErrorCodeString() = 0;
@@ -59,6 +71,7 @@ std::string omGetCurrentTime();
 std::string omGetCurrentDate();
 std::string omGetCurrentUser();
 bool omFileExist(const std::string& path);
+bool omFileExistsAndNonEmpty(const std::string& path);
 bool omFileHasWritePermission(const std::string& path);
 std::string omGetFullPathOfDirectory(const std::string& path, std::string& errorText);
 std::string omGetErrorCodeString();

@@ -32,6 +32,10 @@ class IProject : public IUnit {
   /// The active code-generation configuration, or null in a tool that generates no code.
   virtual ICodeGenConfigInfo* getCodeGenConfigInfo() { return nullptr; }
 
+  /// The text of the project's identifier (`VdId`), which no other project has. Empty in a host
+  /// that knows none.
+  virtual std::string getVdId() const { return {}; }
+
   /// The directory that holds the project file.
   virtual std::string getProjectDirectory() const = 0;
   /// The directory that holds the project's unit files.

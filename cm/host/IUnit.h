@@ -72,6 +72,13 @@ class IUnit : public IDObject {
   virtual std::string getRecordedFileName() const = 0;
   /// The file name that follows from the unit's present name.
   virtual std::string getComputedFileName() const = 0;
+  /// Writes the unit as it stands in the model to another file; the unit, its own file and whether
+  /// it counts as changed stay as they are. A name without directory goes into the current one.
+  /// False when nothing could be written, or the host cannot do that.
+  virtual bool saveUnitToFile(const std::string& fileName) {
+    (void)fileName;
+    return false;
+  }
   /// Changes the file name in the model only; the file on disk is not touched.
   virtual void setFileName(const std::string& fileName) = 0;
   /// Asks the host, and through it perhaps the user, whether the file may take this name.
@@ -115,6 +122,8 @@ class IUnit : public IDObject {
 /// A controlled file: a file of any type kept under control beside the model.
 class IEmbededFile : public IUnit {
  public:
+  /// The user's word for such files.
+  static constexpr char FeatureName[] = "Controlled File";
   IEmbededFile* asEmbededFile() override { return this; }
 };
 

@@ -101,4 +101,12 @@ inline constexpr int OptionTitleOfCommand =
     60530;  ///< The same by command: fetch, check out, undo, check in, add.
 inline constexpr int ConnectWithoutArchive = 60535;
 
+// What is said about comparisons.
+inline constexpr int NothingToCompare = 60650;           ///< File or directory.
+inline constexpr int CompareToolNotStarted = 60651;      ///< Program.
+inline constexpr int StubNotCompared = 60652;            ///< Name, type name.
+inline constexpr int ControlledFileNotCompared = 60653;  ///< What such files are called.
+inline constexpr int SideNotMade = 60654;                ///< Directory.
+inline constexpr int SideNotWritten = 60655;             ///< Unit's name, directory.
+
 }  // namespace veldra::MessageId

@@ -98,6 +98,13 @@ class IProcesses {
   /// must outlive the runner.
   virtual std::unique_ptr<RunThread> createRunThreadRedirect(const std::string& command,
                                                              IOutputFile* file) = 0;
+  /// Starts a program that lives on by itself: in the current directory, with this process's own
+  /// input and outputs, its windows shown as usual. Nobody waits for it, and nothing ends it with
+  /// this process. False when it cannot be started, or the host has no such facility.
+  virtual bool startDetached(const std::string& command) {
+    (void)command;
+    return false;
+  }
 };
 
 }  // namespace veldra

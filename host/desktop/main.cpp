@@ -5,9 +5,11 @@
 #include "host/desktop/Appearance.h"
 #include "host/desktop/Words.h"
 #include "host/desktop/window/MainWindow.h"
+#include "host/platform/Program.h"
 
 int main(int argc, char** argv) {
   using namespace veldra::host::desktop;
+  veldra::host::addOwnFolderToPath();
   QApplication::setApplicationName("Veldra");
   QApplication::setApplicationVersion(VELDRA_VERSION);
   QApplication::setOrganizationName("veldra-cm");

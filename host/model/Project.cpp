@@ -237,6 +237,11 @@ void Project::addProblem(const Problem& problem) {
   }
 }
 
+std::string Project::getVdId() const {
+  const Json* const id = member(m_file.text.body, "id");
+  return id && id->is_string() ? id->get<std::string>() : std::string();
+}
+
 ModelText* Project::content(Problem& problem) {
   (void)problem;
   return &m_file.text;

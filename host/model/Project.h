@@ -79,6 +79,7 @@ class Project : public UnitOf<IProject> {
   IConfiguration* getConfiguration() override { return &m_configuration; }
   std::string getProjectDirectory() const override { return record().folder->path; }
   /// The units lie in the project's own folder and below it.
+  std::string getVdId() const override;
   std::string getUnitDirectory() const override { return record().folder->path; }
   std::string getFileExtension() const override;
   bool showCMStatus() const override { return m_file.showCMStatus; }

@@ -103,6 +103,18 @@ bool UnitCore::save(Problem& problem) {
   return true;
 }
 
+bool UnitCore::saveCopy(const std::string& fileName) {
+  const Result<std::string> present = readFile(fullFileName(), ModelFileLimit);
+  const ModelText* const changed = isOwnFile() && m_modified ? contentToSave() : nullptr;
+  if (!changed && !present) return false;
+  try {
+    return !writeFileAtomically(fileName, changed ? writeModelText(*changed) : *present,
+                                ReadOnlyFile::Replace);
+  } catch (const Json::exception&) {
+    return false;
+  }
+}
+
 bool UnitCore::writeContent(ModelText& content, Problem& problem) {
   const std::string path = fullFileName();
   const Result<std::string> present = readFile(path, ModelFileLimit);

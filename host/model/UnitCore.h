@@ -126,6 +126,8 @@ class UnitCore {
   /// Writes the content when it differs from the file. False, with the reason, when that is refused
   /// or fails; the file is then as it was.
   [[nodiscard]] bool save(Problem& problem);
+  /// Writes the content as it stands in the model to another file. The unit does not change.
+  [[nodiscard]] bool saveCopy(const std::string& fileName);
 
   /// Where the project keeps the unit; for the project's use.
   std::size_t place() const { return m_place; }

@@ -53,6 +53,7 @@ class UnitOf : public Interface, public UnitCore {
   std::string getPersistAsDirectory() const override { return record().folder->path; }
   std::string getRecordedFileName() const override { return record().fileName; }
   std::string getComputedFileName() const override { return computedFileName(); }
+  bool saveUnitToFile(const std::string& fileName) override { return saveCopy(fileName); }
   void setFileName(const std::string& fileName) override { UnitCore::setFileName(fileName); }
   bool _approveCMRename(const std::string& fileName) override { return approveRename(fileName); }
   bool ownerForbidsRename() const override { return false; }

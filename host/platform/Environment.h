@@ -40,9 +40,11 @@ class Environment : public IEnvironment {
   std::string omGetCurrentUser() override;
 
   bool omFileExist(const std::string& path) override;
+  bool omFileExistsAndNonEmpty(const std::string& path) override;
   bool omFileHasWritePermission(const std::string& path) override;
   bool isDirectory(const std::string& path, bool& exists) override;
   std::string omGetFullPathOfDirectory(const std::string& path, std::string& errorText) override;
+  bool createDirectory(const std::string& path) override;
   bool setCurrentDirectory(const std::string& path) override;
   std::string omGetErrorCodeString() override;
 

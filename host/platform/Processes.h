@@ -61,6 +61,9 @@ class Processes : public IProcesses {
   std::unique_ptr<RunThread> createRunThreadRedirect(const std::string& command,
                                                      IOutputFile* file) override;
 
+  /// The program is looked up as for `createRunThread`. Its parent is the system.
+  bool startDetached(const std::string& command) override;
+
   /// Variables for every child that starts from now on, in place of those of the last call.
   void setChildEnvironment(std::map<std::string, std::string> variables);
   /// A child that prints more than this is ended, with an error line that says so. In bytes.

@@ -15,6 +15,14 @@ void setVariable(const char* name, const char* value);
 /// The file that a program's name starts, as child processes look it up; empty when there is none.
 [[nodiscard]] std::string locateProgram(const std::string& name);
 
+/// The folder of the running program's file; empty when the system does not tell.
+[[nodiscard]] std::string programFolder();
+
+/// Adds the program's own folder at the end of PATH, so that this program and what it starts find
+/// the programs beside it. Whatever the user has on PATH comes first. Only before other threads
+/// run.
+void addOwnFolderToPath();
+
 /// Whether this user may make files in the folder.
 [[nodiscard]] bool canWriteInto(const std::string& folder);
 

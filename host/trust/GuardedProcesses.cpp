@@ -27,4 +27,9 @@ std::unique_ptr<RunThread> GuardedProcesses::createRunThreadRedirect(const std::
   return m_processes.createRunThreadRedirect(command, file);
 }
 
+bool GuardedProcesses::startDetached(const std::string& command) {
+  // The host's own tools are started this way; no project has a say in the command.
+  return m_processes.startDetached(command);
+}
+
 }  // namespace veldra::host

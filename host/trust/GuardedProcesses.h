@@ -23,6 +23,7 @@ class GuardedProcesses : public IProcesses {
   std::unique_ptr<IOutputFile> createOutputFile(const std::string& fileName) override;
   std::unique_ptr<RunThread> createRunThreadRedirect(const std::string& command,
                                                      IOutputFile* file) override;
+  bool startDetached(const std::string& command) override;
 
  private:
   IProcesses& m_processes;

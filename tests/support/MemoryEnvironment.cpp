@@ -37,11 +37,13 @@ std::string MemoryEnvironment::omGetFullPathOfDirectory(const std::string& path,
 }
 
 bool MemoryEnvironment::setCurrentDirectory(const std::string& path) {
-  if (!m_files.isDirectory(path) || path == unenterableDirectory) {
+  if ((path != ".." && !m_files.isDirectory(path)) || path == unenterableDirectory) {
     m_lastError = "no such directory";
     return false;
   }
-  currentDirectory = path;
+  // The parent counts only as a step back, as tests ask for it.
+  currentDirectory = path == ".." ? MemoryFiles::directoryOf(currentDirectory) : path;
+  m_files.enter(currentDirectory);
   return true;
 }
 

@@ -35,6 +35,14 @@ class MemoryEnvironment : public IEnvironment {
   std::string omGetCurrentDate() override { return date; }
   std::string omGetCurrentUser() override { return user; }
   bool omFileExist(const std::string& path) override { return m_files.find(path) != nullptr; }
+  bool omFileExistsAndNonEmpty(const std::string& path) override {
+    const MemoryFiles::File* const file = m_files.find(path);
+    return file != nullptr && !file->content.empty();
+  }
+  bool createDirectory(const std::string& path) override {
+    if (!diskFull) m_files.makeDirectory(path);
+    return !diskFull;
+  }
   bool omFileHasWritePermission(const std::string& path) override;
   bool isDirectory(const std::string& path, bool& exists) override;
   std::string omGetFullPathOfDirectory(const std::string& path, std::string& errorText) override;

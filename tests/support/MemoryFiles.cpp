@@ -3,8 +3,10 @@
 namespace veldra::test {
 
 void MemoryFiles::write(const std::string& path, std::string content, bool writable) {
-  m_files[path] = {std::move(content), writable};
-  makeDirectory(directoryOf(path));
+  const bool isBare = directoryOf(path).empty() && !m_current.empty();
+  const std::string full = isBare ? m_current + '/' + path : path;
+  m_files[full] = {std::move(content), writable};
+  makeDirectory(directoryOf(full));
 }
 
 bool MemoryFiles::move(const std::string& from, const std::string& to) {

@@ -20,6 +20,8 @@ class MemoryFiles {
   /// False when there is no such file, or one of the new name.
   bool move(const std::string& from, const std::string& to);
   void makeDirectory(const std::string& path);
+  /// Names without a directory are meant in this one from now on.
+  void enter(const std::string& path) { m_current = path; }
 
   /// Null when there is no such file. The pointer lives until the file is removed.
   File* find(const std::string& path);
@@ -33,6 +35,7 @@ class MemoryFiles {
  private:
   std::map<std::string, File> m_files;
   std::set<std::string> m_directories;
+  std::string m_current;
 };
 
 }  // namespace veldra::test

@@ -81,6 +81,13 @@ class MemoryUnitOf : public MemoryObject<Interface> {
   std::string getComputedFileName() const override {
     return record.computedFileName.empty() ? record.fileName : record.computedFileName;
   }
+  bool saveUnitToFile(const std::string& fileName) override {
+    const MemoryFiles::File* const file = m_files->find(getFullFileName());
+    m_journal->add("save " + record.fileName + " to " + fileName);
+    if (file == nullptr) return false;
+    m_files->write(fileName, file->content, true);
+    return true;
+  }
   void setFileName(const std::string& fileName) override {
     m_journal->add("rename " + record.fileName + " to " + fileName);
     record.fileName = fileName;

@@ -46,6 +46,8 @@ class ScriptedProcesses : public IProcesses {
   std::vector<CommandRun> runs;
   std::vector<std::string> outputFiles;
   bool outputFilesFail = false;
+  std::vector<std::string> detached;  ///< Commands that were started and left alone.
+  bool detachedFail = false;
   int liveRunners = 0;
 
   std::vector<std::string> commands() const;
@@ -54,6 +56,10 @@ class ScriptedProcesses : public IProcesses {
   std::unique_ptr<IOutputFile> createOutputFile(const std::string& fileName) override;
   std::unique_ptr<RunThread> createRunThreadRedirect(const std::string& command,
                                                      IOutputFile* file) override;
+  bool startDetached(const std::string& command) override {
+    if (!detachedFail) detached.push_back(command);
+    return !detachedFail;
+  }
 
  private:
   std::unique_ptr<RunThread> create(const std::string& command, std::string* redirectedTo,

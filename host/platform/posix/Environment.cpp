@@ -128,6 +128,11 @@ bool Environment::omFileExist(const std::string& path) {
   return statusOf(path, status);
 }
 
+bool Environment::omFileExistsAndNonEmpty(const std::string& path) {
+  struct stat status {};
+  return statusOf(path, status) && S_ISREG(status.st_mode) && status.st_size > 0;
+}
+
 bool Environment::omFileHasWritePermission(const std::string& path) {
   struct stat status {};
   return statusOf(path, status) && (status.st_mode & S_IWUSR) != 0;
@@ -157,6 +162,16 @@ std::string Environment::omGetFullPathOfDirectory(const std::string& path, std::
   const std::string name = path.empty() ? "The current directory" : "The directory '" + path + "'";
   errorText = name + " cannot be used: " + systemErrorText(m_lastError) + ".";
   return {};
+}
+
+bool Environment::createDirectory(const std::string& path) {
+  if (!cannotBeNamed(path) && ::mkdir(path.c_str(), S_IRWXU) == 0) return true;
+  m_lastError = cannotBeNamed(path) ? EINVAL : errno;
+  if (m_lastError != EEXIST) return false;
+  // The name can be guessed; what somebody else has put there is not used, nor a link of his.
+  struct stat status {};
+  return ::lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
+         status.st_uid == ::geteuid();
 }
 
 bool Environment::setCurrentDirectory(const std::string& path) {

@@ -2,15 +2,15 @@
 #include <filesystem>
 
 #include "host/platform/Environment.h"
+#include "host/platform/Program.h"
 
 namespace veldra::host {
 
 std::string findInstallationRoot() {
   if (const char* root = std::getenv("VELDRA_ROOT"); root != nullptr && *root != '\0') return root;
-  std::error_code error;
-  const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-  if (error) return {};
-  return (program.parent_path().parent_path() / "share" / "veldra-cm").string();
+  const std::filesystem::path folder = programFolder();
+  if (folder.empty()) return {};
+  return (folder.parent_path() / "share" / "veldra-cm").string();
 }
 
 }  // namespace veldra::host

@@ -5,6 +5,8 @@
 #include <stdlib.h>
 #include <unistd.h>
 
+#include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <string>
 
@@ -31,6 +33,19 @@ void setVariable(const char* name, const char* value) {
 std::string locateProgram(const std::string& name) {
   const Result<std::string> found = findProgram(name);
   return found ? *found : std::string();
+}
+
+std::string programFolder() {
+  std::error_code error;
+  const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+  return error ? std::string() : program.parent_path().string();
+}
+
+void addOwnFolderToPath() {
+  const std::string folder = programFolder();
+  const char* const path = std::getenv("PATH");
+  if (folder.empty()) return;
+  setVariable("PATH", path == nullptr ? folder.c_str() : (path + (":" + folder)).c_str());
 }
 
 bool canWriteInto(const std::string& folder) {

@@ -20,6 +20,20 @@ std::string locateProgram(const std::string& name) {
   return length > 0 && length < MAX_PATH ? std::string(path, length) : std::string();
 }
 
+std::string programFolder() {
+  char path[MAX_PATH] = {};
+  const DWORD length = GetModuleFileNameA(nullptr, path, MAX_PATH);
+  const std::string name(path, length < MAX_PATH ? length : 0);
+  return name.substr(0, name.find_last_of('\\') == std::string::npos ? 0 : name.find_last_of('\\'));
+}
+
+void addOwnFolderToPath() {
+  const std::string folder = programFolder();
+  const char* const path = getenv("PATH");
+  if (folder.empty()) return;
+  setVariable("PATH", path == nullptr ? folder.c_str() : (path + (";" + folder)).c_str());
+}
+
 bool canWriteInto(const std::string& folder) {
   return _access(folder.c_str(), 2) == 0;
 }
