@@ -186,6 +186,10 @@ const std::string& ReferenceHost::installationRoot() const {
   return m_parts->root;
 }
 
+const MessageCatalogue& ReferenceHost::catalogue() const {
+  return m_parts->catalogue;
+}
+
 CommandTrust& ReferenceHost::trust() {
   return m_parts->trustedCommands;
 }

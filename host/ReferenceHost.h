@@ -15,6 +15,7 @@
 #include "host/model/PropertyLayers.h"
 #include "host/platform/Processes.h"
 #include "host/platform/TraceLog.h"
+#include "host/resources/MessageCatalogue.h"
 #include "host/trust/CommandTrust.h"
 
 namespace veldra::host {
@@ -63,6 +64,8 @@ class ReferenceHost : public Host {
   /// What was wrong with settings, tool packs, message files and the trace log.
   const Problems& problems() const;
   const std::string& installationRoot() const;
+  /// The texts in the user's language.
+  const MessageCatalogue& catalogue() const;
   /// What the open project brings to be run, and whether the user has trusted it. As long as he has
   /// not, `processes` starts nothing and says so.
   CommandTrust& trust();

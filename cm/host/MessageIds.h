@@ -108,5 +108,7 @@ inline constexpr int StubNotCompared = 60652;            ///< Name, type name.
 inline constexpr int ControlledFileNotCompared = 60653;  ///< What such files are called.
 inline constexpr int SideNotMade = 60654;                ///< Directory.
 inline constexpr int SideNotWritten = 60655;             ///< Unit's name, directory.
+inline constexpr int NewestVersionCompared = 60656;      ///< Label.
+inline constexpr int VersionNotFetched = 60657;          ///< Unit's name.
 
 }  // namespace veldra::MessageId

@@ -175,7 +175,6 @@ void CCMDialog::OnInitDialog() {
   }
   const CommandWindows& windows = commandWindows();
   m_panel->setAvailable(DialogCommand::ListArchive, windows.listArchive != nullptr);
-  m_panel->setAvailable(DialogCommand::Compare, windows.compare != nullptr);
   m_panel->setAvailable(DialogCommand::Synchronize, windows.synchronize != nullptr);
   addColumns();
   {

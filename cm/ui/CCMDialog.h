@@ -34,7 +34,6 @@ struct WorkspaceData;
 /// a button whose window is missing stays disabled.
 struct CommandWindows {
   std::function<void(CCMDialog&)> listArchive;
-  std::function<void(CCMDialog&)> compare;
   std::function<void(CCMDialog&)> synchronize;
 };
 

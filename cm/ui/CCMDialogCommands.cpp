@@ -11,6 +11,7 @@
 #include "cm/ui/logic/StatusRefresh.h"
 #include "cm/ui/logic/UserDefinedCommand.h"
 #include "cm/ui/logic/ViewState.h"
+#include "cm/ui/logic/compare/UnitComparison.h"
 #include "cm/ui/widgets/ButtonPanel.h"
 #include "cm/ui/widgets/FailureStrip.h"
 #include "cm/ui/widgets/HeldInput.h"
@@ -64,7 +65,8 @@ void CCMDialog::runPressed(DialogCommand command) {
     case DialogCommand::ListArchive:
       return call(commandWindows().listArchive, *this);
     case DialogCommand::Compare:
-      return call(commandWindows().compare, *this);
+      UnitComparison(*this).OnVddiff();
+      return;
     case DialogCommand::Synchronize:
       return call(commandWindows().synchronize, *this);
     case DialogCommand::RefreshStatus:

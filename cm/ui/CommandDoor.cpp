@@ -4,6 +4,7 @@
 #include "cm/ui/logic/ButtonRules.h"
 #include "cm/ui/logic/CommandRun.h"
 #include "cm/ui/logic/UserDefinedCommand.h"
+#include "cm/ui/logic/compare/UnitComparison.h"
 
 namespace veldra {
 
@@ -40,9 +41,10 @@ bool runCommandOn(int controlId, const UnitList& units, QWidget* parent) {
   for (const ButtonRow& button : buttonTable()) {
     if (button.controlId != controlId) continue;
     if (isUserCommand(button.command)) return UserDefinedCommand::run(button.command, units);
+    GivenUnits view(units, parent);
+    if (button.command == DialogCommand::Compare) return UnitComparison(view).OnVddiff();
     const CommandRow* const row = commandRow(button.command);
     if (row == nullptr) return false;
-    GivenUnits view(units, parent);
     return CommandRun(view).run(*row);
   }
   return false;

@@ -5,6 +5,7 @@
 #include "cm/ui/options/CCMCiInfoDlg.h"
 #include "cm/ui/options/CCMCoInfoDlg.h"
 #include "cm/ui/options/CCMConnectToArc.h"
+#include "cm/ui/options/CCMFetchDlg.h"
 #include "cm/ui/options/CCMLockInfoDlg.h"
 #include "cm/ui/options/CCMSccInfoDlg.h"
 
@@ -22,6 +23,8 @@ std::unique_ptr<OptionDialog> makeWindow(const OptionPresets& presets, QWidget* 
       return std::make_unique<CCMLockInfoDlg>(presets, parent);
     case OptionWindow::Connect:
       return std::make_unique<CCMConnectToArc>(parent);
+    case OptionWindow::Compare:
+      return std::make_unique<CCMFetchDlg>(presets, parent);
     default:
       return std::make_unique<CCMSccInfoDlg>(presets, parent);
   }

@@ -19,6 +19,8 @@ std::span<const Command> commandTable() {
       {"fetch", "Get the archived revision of units, read-only", Units | Recursive | Label,
        runFetch},
       {"history", "Show the revisions of units", Units | Recursive | Label, runHistory},
+      {"compare", "Show what differs between a unit and its versions in the archive", Comparing,
+       runCompare},
       {"delete", "Delete units from the archive, the model and the disk",
        NamedUnits | Recursive | Comment, runDelete},
       {"move", "Move units to another package, which is named last", NamedUnits | Comment, runMove},

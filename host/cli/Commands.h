@@ -42,6 +42,7 @@ ExitCode runLock(const Invocation& invocation);
 ExitCode runUnlock(const Invocation& invocation);
 ExitCode runFetch(const Invocation& invocation);
 ExitCode runHistory(const Invocation& invocation);
+ExitCode runCompare(const Invocation& invocation);
 ExitCode runDelete(const Invocation& invocation);
 ExitCode runMove(const Invocation& invocation);
 ExitCode runRename(const Invocation& invocation);

@@ -66,6 +66,11 @@ std::span<const OptionRow> optionTable() {
        true},
       {Running, "units", "UNIT", "Files, or names such as Package::Unit", &Options::units},
 
+      {Comparing, "unit", "UNIT", "A file, or a name such as Package::Unit", &Options::unit, true},
+      {Comparing, "-l,--label", "LABEL",
+       "Compare with this version instead of the newest; given twice: compare the two versions",
+       &Options::labels},
+
       {Doctor, "--tool", "TOOL", "The tool pack to look at; otherwise that of the project",
        &Options::tool},
 

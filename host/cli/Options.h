@@ -42,6 +42,8 @@ struct Options {
   bool forUser = false;
   bool forMachine = false;
 
+  std::vector<std::string> labels;
+
   bool list = false;
   bool yes = false;
 };
@@ -68,6 +70,7 @@ inline constexpr unsigned Recursive = 0x10000;
 inline constexpr unsigned NamedUnits = 0x20000;  ///< Units that have to be named one by one.
 inline constexpr unsigned NewName = 0x40000;
 inline constexpr unsigned Provider = 0x80000;
+inline constexpr unsigned Comparing = 0x100000;
 }  // namespace OptionSet
 
 /// One option or positional argument.

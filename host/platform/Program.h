@@ -26,6 +26,9 @@ void addOwnFolderToPath();
 /// Whether this user may make files in the folder.
 [[nodiscard]] bool canWriteInto(const std::string& folder);
 
+/// Whether the file or folder itself, not what it may link to, is this user's own.
+[[nodiscard]] bool belongsToUser(const std::string& path);
+
 /// The number of this process.
 [[nodiscard]] long processNumber();
 

@@ -1,6 +1,8 @@
 #include "host/platform/StaleFiles.h"
 
+#include <algorithm>
 #include <charconv>
+#include <chrono>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
@@ -24,6 +26,31 @@ long ownerOf(std::string_view name) {
   return error == std::errc() && stop == end && *end == '-' && process > 0 ? process : 0;
 }
 
+/// "_tmp2026_325_16_05_23_1": the date, the time and the side of a comparison.
+bool isComparisonSide(std::string_view name) {
+  constexpr std::string_view Pattern = "_tmp0000_000_00_00_00_0";
+  return name.size() == Pattern.size() && (name.back() == '1' || name.back() == '2') &&
+         std::ranges::equal(name, Pattern, [](char c, char wanted) {
+           return wanted == '0' ? c >= '0' && c <= '9' : c == wanted;
+         });
+}
+
+/// A tool may still read what is younger.
+bool isOldSide(const std::filesystem::directory_entry& entry) {
+  if (!isComparisonSide(entry.path().filename().native())) return false;
+  std::error_code unknown;
+  const auto written = entry.last_write_time(unknown);
+  return !unknown &&
+         entry.symlink_status(unknown).type() == std::filesystem::file_type::directory &&
+         written < std::filesystem::file_time_type::clock::now() - std::chrono::weeks(1) &&
+         belongsToUser(entry.path().string());
+}
+
+bool isStale(const std::filesystem::directory_entry& entry) {
+  const long process = ownerOf(entry.path().filename().native());
+  return process != 0 ? !isProcessAlive(process) : isOldSide(entry);
+}
+
 }  // namespace
 
 std::size_t removeStaleTempFiles(const std::string& directory) {
@@ -31,8 +58,7 @@ std::size_t removeStaleTempFiles(const std::string& directory) {
   std::error_code error;
   for (std::filesystem::directory_iterator at(directory, error), end; !error && at != end;
        at.increment(error)) {
-    const long process = ownerOf(at->path().filename().native());
-    if (process == 0 || isProcessAlive(process)) continue;
+    if (!isStale(*at)) continue;
     std::error_code refused;
     if (std::filesystem::remove_all(at->path(), refused) > 0 && !refused) ++removed;
   }

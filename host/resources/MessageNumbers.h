@@ -22,4 +22,13 @@ inline constexpr int NotInArchive = 60120;
 inline constexpr int NoUserName = 60121;
 inline constexpr int NotPermitted = 60122;
 
+// What comparisons print.
+inline constexpr int CompareKinds = 60700;   ///< Added, removed, moved, changed.
+inline constexpr int CompareStates = 60704;  ///< Same, different, first, second, unreadable.
+inline constexpr int CompareMove = 60709;    ///< From, to.
+inline constexpr int CompareChange = 60710;  ///< Attribute, value before, value after.
+inline constexpr int CompareNone = 60711;
+inline constexpr int CompareBinary = 60712;
+inline constexpr int CompareSame = 60713;
+
 }  // namespace veldra::host::MessageNumber

@@ -1,8 +1,18 @@
-# fetch.sh UNITS [LABEL]: merges what is new in the archive into the files, or brings the revision that
-# a label names: a tag or a number.
+# fetch.sh UNITS [--to=FILE] [LABEL]: merges what is new in the archive into the files, or brings the
+# revision that a label names: a tag or a number. With --to the revision of a single unit goes there,
+# and nothing here changes.
 . "${0%/*}/common.sh"
 
-units=$1 wanted=${2:-}
+units=$1
+shift
+to=
+case ${1:-} in
+  --to=*)
+    to=${1#--to=}
+    shift
+    ;;
+esac
+wanted=${1:-}
 
 # has_revision FILE: cvs itself would remove a file that lacks the tag.
 has_revision() {
@@ -13,6 +23,21 @@ has_revision() {
 }
 
 open_folder
+if [ -n "$to" ]; then
+  file=$(relative "$units")
+  [ -z "$wanted" ] || has_revision "$file" ||
+    fail "There is no label or revision '$wanted' of '$file' in the archive."
+  # Without a tag: the newest revision, whatever the folder holds.
+  sticky=-A
+  [ -z "$wanted" ] || sticky=-r$wanted
+  cvs update -p "$sticky" -- "$file" >"$to" 2>"$to.errors" || {
+    cat "$to.errors" >&2
+    rm -f -- "$to" "$to.errors"
+    exit 1
+  }
+  rm -f -- "$to.errors"
+  exit
+fi
 if [ -z "$wanted" ]; then
   bring_newest "$units"
   exit

@@ -1,9 +1,19 @@
-# fetch.sh UNITS [LABEL]: brings the whole folder to the newest state, or these files alone to that
-# of a label: a tag, a commit, or a version as the listing shows it.
+# fetch.sh UNITS [--to=FILE] [LABEL]: brings the whole folder to the newest state, or these files alone
+# to that of a label: a tag, a commit, or a version as the listing shows it. With --to the state of a
+# single unit goes there, and nothing here changes.
 . "${0%/*}/common.sh"
 . "${0%/*}/newest.sh"
 
-units=$1 wanted=${2:-}
+units=$1
+shift
+to=
+case ${1:-} in
+  --to=*)
+    to=${1#--to=}
+    shift
+    ;;
+esac
+wanted=${1:-}
 
 # content_of FILE: the object with its content in the wanted state.
 content_of() {
@@ -26,7 +36,12 @@ fetch_label() {
 
 open_repository
 receive || give_up
-if [ -z "$wanted" ]; then
+if [ -n "$to" ]; then
+  [ -z "$remote" ] || [ -z "$wanted" ] || run git fetch -q --tags "$remote" || give_up
+  wanted=${wanted:-$tip}
+  object=$(content_of "$units") || exit
+  git cat-file --filters --path="$(relative "$units")" "$object" >"$to"
+elif [ -z "$wanted" ]; then
   bring_newest
   in_archive "$units"
   restore "$units"

@@ -1,9 +1,19 @@
-# fetch.sh UNITS [LABEL]: brings the whole folder to the newest state, or these files alone to that
-# of a label: a tag or any other name of a commit.
+# fetch.sh UNITS [--to=FILE] [LABEL]: brings the whole folder to the newest state, or these files alone
+# to that of a label: a tag or any other name of a commit. With --to the state of a single unit goes
+# there, and nothing here changes.
 . "${0%/*}/common.sh"
 . "${0%/*}/newest.sh"
 
-units=$1 wanted=${2:-}
+units=$1
+shift
+to=
+case ${1:-} in
+  --to=*)
+    to=${1#--to=}
+    shift
+    ;;
+esac
+wanted=${1:-}
 
 # fetch_label FILE
 fetch_label() {
@@ -17,7 +27,9 @@ fetch_label() {
 
 open_repository
 receive || give_up
-if [ -z "$wanted" ]; then
+if [ -n "$to" ]; then
+  hg cat -r "${wanted:-${tip:-$base}}" -- "$(pwd -P)/$(relative "$units")" >"$to"
+elif [ -z "$wanted" ]; then
   bring_newest
   restore "$units"
   in_archive "$units"

@@ -1,11 +1,26 @@
-# fetch.sh UNITS [LABEL]: brings the newest revision, or that of a label: a number, a date in braces, or
-# the name of one. Local changes are merged, never overwritten.
+# fetch.sh UNITS [--to=FILE] [LABEL]: brings the newest revision, or that of a label: a number, a date in
+# braces, or the name of one. Local changes are merged, never overwritten. With --to the revision of a
+# single unit goes there, and the file here is left alone.
 . "${0%/*}/common.sh"
 . "${0%/*}/labels.sh"
 
-name_targets "$1"
-revision=${2:-HEAD}
+units=$1
+shift
+to=
+case ${1:-} in
+  --to=*)
+    to=${1#--to=}
+    shift
+    ;;
+esac
+revision=${1:-HEAD}
+
 number=$(revision_of "$revision")
 [ -n "$number" ] || fail "There is no label or revision '$revision' in the archive."
+if [ -n "$to" ]; then
+  svn cat --revision "$number" -- "$units@" >"$to"
+  exit
+fi
+name_targets "$units"
 tr '\n' '\000' <"$targets" |
   xargs -0 sh "${0%/*}/svn.sh" update --parents --revision "$number" --

@@ -43,18 +43,6 @@ class UndoScope {
   Undoer* m_undoer;
 };
 
-/// Tells the view when units may not be looked at.
-class RunningScope {
- public:
-  RunningScope(CommandView& view, const CommandRow& row) : m_view(view) { view.commandStarts(row); }
-  RunningScope(const RunningScope&) = delete;
-  RunningScope& operator=(const RunningScope&) = delete;
-  ~RunningScope() { m_view.commandEnds(); }
-
- private:
-  CommandView& m_view;
-};
-
 void traceIfAny(const char* line) {
   if (*line != '\0') VELDRA_TRACE(line);
 }

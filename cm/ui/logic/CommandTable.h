@@ -46,7 +46,7 @@ enum class SelectionRule {
 };
 
 /// Which window asks for the options of a command.
-enum class OptionWindow { None, Provider, CheckIn, CheckOut, Lock, Connect, Question };
+enum class OptionWindow { None, Provider, CheckIn, CheckOut, Lock, Connect, Question, Compare };
 
 /// What a command is called with beside its units.
 namespace CallPart {

@@ -27,4 +27,16 @@ class CommandView {
   virtual void dropGoneUnits() = 0;
 };
 
+/// Tells the view when units may not be looked at.
+class RunningScope {
+ public:
+  RunningScope(CommandView& view, const CommandRow& row) : m_view(view) { view.commandStarts(row); }
+  RunningScope(const RunningScope&) = delete;
+  RunningScope& operator=(const RunningScope&) = delete;
+  ~RunningScope() { m_view.commandEnds(); }
+
+ private:
+  CommandView& m_view;
+};
+
 }  // namespace veldra

@@ -80,6 +80,10 @@ bool ProviderOptions::show(DialogCommand command) {
   });
 }
 
+bool opensProviderContext(IUnit& unit) {
+  return guardedly([&unit] { return contextOf(&unit) != nullptr; });
+}
+
 bool refreshCMStatus(const UnitList& units) {
   return guardedly([&units] {
     IUnit* const first = units.empty() ? nullptr : units.front();

@@ -14,6 +14,10 @@ class VELDRA_CM_EXPORT ProviderOptions {
   static bool show(DialogCommand command);
 };
 
+/// Whether the provider has a context for the unit, or opens one now. The user has been told when
+/// not.
+VELDRA_CM_EXPORT bool opensProviderContext(IUnit& unit);
+
 /// Reads the CM states of the units from the provider. False when there is no context; the user has
 /// been told.
 VELDRA_CM_EXPORT bool refreshCMStatus(const UnitList& units);

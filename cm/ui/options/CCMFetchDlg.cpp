@@ -6,8 +6,10 @@
 
 namespace veldra {
 
-CCMFetchDlg::CCMFetchDlg(QWidget* parent)
-    : OptionDialog(ControlId::FetchDialog, comparePresets(), parent),
+CCMFetchDlg::CCMFetchDlg(QWidget* parent) : CCMFetchDlg(comparePresets(), parent) {}
+
+CCMFetchDlg::CCMFetchDlg(const OptionPresets& presets, QWidget* parent)
+    : OptionDialog(ControlId::FetchDialog, presets, parent),
       m_version(addLine(ControlId::FetchLabel, tr("&Label or version:"))),
       m_descendants(addDescendants(ControlId::FetchDescendants)) {
   m_version->setPlaceholderText(tr("The latest version"));

@@ -10,6 +10,7 @@ class VELDRA_CM_UI_EXPORT CCMFetchDlg : public OptionDialog {
 
  public:
   explicit CCMFetchDlg(QWidget* parent = nullptr);
+  CCMFetchDlg(const OptionPresets& presets, QWidget* parent);
   /// `label` is the label or version.
   CommandOptions options() const override;
 

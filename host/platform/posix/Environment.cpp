@@ -12,6 +12,7 @@
 #include <filesystem>
 
 #include "host/platform/Clock.h"
+#include "host/platform/Program.h"
 #include "host/platform/SystemError.h"
 #include "host/platform/posix/FileDescriptor.h"
 #include "host/platform/posix/WriteFully.h"
@@ -169,9 +170,8 @@ bool Environment::createDirectory(const std::string& path) {
   m_lastError = cannotBeNamed(path) ? EINVAL : errno;
   if (m_lastError != EEXIST) return false;
   // The name can be guessed; what somebody else has put there is not used, nor a link of his.
-  struct stat status {};
-  return ::lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
-         status.st_uid == ::geteuid();
+  bool exists = false;
+  return belongsToUser(path) && isDirectory(path, exists);
 }
 
 bool Environment::setCurrentDirectory(const std::string& path) {

@@ -3,6 +3,7 @@
 #include <errno.h>
 #include <signal.h>
 #include <stdlib.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -50,6 +51,11 @@ void addOwnFolderToPath() {
 
 bool canWriteInto(const std::string& folder) {
   return access(folder.c_str(), W_OK | X_OK) == 0;
+}
+
+bool belongsToUser(const std::string& path) {
+  struct stat status {};
+  return lstat(path.c_str(), &status) == 0 && status.st_uid == geteuid();
 }
 
 long processNumber() {

@@ -38,6 +38,11 @@ bool canWriteInto(const std::string& folder) {
   return _access(folder.c_str(), 2) == 0;
 }
 
+bool belongsToUser(const std::string& path) {
+  // The folder for temporary files lies in the user's own profile.
+  return canWriteInto(path);
+}
+
 long processNumber() {
   return static_cast<long>(GetCurrentProcessId());
 }

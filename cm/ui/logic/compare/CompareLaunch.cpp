@@ -14,9 +14,13 @@ namespace {
 
 constexpr char Tool[] = "Tandel.exe";
 
-std::string sideDirectory(const std::tm& time, const char* pattern) {
+/// Without the number of the side at its end.
+std::string sideName() {
+  const std::time_t now = std::time(nullptr);
+  // The local time is asked on the user-interface thread alone.
+  const std::tm time = *std::localtime(&now);  // NOLINT(concurrency-mt-unsafe)
   std::array<char, 64> name{};
-  const std::size_t length = std::strftime(name.data(), name.size(), pattern, &time);
+  const std::size_t length = std::strftime(name.data(), name.size(), "_tmp%Y_%j_%H_%M_%S_", &time);
   return joinPath(omGetTempDir(), std::string_view(name.data(), length));
 }
 
@@ -46,11 +50,8 @@ bool isThere(const std::string& path, bool directory) {
 }  // namespace
 
 std::optional<ComparisonSides> makeComparisonSides() {
-  const std::time_t now = std::time(nullptr);
-  // The local time is asked on the user-interface thread alone.
-  const std::tm time = *std::localtime(&now);  // NOLINT(concurrency-mt-unsafe)
-  ComparisonSides sides{sideDirectory(time, "_tmp%Y_%j_%H_%M_%S_1"),
-                        sideDirectory(time, "_tmp%Y_%j_%H_%M_%S_2")};
+  const std::string name = sideName();
+  ComparisonSides sides{name + '1', name + '2'};
   if (!makeSide(sides.first) || !makeSide(sides.second)) return std::nullopt;
   return sides;
 }
