@@ -21,6 +21,7 @@ double subversionListing();
 double consumerAgainstLoop();
 double floodAgainstCat();
 double floodMemory();
+double comparisonAgainstDiff();
 
 /// Prints 200 MB on each of the two outputs, for the rows about floods.
 int printFlood();

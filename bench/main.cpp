@@ -43,6 +43,8 @@ constexpr auto Rows = std::to_array<Row>({
      1.5},
     {"flood: 200 MB on each output / cat through two pipes", floodAgainstCat, 1.5},
     {"flood-memory: bytes held / bytes printed", floodMemory, 3.0, true},
+    {"compare: two revisions of 50,000 elements / diff, and the parsing of both",
+     comparisonAgainstDiff, 2.0},
 });
 
 bool isWanted(std::string_view name, int argc, char** argv) {

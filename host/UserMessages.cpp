@@ -6,7 +6,7 @@
 #include <system_error>
 #include <utility>
 
-#include "host/model/PathNames.h"
+#include "host/model/StateFile.h"
 #include "host/platform/AtomicFile.h"
 
 namespace veldra::host {
@@ -25,13 +25,7 @@ int silentAnswer(int flags) {
 }  // namespace
 
 std::string standardSeenMessagesFile() {
-  std::string directory;
-  if (const char* state = std::getenv("XDG_STATE_HOME")) directory = state;
-  if (const char* home = std::getenv("HOME"); directory.empty() && home && *home) {
-    directory = joinPath(joinPath(home, ".local"), "state");
-  }
-  if (directory.empty()) return {};
-  return joinPath(joinPath(directory, "veldra-cm"), "seen-messages");
+  return stateFile("seen-messages");
 }
 
 SeenMessages::SeenMessages(std::string file) : m_file(std::move(file)) {}

@@ -19,13 +19,16 @@ constexpr char FetchContextLine[] = "Getting SCC Context to perform fetch";
 class SetAside {
  public:
   explicit SetAside(const std::string& file) : m_file(file), m_aside(file + "_temp") {
+    // What a process that was killed left aside comes back first.
+    if (!omFileExist(m_file) && omFileExist(m_aside)) environment().moveFile(m_aside, m_file);
     m_isThere = omFileExist(file);
     m_isAside = m_isThere && environment().moveFile(m_file, m_aside);
   }
   SetAside(const SetAside&) = delete;
   SetAside& operator=(const SetAside&) = delete;
   ~SetAside() {
-    if (!m_isAside) return;
+    // Somebody may have brought it back meanwhile; then there is nothing that may be removed.
+    if (!m_isAside || !omFileExist(m_aside)) return;
     environment().removeFile(m_file);
     environment().moveFile(m_aside, m_file);
   }
@@ -65,6 +68,9 @@ bool getFile(const std::string& file, void* context, UnitReport& report) {
 
 bool fetchBeside(const std::string& file, const std::string& target, const FetchToPlace& fetch,
                  UnitReport& report) {
+  // Whatever becomes of this process: there is a copy.
+  const KeptCopy kept(KeepRule::EveryFile, file, "Fetch for Comparison");
+  if (mustStay(kept, report)) return false;
   const SetAside aside(file);
   if (aside.isInTheWay()) return refuse(MessageId::FileNotMoved, file, report);
   if (!fetch(file, report)) return false;

@@ -29,6 +29,9 @@ struct Entry {
 constexpr std::array<std::string_view, 6> RecordFiles = {
     WorkingFilePrefix, ".git", ".hg", ".svn", ".cvs", ".#"};
 
+/// What a comparison adds to the name of a working file that it sets aside.
+constexpr std::string_view SetAsideEnding = "_temp";
+
 bool isRecordFile(const std::string& name) {
   return name.ends_with(",v") || std::ranges::any_of(RecordFiles, [&](std::string_view prefix) {
            return name.starts_with(prefix);
@@ -68,6 +71,7 @@ class Walk {
       m_scan.folders.pop_back();
       return;
     }
+    bringBack(pathOf(relative), entries);
     if (std::ranges::any_of(entries, isTemporary)) removeStaleTemporaries(pathOf(relative));
     for (const Entry& entry : entries) {
       if (!entry.isFolder) addFile(folder, relative, entry);
@@ -77,6 +81,19 @@ class Walk {
         addFolder(folder, joinPath(relative, entry.name), entry.isLink, depth + 1);
       }
     }
+  }
+
+  /// Unit files that a killed comparison left under another name.
+  void bringBack(const std::string& folder, std::vector<Entry>& entries) {
+    std::vector<std::string> missing;
+    for (const Entry& entry : entries) {
+      if (entry.isFolder || !entry.name.ends_with(SetAsideEnding)) continue;
+      const std::string name = entry.name.substr(0, entry.name.size() - SetAsideEnding.size());
+      if (m_types.ofFile(name) != nullptr) missing.push_back(name);
+    }
+    if (missing.empty() || restoreSetAside(folder, missing) == 0) return;
+    entries.clear();
+    list(folder, entries);
   }
 
   static bool isProjectOfItsOwn(const std::vector<Entry>& entries) {

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "host/platform/Result.h"
 
@@ -32,5 +33,10 @@ Result<std::string> readFile(const std::string& path, std::size_t limit);
 /// Removes the files that `writeFileAtomically` left in a directory when its process was killed.
 /// Those of processes that still live stay. Returns how many were removed.
 std::size_t removeStaleTemporaries(const std::string& directory);
+
+/// Gives files back the name that they had before a comparison set them aside as "NAME_temp" and
+/// was killed. Only those come back whose name is free and that have been aside for longer than any
+/// command runs. Returns how many.
+std::size_t restoreSetAside(const std::string& directory, const std::vector<std::string>& names);
 
 }  // namespace veldra::host

@@ -31,4 +31,25 @@ inline constexpr int CompareNone = 60711;
 inline constexpr int CompareBinary = 60712;
 inline constexpr int CompareSame = 60713;
 
+// The compare tool beside these.
+inline constexpr int MergeProjectUnknown = 60714;
+inline constexpr int MergeUnitUnknown = 60715;  ///< File's name.
+inline constexpr int TandelUsage = 60716;
+inline constexpr int FileAndFolder = 60717;      ///< The two.
+inline constexpr int OwnToolNotStarted = 60718;  ///< The user's command.
+inline constexpr int TandelTitle = 60719;        ///< The two names.
+inline constexpr int ControlledSide = 60720;     ///< Path.
+inline constexpr int TandelColumns = 60721;      ///< Take, difference, type, element, details.
+inline constexpr int TakesSide = 60726;          ///< First, second.
+inline constexpr int TandelActions = 60728;      ///< Six, in the order of the window's.
+inline constexpr int TandelTotals = 60734;       ///< How many there are, how many are taken.
+inline constexpr int SaveChoices = 60735;
+inline constexpr int OverwriteChanged = 60736;  ///< File.
+inline constexpr int MergeSaved = 60737;        ///< File.
+inline constexpr int NotMergedBack = 60738;
+inline constexpr int FilesList = 60739;
+inline constexpr int DifferencesList = 60740;
+inline constexpr int SideNames = 60741;         ///< First, second, for who cannot see them.
+inline constexpr int FolderUnreadable = 60743;  ///< File, or folder, as it was named.
+
 }  // namespace veldra::host::MessageNumber

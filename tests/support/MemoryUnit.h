@@ -173,6 +173,7 @@ class MemoryProject : public MemoryUnitOf<IProject> {
   void attachProperty(const std::string& subject, const std::string& metaclass,
                       std::unique_ptr<IProperty> property) override;
 
+  std::string getVdId() const override { return identifier; }
   std::string getProjectDirectory() const override { return record.directory; }
   std::string getUnitDirectory() const override { return unitDirectory; }
   std::string getFileExtension() const override { return ".vdy"; }
@@ -186,6 +187,7 @@ class MemoryProject : public MemoryUnitOf<IProject> {
   MemoryComponent component{"Component", "Component"};
   NamedObject<IConfiguration> configuration{"Configuration", "Configuration"};
   std::string unitDirectory;
+  std::string identifier = "Plant 7 of 9";
   bool hasComponent = true;
   bool hasConfiguration = true;
   bool showsStatus = false;

@@ -2,7 +2,6 @@
 #include <sstream>
 
 #include "cm/host/IPN.h"
-#include "cm/host/IUserMessages.h"
 #include "cm/host/MessageIds.h"
 #include "cm/tool/CommandText.h"
 #include "cm/ui/logic/compare/ComparedVersions.h"
@@ -75,7 +74,8 @@ void planComparison(const Invocation& invocation, IUnit& unit) {
   const std::vector<UnitTrace>& traces = session.progress().traces();
   if (reason.empty() && !traces.empty()) reason = failureOf(traces.back(), IPN::CMFetch);
   if (reason.empty()) reason = session.door().lastText();
-  if (reason.empty()) reason = formatMessage(MessageId::VersionNotFetched, {unit.getName()});
+  if (reason.empty())
+    reason = session.host().catalogue().format(MessageId::VersionNotFetched, {unit.getName()});
   throw CommandError(ExitCode::NothingDone, reason);
 }
 

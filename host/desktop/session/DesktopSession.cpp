@@ -5,6 +5,7 @@
 
 #include "cm/core/CMFacade.h"
 #include "host/desktop/Text.h"
+#include "host/model/RememberedProjects.h"
 
 namespace veldra::host::desktop {
 
@@ -36,6 +37,7 @@ HostOptions DesktopSession::complete(HostOptions options) {
 
 bool DesktopSession::open(const std::string& directoryOrFile) {
   const std::optional<std::string> failure = m_host->open(directoryOrFile);
+  if (!failure) rememberProject(project()->getVdId(), project()->getFullFileName());
   emit projectChanged();
   if (failure) {
     m_questions.ask({.text = shown(*failure), .icon = QMessageBox::Critical});

@@ -278,6 +278,18 @@ TEST_F(MemberOperationsSccTest, AComparisonThatFailsGivesTheWorkingFileBack) {
   EXPECT_FALSE(hasFile("/tmp/side2/A.vcl"));
 }
 
+TEST_F(MemberOperationsSccTest, WhatAKilledComparisonLeftAsideComesBack) {
+  CMTargetFile target("/tmp/side2/A.vcl");
+  m_arguments = {&target};
+  m_units = {&m_a};
+  m_host.files.move("/plan/A.vcl", "/plan/A.vcl_temp");
+  letGetWrite("/plan/A.vcl");
+  EXPECT_EQ(call(CMFacade::FetchForDiff), 1);
+  EXPECT_EQ(contentOf("/tmp/side2/A.vcl"), "archived");
+  EXPECT_EQ(contentOf("/plan/A.vcl"), "content of A.vcl");
+  EXPECT_FALSE(hasFile("/plan/A.vcl_temp"));
+}
+
 TEST_F(MemberOperationsSccTest, AComparisonIsRefusedWhereItWouldLoseChanges) {
   CMTargetFile target("/tmp/side2/A.vcl");
   m_units = {&m_a};
