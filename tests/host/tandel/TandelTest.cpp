@@ -177,6 +177,11 @@ TEST(PaneRows, PutWhatBelongsTogetherIntoOneRow) {
   const std::string second = TempModel::unitText(
       "Package", "P",
       R"("elements": [{"name": "a", "id": "a", "x": 2}, {"name": "c", "id": "c"}])");
+  const std::string shuffled = TempModel::unitText(
+      "Package", "P",
+      R"("elements": [{"name": "b", "id": "b"}, {"name": "a", "id": "a", "x": 1}])");
+  EXPECT_THAT(show(first, shuffled),
+              ElementsAre("Package P|Package P", "  a|  a", "      x: 1|      x: 1", "  b|  b"));
   EXPECT_THAT(show(first, second), ElementsAre("Package P|Package P", "  a|  a",
                                                "      x: 1*|      x: 2", "  b*|-", "-*|  c"));
 }
