@@ -66,6 +66,8 @@ CCMDialog::CCMDialog(QWidget* parent)
 
 CCMDialog::~CCMDialog() {
   std::erase(openDialogs(), this);
+  // Closing lays the views out once more, when what they show is gone already.
+  for (QTreeView* view : {m_tree, m_list}) view->setModel(nullptr);
 }
 
 void CCMDialog::DoPopupCmDialog(QWidget* parent) {

@@ -23,7 +23,7 @@ namespace veldra {
 class ButtonPanel;
 class CCMDialog;
 class FailureStrip;
-class HeldInput;
+class HeldWindow;
 class ProgressStrip;
 class UnitFilter;
 class UnitListModel;
@@ -152,7 +152,7 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public QDialog, private CommandView {
   QLabel* m_totals = nullptr;
   ProgressStrip* m_progress = nullptr;
   FailureStrip* m_failures = nullptr;
-  std::unique_ptr<HeldInput> m_heldInput;
+  std::unique_ptr<HeldWindow> m_heldInput;
 
   LiveUnits m_selection;
   std::vector<int> m_selectedRows;

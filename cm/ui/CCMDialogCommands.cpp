@@ -81,7 +81,7 @@ void CCMDialog::runPressed(DialogCommand command) {
 
 void CCMDialog::runUserCommand(DialogCommand command) {
   const UnitList units = CmSelectedItems();
-  const HeldInput held(*this);
+  const HeldWindow held(*this);
   m_data->isFrozen = true;
   UserDefinedCommand::run(command, units);
   m_data->isFrozen = false;
@@ -107,7 +107,7 @@ void CCMDialog::commandStarts(const CommandRow& row) {
   m_data->isFrozen = true;
   for (QTreeView* view : {m_tree, m_list}) view->viewport()->setUpdatesEnabled(false);
   m_panel->setCommandsEnabled(false);
-  m_heldInput = std::make_unique<HeldInput>(*this);
+  m_heldInput = std::make_unique<HeldWindow>(*this);
   m_progress->begin(shown(ButtonRules::caption(row.command)));
 }
 
