@@ -115,6 +115,10 @@ std::string CMArchiveItem::getFileNameForRepFiles() const {
   return joinPath(directory, m_fileNameWithPath);
 }
 
+IUnit* CMArchiveItem::getLoadedUnit() const {
+  return IUnit::getByFile(getFileNameForRepFiles());
+}
+
 std::string CMArchiveItem::getFullUnitFileName() const {
   const IUnit* const unit = IUnit::getByFile(m_fileNameWithPath);
   if (unit != nullptr && unit->isExternalUnitRecursive()) return m_fileNameWithPath;

@@ -6,6 +6,8 @@
 
 namespace veldra {
 
+class IUnit;
+
 /// One file as the archive knows it, whether or not the model has a unit for it.
 class VELDRA_CM_EXPORT CMArchiveItem {
  public:
@@ -32,6 +34,11 @@ class VELDRA_CM_EXPORT CMArchiveItem {
   const std::string& getLocker() const { return m_locker; }
   const std::string& getStatus() const { return m_status; }
   void setStatus(const std::string& text) { m_status = text; }
+  /// Whether a check-out from the archive loads the file into the model; at first it does.
+  bool staysOutOfModel() const { return m_staysOutOfModel; }
+  void setStaysOutOfModel(bool stays) { m_staysOutOfModel = stays; }
+  /// The loaded unit of the item's repository file, or null.
+  IUnit* getLoadedUnit() const;
 
   /// The path relative to the project's place in the archive.
   std::string getNameNShortPath(bool withSuffix) const;
@@ -48,6 +55,7 @@ class VELDRA_CM_EXPORT CMArchiveItem {
   Mode m_mode = ReadOnly;
   std::string m_locker;
   std::string m_status;
+  bool m_staysOutOfModel = false;
 };
 
 /// Modes as the list-archive operation stores them in its items. They are numbers of their own

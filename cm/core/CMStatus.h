@@ -13,6 +13,7 @@ inline constexpr std::int32_t Invalid = -1;
 inline constexpr std::int32_t Controlled = 0x1;
 inline constexpr std::int32_t CheckedOut = 0x2;  ///< By this user, into this folder.
 inline constexpr std::int32_t OutOther = 0x4;
+inline constexpr std::int32_t OutOfDate = 0x20;  ///< The archive has a newer version.
 inline constexpr std::int32_t Deleted = 0x40;
 inline constexpr std::int32_t OutByUser = 0x1000;  ///< By this user, into whichever folder.
 }  // namespace CMState

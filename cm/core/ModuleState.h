@@ -42,7 +42,8 @@ struct BackEndMemory {
 struct DialogMemory {
   std::string viewMode;
   std::int32_t sortColumn = 1;
-  std::map<int, std::string> unusedComments;  ///< By command.
+  std::map<std::string, std::int32_t> itemSortColumns;  ///< Of the lists of archive items.
+  std::map<int, std::string> unusedComments;            ///< By command.
 };
 
 /// Everything that the module remembers between calls. Only the host's user-interface thread uses
@@ -65,6 +66,8 @@ struct ModuleState {
 
   std::uint32_t checkoutGuards = 0;
   std::string rememberedAnswer;  ///< "yestoall", "notoall", "yes", "no", "cancel" or empty.
+
+  std::string partialLoadAnswer;  ///< The same, about loading units into the model.
 
   FacadeSlots slots;
   DialogMemory dialogs;

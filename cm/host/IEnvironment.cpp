@@ -59,6 +59,10 @@ bool omFileHasWritePermission(const std::string& path) {
   return ask(false, [&](IEnvironment& e) { return e.omFileHasWritePermission(path); });
 }
 
+std::optional<std::int64_t> omGetFileTime(const std::string& path) {
+  return ask(std::optional<std::int64_t>(), [&](IEnvironment& e) { return e.omGetFileTime(path); });
+}
+
 std::string omGetFullPathOfDirectory(const std::string& path, std::string& errorText) {
   return ask(std::string(),
              [&](IEnvironment& e) { return e.omGetFullPathOfDirectory(path, errorText); });

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 namespace veldra {
@@ -28,6 +30,12 @@ class IEnvironment {
   /// True when the file's owner may write it (the mode bit, or on Windows no read-only attribute);
   /// what the current user could do plays no part.
   virtual bool omFileHasWritePermission(const std::string& path) = 0;
+  /// When the content of a file was last written, in nanoseconds since 1970. Nothing for a file
+  /// that does not exist, and from a host that does not know.
+  virtual std::optional<std::int64_t> omGetFileTime(const std::string& path) {
+    (void)path;
+    return std::nullopt;
+  }
   /// True when the path names an existing directory; `exists` tells whether it names anything.
   virtual bool isDirectory(const std::string& path, bool& exists) = 0;
 
@@ -60,6 +68,7 @@ std::string omGetCurrentDate();
 std::string omGetCurrentUser();
 bool omFileExist(const std::string& path);
 bool omFileHasWritePermission(const std::string& path);
+std::optional<std::int64_t> omGetFileTime(const std::string& path);
 std::string omGetFullPathOfDirectory(const std::string& path, std::string& errorText);
 std::string omGetErrorCodeString();
 

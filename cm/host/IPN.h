@@ -51,6 +51,10 @@ inline constexpr char CMListArchiveItsVersion[] = "ListArchiveItsVersion";
 inline constexpr char CMListArchiveItsMode[] = "ListArchiveItsMode";
 inline constexpr char CMListArchiveItsLocker[] = "ListArchiveItsLocker";
 
+/// Lists the versions of the project's files here, in the form of the list-archive command, for a
+/// tool that leaves no version in the files.
+inline constexpr char WorkspaceVersions[] = "WorkspaceVersions";
+
 // Patterns that read the header which the tool expands in a unit's file, and the file that holds
 // the header of a new unit.
 inline constexpr char CMHeaderFile[] = "CMHeaderFile";

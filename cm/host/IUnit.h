@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -79,6 +80,10 @@ class IUnit : public IDObject {
   virtual bool _approveCMRename(const std::string& fileName) = 0;
   /// True when the owning unit objects to another file name.
   virtual bool ownerForbidsRename() const = 0;
+
+  /// When the file was last written at the time the host last read or wrote it, as
+  /// `IEnvironment::omGetFileTime` tells it. Nothing in a host that does not keep it.
+  virtual std::optional<std::int64_t> getFileTime() const { return std::nullopt; }
 
   // --- CM header, mode and state ---
   /// The text in which the CM tool expands its keywords; empty when the unit has none.

@@ -52,6 +52,14 @@ class IUserMessages {
   /// "cancel". A host that cannot ask answers "no": nothing is overwritten.
   virtual std::string askOverwrite(const std::string& text) = 0;
 
+  /// Asks whether a unit that the model does not have yet is to be loaded into it; the name stands
+  /// in a field of its own. The same answers; a host that cannot ask loads nothing.
+  virtual std::string askPartialLoad(const std::string& text, const std::string& unitName) {
+    (void)text;
+    (void)unitName;
+    return "no";
+  }
+
   /// Asks for a short text, for example the activity or the task that the following check-outs
   /// belong to. `proposals` are texts to choose from, the likeliest first; the user may type
   /// another one. Nothing when the user gives up or the host cannot ask.

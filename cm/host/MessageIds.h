@@ -101,4 +101,28 @@ inline constexpr int OptionTitleOfCommand =
     60530;  ///< The same by command: fetch, check out, undo, check in, add.
 inline constexpr int ConnectWithoutArchive = 60535;
 
+// What the archive browser and the synchronize dialog say.
+inline constexpr int SyncNewInArchive = 60600;  ///< How an item stands to its unit.
+inline constexpr int SyncArchiveAhead = 60601;
+inline constexpr int SyncChangedHere = 60602;
+inline constexpr int SyncColumnHeader = 60603;     ///< One text per column, up to 60607.
+inline constexpr int ArchiveColumnHeader = 60608;  ///< The same, up to 60611.
+inline constexpr int TimeStampsForProvider = 60612;
+inline constexpr int TimeStampsForBranches = 60613;
+inline constexpr int NothingLeftToSynchronize = 60614;
+inline constexpr int SyncCheckOutFailed = 60615;
+inline constexpr int SyncLoadFailed = 60616;
+inline constexpr int NoItemSelected = 60617;
+inline constexpr int SelectOneItem = 60618;
+inline constexpr int ArchiveCheckOutFailed = 60619;
+inline constexpr int ArchiveFetchFailed = 60620;
+inline constexpr int OverwriteChanges = 60621;  ///< Item.
+inline constexpr int LoadCheckedOutUnit = 60622;
+inline constexpr int LoadFetchedUnit = 60623;
+inline constexpr int ItemNotLoaded = 60624;  ///< Item.
+inline constexpr int SyncComparesTimes = 60625;
+inline constexpr int ArchiveTitle = 60626;       ///< Archive.
+inline constexpr int ItemButtonCaption = 60630;  ///< In the order of `ItemButton`, up to 60636.
+inline constexpr int ItemButtonTooltip = 60640;  ///< The same, up to 60646.
+
 }  // namespace veldra::MessageId

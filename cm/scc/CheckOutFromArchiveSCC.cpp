@@ -54,7 +54,7 @@ bool ItemCheckOut::checkOut(const CMArchiveItem& item, UnitReport& report) {
 bool ItemCheckOut::load(const CMArchiveItem& item, const std::string& file,
                         UnitReport& report) const {
   // Nothing in the model is made of files of an unknown type.
-  if (item.getType().empty()) return true;
+  if (item.getType().empty() || item.staysOutOfModel()) return true;
   IUnit* const unit = loadTraced(item, file, report);
   if (unit == nullptr) return false;
   updateUnit(*unit, {.modeLine = UnitUpdate::CMMode, .statusLine = UnitUpdate::Status},

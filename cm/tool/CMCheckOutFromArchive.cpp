@@ -43,6 +43,7 @@ std::string fileToLoad(const ItemRun& run) {
 void CMCheckOutFromArchive::after(ItemRun& run) const {
   if (run.item.getType().empty()) return;
   completeHandler(run);
+  if (run.item.staysOutOfModel()) return;
   const std::string name = fileToLoad(run);
   VELDRA_TRACE("Performing ATM for the file ", name);
   if (loadItem(run.item, name) != nullptr) return;

@@ -39,7 +39,7 @@ std::unordered_set<const CMArchiveItem*> refused(const CMArchiveItemList& items,
 /// The question concerns the loaded unit of the item's file; an item without one is never asked
 /// about.
 bool mayOverwrite(const CMArchiveItem& item, const OverwriteQuestion& question) {
-  const IUnit* const unit = IUnit::getByFile(item.getFileNameForRepFiles());
+  const IUnit* const unit = item.getLoadedUnit();
   return unit == nullptr || question.allows(*unit);
 }
 

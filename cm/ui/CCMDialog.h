@@ -1,16 +1,14 @@
 #pragma once
 
-#include <QDialog>
-#include <QPointer>
 #include <functional>
 #include <string>
 #include <vector>
 
-#include "cm/host/IProgress.h"
 #include "cm/ui/ControlIds.h"
 #include "cm/ui/Export.h"
 #include "cm/ui/logic/CommandView.h"
 #include "cm/ui/logic/LiveUnits.h"
+#include "cm/ui/widgets/CommandWindow.h"
 
 class QItemSelection;
 class QLabel;
@@ -22,9 +20,6 @@ namespace veldra {
 
 class ButtonPanel;
 class CCMDialog;
-class FailureStrip;
-class HeldWindow;
-class ProgressStrip;
 class UnitFilter;
 class UnitListModel;
 class UnitTreeModel;
@@ -33,9 +28,7 @@ struct WorkspaceData;
 /// Windows that the main dialog opens but that are no part of it. Whoever has them puts them here;
 /// a button whose window is missing stays disabled.
 struct CommandWindows {
-  std::function<void(CCMDialog&)> listArchive;
   std::function<void(CCMDialog&)> compare;
-  std::function<void(CCMDialog&)> synchronize;
 };
 
 /// The main CM dialog: the units of the active project as a tree or as a list, and a button for
@@ -44,7 +37,7 @@ struct CommandWindows {
 /// It is used on the host's user-interface thread. Commands are synchronous; while one runs the
 /// dialog paints but takes no input and cannot be closed. What a command asks beyond its options,
 /// and every message, goes through the host (`IUserMessages`).
-class VELDRA_CM_UI_EXPORT CCMDialog : public QDialog, private CommandView {
+class VELDRA_CM_UI_EXPORT CCMDialog : public CommandWindow, private CommandView {
   Q_OBJECT
 
  public:
@@ -55,12 +48,6 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public QDialog, private CommandView {
   /// Makes a dialog and runs it modally.
   static void DoPopupCmDialog(QWidget* parent = nullptr);
   static CommandWindows& commandWindows();
-
-  /// Where the running command of the topmost dialog is shown; null when no dialog is open. A host
-  /// forwards what its own `IProgress` is told.
-  static IProgress* currentProgress();
-  /// Paints what has changed without taking input; for hosts that wait for something.
-  static void keepPainting();
 
   /// As if the button of that number were pressed. False when there is none, it is hidden or
   /// disabled, or a command runs already.
@@ -93,15 +80,12 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public QDialog, private CommandView {
   /// The units as they stand in the list.
   const LiveUnits& units() const;
 
-  void reject() override;
-
  protected:
   /// Puts the workspace into a new order: position i gets what was at `order[i]`.
   virtual void PrepareWsList(const std::vector<std::size_t>& order);
 
   bool event(QEvent* event) override;
   bool nativeEvent(const QByteArray& type, void* message, qintptr* result) override;
-  void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:
@@ -116,7 +100,6 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public QDialog, private CommandView {
 
   void OnInitDialog();
   void buildControls();
-  QTreeView* makeView(int id, const QString& name);
   void layOutControls();
   void connectControls();
   void addColumns();
@@ -125,19 +108,18 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public QDialog, private CommandView {
   void runPressed(DialogCommand command);
   void runUserCommand(DialogCommand command);
   void refreshStatus();
+  void listArchive();
+  void synchronize();
   void showContextMenu(const QPoint& place);
   void refresh40001();
-  void thaw();
+  void afterCommand() override;
   void fillViews();
   void applyFilter(const QString& text);
   void rememberTreeSelection();
   void restoreTreeSelection();
-  void selectRows(const std::vector<int>& rows);
   QTreeView* visibleView() const;
   QModelIndex sourceOf(const QModelIndex& index) const;
   void updateState();
-  void saveGeometryAndColumns();
-  void restoreGeometryAndColumns();
 
   std::unique_ptr<WorkspaceData> m_data;
   UnitListModel* m_listModel;
@@ -150,9 +132,6 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public QDialog, private CommandView {
   QLineEdit* m_filter = nullptr;
   QLabel* m_empty = nullptr;
   QLabel* m_totals = nullptr;
-  ProgressStrip* m_progress = nullptr;
-  FailureStrip* m_failures = nullptr;
-  std::unique_ptr<HeldWindow> m_heldInput;
 
   LiveUnits m_selection;
   std::vector<int> m_selectedRows;
@@ -161,7 +140,6 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public QDialog, private CommandView {
   bool m_isRefillDue = false;
   bool m_isTreeDue = false;
   bool m_isExpandDue = false;
-  bool m_isRunning = false;
   bool m_isRefreshDue = false;
 };
 

@@ -1,20 +1,25 @@
 #include <QLineEdit>
 #include <QMenu>
-#include <QPointer>
 #include <QTreeView>
 
+#include "cm/core/CMArchiveItem.h"
+#include "cm/host/MessageIds.h"
 #include "cm/ui/Icons.h"
 #include "cm/ui/OptionWindows.h"
 #include "cm/ui/RefillScope.h"
+#include "cm/ui/archive/CCMArcCoDlg.h"
 #include "cm/ui/logic/CommandRun.h"
+#include "cm/ui/logic/HostTexts.h"
+#include "cm/ui/logic/MainArchive.h"
 #include "cm/ui/logic/ProviderOptions.h"
 #include "cm/ui/logic/StatusRefresh.h"
 #include "cm/ui/logic/UserDefinedCommand.h"
 #include "cm/ui/logic/ViewState.h"
+#include "cm/ui/logic/archive/ArchiveRows.h"
+#include "cm/ui/logic/synchronize/SyncSettings.h"
+#include "cm/ui/synchronize/CMSyncDlg.h"
 #include "cm/ui/widgets/ButtonPanel.h"
-#include "cm/ui/widgets/FailureStrip.h"
 #include "cm/ui/widgets/HeldInput.h"
-#include "cm/ui/widgets/ProgressStrip.h"
 #include "cm/ui/widgets/Text.h"
 #include "cm/ui/widgets/WorkspaceData.h"
 
@@ -32,7 +37,7 @@ bool CCMDialog::runCommand(int controlId) {
   for (const CommandButton* button : m_panel->buttons()) {
     const ButtonRow& row = buttonTable()[static_cast<std::size_t>(button->command())];
     if (row.controlId != controlId) continue;
-    if (button->isHidden() || !button->isEnabled() || m_isRunning) return false;
+    if (button->isHidden() || !button->isEnabled() || isRunning()) return false;
     press(button->command());
     return true;
   }
@@ -40,20 +45,7 @@ bool CCMDialog::runCommand(int controlId) {
 }
 
 void CCMDialog::press(DialogCommand command) {
-  if (m_isRunning) return;
-  const QPointer<QWidget> focused = focusWidget();
-  m_isRunning = true;
-  m_failures->tell({}, 0);
-  runPressed(command);
-  m_isRunning = false;
-  thaw();
-  m_panel->refresh();
-  m_failures->tell(shown(ButtonRules::caption(command)), m_progress->failedFiles().size());
-  if (focused != nullptr && focused->isEnabled()) focused->setFocus();
-  if (m_isRefreshDue) {
-    m_isRefreshDue = false;
-    refresh40001();
-  }
+  runOnce(shown(ButtonRules::caption(command)), [this, command] { runPressed(command); });
 }
 
 void CCMDialog::runPressed(DialogCommand command) {
@@ -62,11 +54,11 @@ void CCMDialog::runPressed(DialogCommand command) {
     case DialogCommand::TreeView:
       return setView(command == DialogCommand::FlatView);
     case DialogCommand::ListArchive:
-      return call(commandWindows().listArchive, *this);
+      return listArchive();
     case DialogCommand::Compare:
       return call(commandWindows().compare, *this);
     case DialogCommand::Synchronize:
-      return call(commandWindows().synchronize, *this);
+      return synchronize();
     case DialogCommand::RefreshStatus:
       return refreshStatus();
     default:
@@ -99,6 +91,38 @@ void CCMDialog::refreshStatus() {
   CmFillCI();
 }
 
+void CCMDialog::listArchive() {
+  const QString caption = shown(ButtonRules::caption(DialogCommand::ListArchive));
+  CMArchiveItemListWrapper items;
+  DiagnosticList diagnostics;
+  holdInput(caption);
+  const bool isListed = listArchiveInto(items, diagnostics);
+  releaseInput();
+  if (!isListed) {
+    return showItemFailure(MessageId::CommandFailed + static_cast<int>(DialogCommand::ListArchive),
+                           diagnostics);
+  }
+  CCMArcCoDlg(items.list(), this).exec();
+  DoAfterOpRefresh();
+}
+
+void CCMDialog::synchronize() {
+  if (!CMSyncDlg::canSynchronize(1)) return;
+  const UnitList selected = CmSelectedItems();
+  chooseMainArchive(selected);
+  CMSyncDlg dialog(this);
+  holdInput(shown(ButtonRules::caption(DialogCommand::Synchronize)));
+  const bool isListed = dialog.listFirst(SyncSettings::read().label);
+  releaseInput();
+  if (isListed) {
+    dialog.exec();
+  } else {
+    dialogError(
+        dialogText(MessageId::CommandFailed + static_cast<int>(DialogCommand::Synchronize)));
+  }
+  DoAfterOpRefresh();
+}
+
 std::optional<CommandOptions> CCMDialog::askOptions(const OptionPresets& presets) {
   return showOptionWindow(presets, this);
 }
@@ -107,19 +131,20 @@ void CCMDialog::commandStarts(const CommandRow& row) {
   m_data->isFrozen = true;
   for (QTreeView* view : {m_tree, m_list}) view->viewport()->setUpdatesEnabled(false);
   m_panel->setCommandsEnabled(false);
-  m_heldInput = std::make_unique<HeldWindow>(*this);
-  m_progress->begin(shown(ButtonRules::caption(row.command)));
+  holdInput(shown(ButtonRules::caption(row.command)));
 }
 
 void CCMDialog::commandEnds() {
-  m_heldInput.reset();
-  m_progress->finish();
+  releaseInput();
 }
 
-void CCMDialog::thaw() {
+void CCMDialog::afterCommand() {
   m_data->isFrozen = false;
   for (QTreeView* view : {m_tree, m_list}) view->viewport()->setUpdatesEnabled(true);
-  m_panel->setCommandsEnabled(true);
+  m_panel->refresh();
+  if (!m_isRefreshDue) return;
+  m_isRefreshDue = false;
+  refresh40001();
 }
 
 void CCMDialog::dropGoneUnits() {

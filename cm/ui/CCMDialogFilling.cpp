@@ -3,7 +3,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QTreeView>
-#include <algorithm>
 #include <unordered_set>
 
 #include "cm/core/CMFacade.h"
@@ -13,6 +12,7 @@
 #include "cm/ui/logic/SelectionRules.h"
 #include "cm/ui/logic/ViewState.h"
 #include "cm/ui/logic/WorkspaceOrder.h"
+#include "cm/ui/widgets/ListView.h"
 #include "cm/ui/widgets/Text.h"
 #include "cm/ui/widgets/UnitFilter.h"
 #include "cm/ui/widgets/UnitListModel.h"
@@ -98,7 +98,7 @@ void CCMDialog::DoAfterOpRefresh() {
 }
 
 void CCMDialog::refresh40001() {
-  if (m_isRunning) {
+  if (isRunning()) {
     m_isRefreshDue = true;
     return;
   }
@@ -134,11 +134,7 @@ UnitList CCMDialog::CmSelectedItems() {
 }
 
 UnitList CCMDialog::FlatCmSelectedItems() {
-  m_selectedRows.clear();
-  for (const QModelIndex& index : m_list->selectionModel()->selectedRows()) {
-    m_selectedRows.push_back(m_listFilter->sourceOf(index).row());
-  }
-  std::sort(m_selectedRows.begin(), m_selectedRows.end());
+  m_selectedRows = selectedRows(*m_list, *m_listFilter);
   UnitList units;
   for (const int row : m_selectedRows) {
     if (IUnit* const unit = m_data->units.at(static_cast<std::size_t>(row))) units.push_back(unit);
@@ -182,30 +178,9 @@ void CCMDialog::NewCmSelectedItem(IUnit* unit) {
 
 void CCMDialog::CmSelectTheItems() {
   if (!ViewState::isFlat()) return restoreTreeSelection();
-  selectRows(m_selectedRows);
+  selectRows(*m_list, *m_listFilter, *m_listModel, m_selectedRows);
   m_list->setFocus();
   m_list->viewport()->update();
-}
-
-void CCMDialog::selectRows(const std::vector<int>& rows) {
-  QItemSelection selection;
-  const int count = m_listModel->rowCount();
-  const int last = m_listModel->columnCount() - 1;
-  for (std::size_t i = 0; i < rows.size();) {
-    std::size_t end = i + 1;
-    while (end < rows.size() && rows[end] == rows[end - 1] + 1) ++end;
-    const int first = rows[i];
-    const int until = std::min(rows[end - 1], count - 1);
-    if (first <= until) {
-      selection.append(
-          QItemSelectionRange(m_listModel->index(first, 0), m_listModel->index(until, last)));
-    }
-    i = end;
-  }
-  const bool filtered = m_list->model() != m_listModel;
-  m_list->selectionModel()->select(
-      filtered ? m_listFilter->mapSelectionFromSource(selection) : selection,
-      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 void CCMDialog::restoreTreeSelection() {
@@ -227,7 +202,7 @@ void CCMDialog::selectFiles(const std::function<bool(const std::string&)>& isMea
     const QModelIndex index = m_treeFilter->shownFor(m_treeModel->indexOfNode(node));
     if (index.isValid()) nodes.append(QItemSelectionRange(index));
   }
-  if (ViewState::isFlat()) return selectRows(rows);
+  if (ViewState::isFlat()) return selectRows(*m_list, *m_listFilter, *m_listModel, rows);
   m_tree->selectionModel()->select(nodes, QItemSelectionModel::ClearAndSelect);
   if (!nodes.isEmpty()) m_tree->scrollTo(nodes.first().topLeft());
 }

@@ -89,6 +89,29 @@ inline constexpr int FetchSelectionPrompt = 42409;
 inline constexpr int FetchSelectionCheckOut = 42410;
 inline constexpr int FetchSelectionFetch = 42411;
 
+// --- archive browser ---
+inline constexpr int ArchiveList = 219;
+inline constexpr int ArchiveCheckOut = 218;
+inline constexpr int ArchiveFetch = 246;
+inline constexpr int ArchiveCompareModel = 235;
+inline constexpr int ArchiveCompareVersions = 220;
+inline constexpr int ArchiveBranch = 236;
+
+// --- synchronize dialog, and the questions of both; their numbers are free ---
+inline constexpr int SyncList = 1000;
+inline constexpr int SyncTakeOver = 1001;
+inline constexpr int SyncRefresh = 1002;
+inline constexpr int SyncMethod = 1003;
+inline constexpr int SyncLabel = 1004;
+inline constexpr int SyncExplanation = 1005;
+inline constexpr int QuestionText = 1010;
+inline constexpr int QuestionUnit = 1011;
+inline constexpr int QuestionYes = 1012;
+inline constexpr int QuestionYesToAll = 1013;
+inline constexpr int QuestionNo = 1014;
+inline constexpr int QuestionNoToAll = 1015;
+inline constexpr int QuestionCancel = 1016;
+
 // --- a unit's archive, and the branch check-out: their numbers are free ---
 inline constexpr int UnitArchiveDialog = 980;
 inline constexpr int UnitArchivePath = 981;

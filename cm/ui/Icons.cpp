@@ -11,6 +11,7 @@
 #include <array>
 #include <memory>
 
+#include "cm/core/CMArchiveItem.h"
 #include "cm/core/CMStatus.h"
 #include "cm/ui/widgets/Text.h"
 
@@ -107,12 +108,12 @@ QIcon drawn(const QString& name, QPalette::ColorRole selectedInk = QPalette::Hig
   return icon;
 }
 
-QString drawingOf(const IUnit& unit) {
+QString drawingOf(const std::string& typeName) {
   static const QHash<QString, QString> drawings{
       {QStringLiteral("Project"), QStringLiteral("unit-project")},
       {QStringLiteral("Package"), QStringLiteral("unit-package")},
       {QStringLiteral("Diagram"), QStringLiteral("unit-diagram")}};
-  return drawings.value(shown(unit.getTypeName()), QStringLiteral("unit-element"));
+  return drawings.value(shown(typeName), QStringLiteral("unit-element"));
 }
 
 bool isEmbedded(const IUnit& unit) {
@@ -120,8 +121,8 @@ bool isEmbedded(const IUnit& unit) {
 }
 
 /// What the system shows for files of that type; null when it has no picture.
-QIcon shellIcon(const IUnit& unit) {
-  const QString suffix = QFileInfo(shown(unit.getFileName())).suffix().toLower();
+QIcon shellIcon(const std::string& fileName) {
+  const QString suffix = QFileInfo(shown(fileName)).suffix().toLower();
   QIcon& icon = cache()[QStringLiteral("shell/") + suffix];
   if (icon.isNull()) {
     static const QFileIconProvider provider;
@@ -145,7 +146,12 @@ QIcon stateIcon(int imageIndex) {
 }
 
 QIcon unitIcon(const IUnit& unit) {
-  return isEmbedded(unit) ? shellIcon(unit) : drawn(drawingOf(unit));
+  return isEmbedded(unit) ? shellIcon(unit.getFileName()) : drawn(drawingOf(unit.getTypeName()));
+}
+
+QIcon itemIcon(const CMArchiveItem& item) {
+  const std::string type = item.getType();
+  return type.empty() ? shellIcon(item.getFileName()) : drawn(drawingOf(type));
 }
 
 QIcon unitIconWithState(const IUnit& unit) {
@@ -153,7 +159,7 @@ QIcon unitIconWithState(const IUnit& unit) {
   const int state = CMStatus::getIsInvalid(&unit) != 0 ? 0 : CMStatus::getCMStatusImgIndex(&unit);
   const QString kind =
       isEmbedded(unit) ? QStringLiteral("shell/") + QFileInfo(shown(unit.getFileName())).suffix()
-                       : drawingOf(unit);
+                       : drawingOf(unit.getTypeName());
   const QString key = QStringLiteral("pair/%1/%2").arg(state).arg(kind);
   const auto known = cache().constFind(key);
   if (known != cache().constEnd()) return *known;

@@ -7,6 +7,7 @@
 
 namespace veldra {
 
+class CMArchiveItem;
 class IUnit;
 
 /// Our own drawings, in the ink of the application's palette and sharp at any size. The three
@@ -18,6 +19,8 @@ VELDRA_CM_UI_EXPORT QIcon stateIcon(int imageIndex);
 
 /// A unit's kind; controlled files look as the system shows files of their type, if it does.
 VELDRA_CM_UI_EXPORT QIcon unitIcon(const IUnit& unit);
+/// The kind that a file of the archive would have, as its name tells.
+VELDRA_CM_UI_EXPORT QIcon itemIcon(const CMArchiveItem& item);
 /// The state and the kind side by side, as a line of the tree shows them.
 VELDRA_CM_UI_EXPORT QIcon unitIconWithState(const IUnit& unit);
 /// Twice as wide as high.

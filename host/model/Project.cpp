@@ -19,6 +19,7 @@ UnitRecord projectRecord(Folder& folder, const std::string& fileName, const File
   record.name = file.name.empty() ? std::string(stemOf(fileName)) : file.name;
   record.header = file.text.header;
   record.mode = head.mode;
+  record.fileTime = head.facts.written;
   return record;
 }
 

@@ -120,6 +120,7 @@ bool UnitCore::writeContent(ModelText& content, Problem& problem) {
       return false;
     }
     content.bodyHash = bodyHashOf(wanted);
+    m_record.fileTime = readFileFacts(path).written;
     return true;
   } catch (const Json::exception&) {
     problem = {{}, "A name in it is no UTF-8 text.", "Change that name; the file is unchanged."};

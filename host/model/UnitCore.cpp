@@ -140,6 +140,7 @@ bool UnitCore::approveRename(const std::string& fileName) const {
 
 void UnitCore::takeHead(const UnitHead& head) {
   m_record.mode = head.mode;
+  m_record.fileTime = head.facts.written;
   m_record.header = head.header;
   m_record.mentionsProperties = head.mentionsProperties;
   if (!head.name.empty()) m_record.name = head.name;
@@ -148,7 +149,9 @@ void UnitCore::takeHead(const UnitHead& head) {
 
 void UnitCore::updateHeader() {
   if (!hasFile()) return;
-  m_record.header = readUnitHead(fullFileName(), m_record.type).header;
+  UnitHead head = readUnitHead(fullFileName(), m_record.type);
+  m_record.header = std::move(head.header);
+  m_record.fileTime = head.facts.written;
 }
 
 void UnitCore::updateMode(const std::string& mode) {

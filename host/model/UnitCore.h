@@ -35,6 +35,7 @@ struct UnitRecord {
   std::string name;
   std::string header;
   FileMode mode = FileMode::Unknown;
+  std::int64_t fileTime = 0;  ///< When the file was written, as it was last read; 0 without one.
   bool stub = false;
   bool referenced = false;
   bool controlledFile = false;

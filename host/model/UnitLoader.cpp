@@ -288,6 +288,7 @@ UnitRecord recordOf(Folder& folder, std::string fileName, const FileType* type, 
   record.type = type;
   record.header = head.header;
   record.mode = head.mode;
+  record.fileTime = head.facts.written;
   record.controlledFile = type == nullptr;
   record.mentionsProperties = head.mentionsProperties;
   return record;

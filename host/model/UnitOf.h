@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -43,6 +45,9 @@ class UnitOf : public Interface, public UnitCore {
   }
 
   // --- IUnit ---
+  std::optional<std::int64_t> getFileTime() const override {
+    return record().fileTime != 0 ? std::optional(record().fileTime) : std::nullopt;
+  }
   std::uint32_t getFlags() const override { return flags(); }
   bool isReferenced() const override { return record().referenced; }
   bool isExternalUnitRecursive() const override { return isExternal(); }

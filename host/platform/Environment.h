@@ -41,6 +41,7 @@ class Environment : public IEnvironment {
 
   bool omFileExist(const std::string& path) override;
   bool omFileHasWritePermission(const std::string& path) override;
+  std::optional<std::int64_t> omGetFileTime(const std::string& path) override;
   bool isDirectory(const std::string& path, bool& exists) override;
   std::string omGetFullPathOfDirectory(const std::string& path, std::string& errorText) override;
   bool setCurrentDirectory(const std::string& path) override;

@@ -31,6 +31,8 @@ struct FileFacts {
   /// When content, mode or owner last changed, in nanoseconds since 1970 by the clock of the file
   /// system; no program can set it back. 0 where the system keeps no such time.
   std::int64_t changed = 0;
+  /// When the content was last written, in nanoseconds since 1970; programs can set it.
+  std::int64_t written = 0;
 };
 
 /// What one look into a file tells.

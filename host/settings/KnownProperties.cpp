@@ -51,6 +51,7 @@ constexpr KnownProperty Known[] = {
     {"Fetch", Command},
     {"FetchFromArchive", Command},
     {"ListArchive", Command},
+    {"WorkspaceVersions", Command},
     {"Lock", Command},
     {"UnLock", Command},
     {"History", Command},

@@ -36,6 +36,10 @@ class MemoryEnvironment : public IEnvironment {
   std::string omGetCurrentUser() override { return user; }
   bool omFileExist(const std::string& path) override { return m_files.find(path) != nullptr; }
   bool omFileHasWritePermission(const std::string& path) override;
+  std::optional<std::int64_t> omGetFileTime(const std::string& path) override {
+    const MemoryFiles::File* const file = m_files.find(path);
+    return file != nullptr ? std::optional(file->time) : std::nullopt;
+  }
   bool isDirectory(const std::string& path, bool& exists) override;
   std::string omGetFullPathOfDirectory(const std::string& path, std::string& errorText) override;
   bool setCurrentDirectory(const std::string& path) override;

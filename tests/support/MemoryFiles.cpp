@@ -3,7 +3,7 @@
 namespace veldra::test {
 
 void MemoryFiles::write(const std::string& path, std::string content, bool writable) {
-  m_files[path] = {std::move(content), writable};
+  m_files[path] = {.content = std::move(content), .writable = writable};
   makeDirectory(directoryOf(path));
 }
 

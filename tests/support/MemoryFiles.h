@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <set>
 #include <string>
@@ -13,6 +14,7 @@ class MemoryFiles {
   struct File {
     std::string content;
     bool writable = false;
+    std::int64_t time = 1;
   };
 
   void write(const std::string& path, std::string content, bool writable = false);

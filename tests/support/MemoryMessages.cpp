@@ -25,12 +25,23 @@ void MemoryMessages::oneTimeMessageBox(const std::string& key, const std::string
   oneTime.push_back({text, flags, key});
 }
 
+namespace {
+std::string takeFrom(std::deque<std::string>& answers) {
+  if (answers.empty()) return "no";
+  std::string given = answers.front();
+  answers.pop_front();
+  return given;
+}
+}  // namespace
+
 std::string MemoryMessages::askOverwrite(const std::string& text) {
   overwriteQuestions.push_back(text);
-  if (overwriteAnswers.empty()) return "no";
-  std::string given = overwriteAnswers.front();
-  overwriteAnswers.pop_front();
-  return given;
+  return takeFrom(overwriteAnswers);
+}
+
+std::string MemoryMessages::askPartialLoad(const std::string&, const std::string& unitName) {
+  loadQuestions.push_back(unitName);
+  return takeFrom(loadAnswers);
 }
 
 std::optional<std::string> MemoryMessages::askForText(const std::string& question,

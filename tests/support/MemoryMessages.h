@@ -24,6 +24,8 @@ class MemoryMessages : public IUserMessages {
   std::vector<Shown> oneTime;   ///< `oneTimeMessageBox`
   std::vector<std::string> overwriteQuestions;
   std::deque<std::string> overwriteAnswers;  ///< Used up from the front; then "no".
+  std::vector<std::string> loadQuestions;    ///< The names of the units.
+  std::deque<std::string> loadAnswers;       ///< As above.
   int answer = MessageBox::AnswerOk;
   std::vector<std::string> textQuestions;
   std::vector<std::string> lastProposals;
@@ -36,6 +38,7 @@ class MemoryMessages : public IUserMessages {
   int notifyUserAndAsk(const std::string& text, int flags, int level) override;
   void oneTimeMessageBox(const std::string& key, const std::string& text, int flags) override;
   std::string askOverwrite(const std::string& text) override;
+  std::string askPartialLoad(const std::string& text, const std::string& unitName) override;
   std::optional<std::string> askForText(const std::string& question,
                                         const std::vector<std::string>& proposals) override;
   void showConnectToArchive() override { ++connectDialogs; }

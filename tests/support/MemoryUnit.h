@@ -32,6 +32,7 @@ struct UnitRecord {
   bool ownerForbidsRename = false;
 
   std::string header;
+  std::optional<std::int64_t> fileTime = 1;
   bool readOnly = true;
   std::int32_t state = -1;
   bool modified = false;
@@ -88,6 +89,7 @@ class MemoryUnitOf : public MemoryObject<Interface> {
   bool _approveCMRename(const std::string&) override { return record.approvesRename; }
   bool ownerForbidsRename() const override { return record.ownerForbidsRename; }
 
+  std::optional<std::int64_t> getFileTime() const override { return record.fileTime; }
   std::string getCMHeader() const override { return record.header; }
   void updateCMHeader() override {
     m_journal->add("header " + record.fileName);

@@ -104,6 +104,11 @@ std::string ButtonRules::tooltip(DialogCommand command) {
   return loadMessage(MessageId::CommandTooltip + static_cast<int>(command));
 }
 
+ButtonFace ButtonRules::face(const ButtonRow& row) {
+  return {row.controlId,        row.command,  caption(row.command),
+          tooltip(row.command), row.shortcut, isShown(row.command)};
+}
+
 ButtonPlaces::ButtonPlaces(const Place* first, const Place* second, int height)
     : firstLine(first != nullptr ? *first : Fallback) {
   firstLine.y += 3;

@@ -20,12 +20,23 @@ struct ButtonRow {
 /// All buttons in their order.
 VELDRA_CM_EXPORT std::span<const ButtonRow> buttonTable();
 
+/// What a button looks like under the project's present settings.
+struct ButtonFace {
+  int controlId;
+  DialogCommand picture;
+  std::string caption;
+  std::string tooltip;
+  const char* shortcut;  ///< As above.
+  bool isShown;
+};
+
 /// What the buttons look like under the project's present settings.
 class VELDRA_CM_EXPORT ButtonRules {
  public:
   static bool isShown(DialogCommand command);
   static std::string caption(DialogCommand command);
   static std::string tooltip(DialogCommand command);
+  static ButtonFace face(const ButtonRow& row);
 };
 
 /// A corner in the units of the dialog.

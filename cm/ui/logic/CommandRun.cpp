@@ -1,8 +1,5 @@
 #include "cm/ui/logic/CommandRun.h"
 
-#include <exception>
-#include <ostream>
-
 #include "cm/core/CMArchive.h"
 #include "cm/core/CMCoCiDisplayStatus.h"
 #include "cm/core/CMFacade.h"
@@ -15,6 +12,7 @@
 #include "cm/templates/CMProperty.h"
 #include "cm/ui/logic/BackEndMode.h"
 #include "cm/ui/logic/CallArguments.h"
+#include "cm/ui/logic/GuardedCall.h"
 #include "cm/ui/logic/InformationFiles.h"
 #include "cm/ui/logic/OutputFlush.h"
 #include "cm/ui/logic/RecursiveRun.h"
@@ -205,20 +203,12 @@ bool CommandRun::call(const CommandRow& row, UnitCommandFunction function, UnitL
   const bool usesProvider = CMProperty::getUseSCCtool() != 0;
   DialogArguments arguments(row, options);
   const RunningScope running(m_view, row);
-  if (!usesProvider) flushCommandOutput();
-  int result = 0;
-  bool threw = false;
-  try {
-    guardFaults([&] { result = function(units, arguments.list(), m_diagnostics); });
-  } catch (const std::exception& fault) {
-    threw = true;
-    VELDRA_TRACE("The command ended with a fault: ", fault.what());
-  }
-  flushCommandOutput();
+  const std::optional<int> result =
+      guardedCall([&] { return function(units, arguments.list(), m_diagnostics); });
   // Operations of a provider answer 0 whatever came of them; they have told the user themselves.
   const bool tellsByResult = !usesProvider || row.command == DialogCommand::Connect;
   if (row.command == DialogCommand::Fetch) markSaveDue();
-  return !threw && (result != 0 || !tellsByResult);
+  return result && (*result != 0 || !tellsByResult);
 }
 
 bool CommandRun::callRecursive(const CommandRow& row, UnitList& units,

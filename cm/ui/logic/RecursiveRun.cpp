@@ -1,32 +1,21 @@
 #include "cm/ui/logic/RecursiveRun.h"
 
-#include "cm/core/CMArchive.h"
 #include "cm/core/CMArchiveItem.h"
 #include "cm/core/CMFacade.h"
 #include "cm/core/UnitBatch.h"
 #include "cm/core/UnitReload.h"
 #include "cm/host/ATMRecursiveHelper.h"
 #include "cm/host/CSignal2Exception.h"
-#include "cm/host/IModel.h"
+#include "cm/host/IProject.h"
 #include "cm/templates/CMProperty.h"
 #include "cm/ui/logic/LiveUnits.h"
+#include "cm/ui/logic/MainArchive.h"
 #include "cm/ui/logic/OutputFlush.h"
 #include "cm/ui/logic/UnitTexts.h"
 
 namespace veldra {
 
 namespace {
-
-/// The archive of the first unit, or of the project, becomes the main one; a list that the user has
-/// chosen stays.
-void chooseMainArchive(const UnitList& units) {
-  if (CMArchive::getArchiveSelection() == CMArchive::ArchiveUnset) return;
-  const IUnit* const unit = !units.empty() ? units.front() : CurrentWorkspace::GetActiveProject();
-  std::string archive;
-  if (unit != nullptr && CMProperty::getBatchArchiveRecursive(unit, archive) != 0) {
-    CMArchive::setMainArchive(archive);
-  }
-}
 
 bool isUnitFile(const std::string& fileName) {
   const std::size_t dot = fileName.rfind('.');

@@ -33,6 +33,14 @@ void ViewState::setSortColumn(std::int32_t column) {
   moduleState().dialogs.sortColumn = column;
 }
 
+std::int32_t ViewState::itemSortColumn(const std::string& list) {
+  return moduleState().dialogs.itemSortColumns[list];
+}
+
+void ViewState::setItemSortColumn(const std::string& list, std::int32_t column) {
+  moduleState().dialogs.itemSortColumns[list] = column;
+}
+
 std::string ViewState::unusedComment(DialogCommand command) {
   const auto& comments = moduleState().dialogs.unusedComments;
   const auto found = comments.find(static_cast<int>(command));

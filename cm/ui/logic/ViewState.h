@@ -22,6 +22,10 @@ class VELDRA_CM_EXPORT ViewState {
   static std::int32_t sortColumn();
   static void setSortColumn(std::int32_t column);
 
+  /// The same for a list of archive items, which starts with its first column.
+  static std::int32_t itemSortColumn(const std::string& list);
+  static void setItemSortColumn(const std::string& list, std::int32_t column);
+
   /// The comment that was typed for a command which then failed, to be offered again.
   static std::string unusedComment(DialogCommand command);
   static void keepComment(DialogCommand command, const std::string& comment);

@@ -23,7 +23,7 @@ ButtonPanel::ButtonPanel(QWidget* parent)
       m_firstPlace(placeholder(this, ControlId::FirstRowPlace)),
       m_secondPlace(placeholder(this, ControlId::SecondRowPlace)) {
   for (const ButtonRow& row : buttonTable()) {
-    auto* const button = new CommandButton(row, this);
+    auto* const button = new CommandButton(ButtonRules::face(row), this);
     connect(button, &QAbstractButton::clicked, this,
             [this, button] { Q_EMIT pressed(button->command()); });
     m_buttons.push_back(button);
@@ -54,7 +54,9 @@ int ButtonPanel::placeLine(int line, const ButtonPlaces& places) {
 }
 
 void ButtonPanel::refresh() {
-  for (CommandButton* button : m_buttons) button->refresh();
+  for (CommandButton* button : m_buttons) {
+    button->show(ButtonRules::face(buttonTable()[static_cast<std::size_t>(button->command())]));
+  }
   const int height = m_buttons.front()->sizeHint().height();
   const Place first{0, 0};
   const Place second{0, height + 4};

@@ -17,28 +17,28 @@ constexpr int SmallestWidth = 60;
 constexpr int LargestWidth = 132;
 }  // namespace
 
-CommandButton::CommandButton(const ButtonRow& row, QWidget* parent)
-    : QAbstractButton(parent), m_row(row) {
+CommandButton::CommandButton(const ButtonFace& face, QWidget* parent)
+    : QAbstractButton(parent), m_command(face.picture) {
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_Hover);
   setIconSize({PictureSize, PictureSize});
-  control(this, row.controlId, {});
-  refresh();
+  control(this, face.controlId, {});
+  show(face);
 }
 
-void CommandButton::refresh() {
-  const QString caption = shown(ButtonRules::caption(m_row.command));
-  const QString keys =
-      QKeySequence(QString::fromLatin1(m_row.shortcut)).toString(QKeySequence::NativeText);
-  const QString tip = shown(ButtonRules::tooltip(m_row.command));
+void CommandButton::show(const ButtonFace& face) {
+  const QString caption = shown(face.caption);
+  const QKeySequence shortcut(QString::fromLatin1(face.shortcut));
+  const QString keys = shortcut.toString(QKeySequence::NativeText);
+  const QString tip = shown(face.tooltip);
   setText(caption);
-  setShortcut(QKeySequence(QString::fromLatin1(m_row.shortcut)));
+  setShortcut(shortcut);
   setAccessibleName(caption);
   setAccessibleDescription(tip);
   const QString shownTip = keys.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, keys);
   setToolTip(shownTip.toHtmlEscaped());
-  setIcon(commandIcon(m_row.command));
-  setVisible(ButtonRules::isShown(m_row.command));
+  setIcon(commandIcon(face.picture));
+  setVisible(face.isShown);
 }
 
 QSize CommandButton::sizeHint() const {

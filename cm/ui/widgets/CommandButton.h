@@ -11,11 +11,12 @@ class CommandButton : public QAbstractButton {
   Q_OBJECT
 
  public:
-  explicit CommandButton(const ButtonRow& row, QWidget* parent = nullptr);
+  explicit CommandButton(const ButtonFace& face, QWidget* parent = nullptr);
 
-  DialogCommand command() const { return m_row.command; }
-  /// Takes caption, tooltip and visibility from the project's present settings.
-  void refresh();
+  /// The command whose picture it shows.
+  DialogCommand command() const { return m_command; }
+  /// Takes caption, tooltip and visibility.
+  void show(const ButtonFace& face);
   QSize sizeHint() const override;
 
  protected:
@@ -27,7 +28,7 @@ class CommandButton : public QAbstractButton {
  private:
   QIcon::Mode pictureMode() const;
 
-  const ButtonRow& m_row;
+  DialogCommand m_command;
 };
 
 }  // namespace veldra

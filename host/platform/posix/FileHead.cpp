@@ -22,12 +22,17 @@ void fail(FileFacts& head, int number) {
   head.error = systemErrorText(number);
 }
 
+std::int64_t nanoseconds(const struct timespec& time) {
+  return std::int64_t{time.tv_sec} * 1'000'000'000 + time.tv_nsec;
+}
+
 void takeFacts(FileFacts& head, const struct stat& facts) {
   head.ownerMayWrite = (facts.st_mode & S_IWUSR) != 0;
   head.size = static_cast<std::uint64_t>(facts.st_size);
   head.identity = {static_cast<std::uint64_t>(facts.st_dev),
                    static_cast<std::uint64_t>(facts.st_ino)};
-  head.changed = std::int64_t{facts.st_ctim.tv_sec} * 1'000'000'000 + facts.st_ctim.tv_nsec;
+  head.changed = nanoseconds(facts.st_ctim);
+  head.written = nanoseconds(facts.st_mtim);
   head.state = S_ISREG(facts.st_mode) ? FileHead::State::Readable : FileHead::State::NotAFile;
 }
 

@@ -20,6 +20,13 @@ void fail(FileFacts& head, DWORD number) {
   head.error = systemErrorText(static_cast<int>(number));
 }
 
+/// The system counts in steps of 100 nanoseconds from 1601 on.
+std::int64_t nanoseconds(const FILETIME& time) {
+  constexpr std::int64_t From1601To1970 = 116'444'736'000'000'000;
+  const auto steps = (std::uint64_t{time.dwHighDateTime} << 32U) | time.dwLowDateTime;
+  return (static_cast<std::int64_t>(steps) - From1601To1970) * 100;
+}
+
 void readOpenFile(FileHead& head, HANDLE file, std::span<char> buffer) {
   BY_HANDLE_FILE_INFORMATION facts{};
   if (!GetFileInformationByHandle(file, &facts)) return fail(head, GetLastError());
@@ -27,6 +34,7 @@ void readOpenFile(FileHead& head, HANDLE file, std::span<char> buffer) {
   head.size = (std::uint64_t{facts.nFileSizeHigh} << 32U) | facts.nFileSizeLow;
   head.identity = {facts.dwVolumeSerialNumber,
                    (std::uint64_t{facts.nFileIndexHigh} << 32U) | facts.nFileIndexLow};
+  head.written = nanoseconds(facts.ftLastWriteTime);
   DWORD got = 0;
   const auto wanted = static_cast<DWORD>(std::min<std::uint64_t>(head.size, buffer.size()));
   if (!ReadFile(file, buffer.data(), wanted, &got, nullptr)) return fail(head, GetLastError());

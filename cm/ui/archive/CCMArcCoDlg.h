@@ -1,0 +1,27 @@
+#pragma once
+
+#include "cm/ui/ItemWindow.h"
+#include "cm/ui/logic/archive/ArchiveRows.h"
+
+namespace veldra {
+
+/// The archive browser: what the archive holds, as a list, and buttons that bring entries out of it
+/// or compare them.
+class VELDRA_CM_UI_EXPORT CCMArcCoDlg : public ItemWindow {
+  Q_OBJECT
+
+ public:
+  /// The items are the caller's and must outlive the dialog.
+  explicit CCMArcCoDlg(const CMArchiveItemList& items, QWidget* parent = nullptr);
+
+  void OnArcCo();
+  void OnArcFetch();
+  bool CheckForDescendentsInSelectedItems();
+
+ private:
+  CMArchiveItemList allItems() override { return m_items.all(); }
+
+  ArchiveRows& m_items;
+};
+
+}  // namespace veldra

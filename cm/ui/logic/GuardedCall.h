@@ -1,0 +1,22 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "cm/core/CMArchiveItemList.h"
+#include "cm/core/CMArgument.h"
+#include "cm/core/CMDiagnostic.h"
+
+namespace veldra {
+
+/// Runs a call of the facade with the CM output flushed around it; before it only when a command
+/// line is run. Nothing when a fault of the host or a provider ended it.
+std::optional<int> guardedCall(const std::function<int()>& call);
+
+using ItemCommandFunction = int (*)(CMArchiveItemList&, ArgumentList&, DiagnosticList&);
+
+/// The same for a facade function on archive items; false when it reported failure, too.
+bool guardedCall(ItemCommandFunction function, CMArchiveItemList& items, ArgumentList& arguments,
+                 DiagnosticList& diagnostics);
+
+}  // namespace veldra

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QDialog>
+#include <functional>
+#include <memory>
+
+#include "cm/host/IProgress.h"
+#include "cm/ui/Export.h"
+
+namespace veldra {
+
+class FailureStrip;
+class HeldWindow;
+class ProgressStrip;
+
+/// A window with commands. Commands are synchronous: while one runs the window paints and shows the
+/// progress, but takes no input and cannot be closed; afterwards it says how many units failed.
+class VELDRA_CM_UI_EXPORT CommandWindow : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// The window's place on the screen is remembered under `settingsName`.
+  CommandWindow(QString settingsName, QWidget* parent);
+  ~CommandWindow() override;
+
+  /// Where the running command of the topmost window is shown; null when no window is open.
+  static IProgress* currentProgress();
+  /// Paints what has changed without taking input; for hosts that wait for something.
+  static void keepPainting();
+
+  bool isRunning() const { return m_isRunning; }
+  void reject() override;
+
+ protected:
+  /// Runs a command, unless one runs already; the focus stays where it was. `caption` is the user's
+  /// word for it.
+  void runOnce(const QString& caption, const std::function<void()>& command);
+  /// Between these two, units may be replaced or die; the window takes no input.
+  void holdInput(const QString& caption);
+  void releaseInput();
+  /// The command has ended, whatever came of it; buttons may be enabled again.
+  virtual void afterCommand() {}
+
+  /// Takes the remembered place, or this size.
+  void restorePlace(const QSize& firstSize);
+  ProgressStrip& progressStrip() const { return *m_progress; }
+  FailureStrip& failureStrip() const { return *m_failures; }
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  QString m_placeKey;
+  ProgressStrip* m_progress;
+  FailureStrip* m_failures;
+  std::unique_ptr<HeldWindow> m_heldInput;
+  bool m_isRunning = false;
+};
+
+}  // namespace veldra

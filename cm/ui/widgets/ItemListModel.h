@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QAbstractTableModel>
+
+#include "cm/ui/logic/ItemRows.h"
+
+namespace veldra {
+
+/// A list of archive items; nothing is copied per row.
+class ItemListModel : public QAbstractTableModel {
+  Q_OBJECT
+
+ public:
+  /// `rows` must outlive the model; between `beginRefill` and `endRefill` they may be changed.
+  explicit ItemListModel(const ItemRows& rows, QObject* parent = nullptr)
+      : QAbstractTableModel(parent), m_rows(rows) {}
+
+  void beginRefill() { beginResetModel(); }
+  void endRefill() { endResetModel(); }
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+ private:
+  const ItemRows& m_rows;
+};
+
+}  // namespace veldra

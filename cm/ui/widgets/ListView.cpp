@@ -1,0 +1,98 @@
+#include "cm/ui/widgets/ListView.h"
+
+#include <QCoreApplication>
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QShortcut>
+#include <algorithm>
+
+#include "cm/ui/ControlIds.h"
+#include "cm/ui/widgets/Control.h"
+#include "cm/ui/widgets/UnitFilter.h"
+
+namespace veldra {
+
+namespace {
+constexpr int HeaderMargin = 15;
+}
+
+QTreeView* makeView(QWidget* parent, int id, const QString& name) {
+  auto* const view = control(new QTreeView(parent), id, name);
+  view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  view->setUniformRowHeights(true);
+  view->setAllColumnsShowFocus(true);
+  view->setTextElideMode(Qt::ElideMiddle);
+  view->setContextMenuPolicy(Qt::CustomContextMenu);
+  view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  return view;
+}
+
+QTreeView* makeListView(QWidget* parent, int id, const QString& name) {
+  QTreeView* const list = makeView(parent, id, name);
+  list->setRootIsDecorated(false);
+  list->setAlternatingRowColors(true);
+  list->setIconSize({18, 18});
+  QHeaderView& header = *list->header();
+  header.setSectionsClickable(true);
+  header.setSortIndicatorShown(true);
+  header.setHighlightSections(false);
+  header.setStretchLastSection(true);
+  return list;
+}
+
+void fitColumns(QTreeView& list, int width) {
+  const QAbstractItemModel& model = *list.model();
+  const QFontMetrics metrics(list.header()->font());
+  for (int column = 0; column < model.columnCount(); ++column) {
+    const QString title = model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    const int smallest = metrics.horizontalAdvance(title) + HeaderMargin;
+    list.resizeColumnToContents(column);
+    const int wanted = column == 0 ? width * 2 / 5 : list.columnWidth(column);
+    list.setColumnWidth(column, std::max(smallest + HeaderMargin, wanted));
+  }
+}
+
+std::vector<int> selectedRows(const QTreeView& list, const UnitFilter& filter) {
+  std::vector<int> rows;
+  for (const QModelIndex& index : list.selectionModel()->selectedRows()) {
+    rows.push_back(filter.sourceOf(index).row());
+  }
+  std::sort(rows.begin(), rows.end());
+  return rows;
+}
+
+void selectRows(QTreeView& list, const UnitFilter& filter, const QAbstractItemModel& source,
+                const std::vector<int>& rows) {
+  QItemSelection selection;
+  const int count = source.rowCount();
+  const int last = source.columnCount() - 1;
+  for (std::size_t i = 0; i < rows.size();) {
+    std::size_t end = i + 1;
+    while (end < rows.size() && rows[end] == rows[end - 1] + 1) ++end;
+    const int first = rows[i];
+    const int until = std::min(rows[end - 1], count - 1);
+    if (first <= until) {
+      selection.append(QItemSelectionRange(source.index(first, 0), source.index(until, last)));
+    }
+    i = end;
+  }
+  const bool filtered = list.model() != &source;
+  list.selectionModel()->select(filtered ? filter.mapSelectionFromSource(selection) : selection,
+                                QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+QLineEdit* makeFilterField(QWidget* window, const QString& hint, const QString& description) {
+  auto* const field =
+      control(new QLineEdit(window), ControlId::Filter,
+              QCoreApplication::translate("veldra::ListView", "Filter"), description);
+  field->setPlaceholderText(hint);
+  field->setClearButtonEnabled(true);
+  auto* const find = new QShortcut(QKeySequence::Find, window);
+  QObject::connect(find, &QShortcut::activated, field, [field] {
+    field->setFocus();
+    field->selectAll();
+  });
+  return field;
+}
+
+}  // namespace veldra
