@@ -61,6 +61,8 @@ void beginWindows() {
   static char* argv[] = {name, nullptr};
   if (qApp != nullptr) return;
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  // It remarks on every window that no window manager can be told its size.
+  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
   // Never destroyed: it would outlive static objects that it needs.
   new QApplication(argc, argv);
 }

@@ -8,6 +8,7 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 #include <initializer_list>
+#include <utility>
 
 #include "cm/ui/Icons.h"
 #include "cm/ui/RefillScope.h"
@@ -53,7 +54,8 @@ CommandWindows& CCMDialog::commandWindows() {
   return windows;
 }
 
-const LiveUnits& CCMDialog::units() const {
+const LiveUnits& CCMDialog::units() {
+  orderRows();
   return m_data->units;
 }
 
@@ -127,9 +129,8 @@ void CCMDialog::OnInitDialog() {
     sortItems();
     CmFillCI();
   }
-  setView(ViewState::isFlat());
   restorePlace({880, 620});
-  fitColumns(*m_list, width());
+  setView(ViewState::isFlat());
 }
 
 void CCMDialog::addColumns() {
@@ -138,10 +139,8 @@ void CCMDialog::addColumns() {
 
 void CCMDialog::setView(bool flat) {
   ViewState::setViewMode(flat ? "Flat" : "Tree");
-  if (!flat && m_isExpandDue) {
-    m_tree->expandAll();
-    m_isExpandDue = false;
-  }
+  fillVisibleView();
+  if (flat && std::exchange(m_isFitDue, false)) fitColumns(*m_list, width());
   updateState();
   m_panel->setCommandsEnabled(true);
   visibleView()->setFocus();

@@ -1,5 +1,7 @@
 #include "cm/ui/logic/CommandRun.h"
 
+#include <algorithm>
+
 #include "cm/core/CMArchive.h"
 #include "cm/core/CMCoCiDisplayStatus.h"
 #include "cm/core/CMFacade.h"
@@ -219,9 +221,26 @@ bool CommandRun::callRecursive(const CommandRow& row, UnitList& units,
     const RunningScope running(m_view, row);
     return checkOutItems(units, arguments.list(), m_diagnostics);
   }
+  if (row.command == DialogCommand::Fetch) return fetchRecursive(row, units, options);
   // A provider has no recursive undo of its own: the plain one gets every unit.
   const bool plainUndo = row.command == DialogCommand::UndoCheckOut && usesProvider;
   return call(row, plainUndo ? row.call : row.recursiveCall, units, options);
+}
+
+bool CommandRun::fetchRecursive(const CommandRow& row, UnitList& units,
+                                const CommandOptions& options) {
+  LiveUnits stubs;
+  if (CMProperty::getProjectBool(IPN::General, "FetchStubSubUnitsSeparately", false)) {
+    const auto firstStub = std::stable_partition(units.begin(), units.end(), [](const IUnit* unit) {
+      return (unit->getFlags() & UnitFlag::Stub) == 0;
+    });
+    stubs.assign(UnitList(firstStub, units.end()));
+    units.erase(firstStub, units.end());
+  }
+  const bool succeeded = units.empty() || call(row, row.recursiveCall, units, options);
+  // The first fetch may have loaded what stood for others.
+  UnitList left = stubs.alive();
+  return (left.empty() || call(row, row.recursiveCall, left, options)) && succeeded;
 }
 
 void CommandRun::finish(const CommandRow& row, const CommandOptions& options, bool succeeded) {
