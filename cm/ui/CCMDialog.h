@@ -115,6 +115,7 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public CommandWindow, private CommandView 
   void afterCommand() override;
   void fillViews();
   void fillVisibleView();
+  void showRowsAnew();
   void expandTree();
   void orderRows();
   void applyFilter(const QString& text);

@@ -26,7 +26,11 @@ void CCMDialog::updateList() {
   ArgumentList noArguments;
   DiagnosticList diagnostics;
   if (activeProjectUnit() != nullptr) CMFacade::ListWorkspace(units, noArguments, diagnostics);
-  m_listModel->beginRefill();
+  std::erase(units, nullptr);
+  // A view on as many rows as before need not be laid out anew.
+  const bool keepsRows = units.size() == m_data->units.size();
+  setSelection(*m_list, {});
+  if (!keepsRows) m_listModel->beginRefill();
   m_treeModel->beginRefill();
   m_data->isFrozen = false;
   m_data->texts.emplace();
@@ -35,7 +39,7 @@ void CCMDialog::updateList() {
   m_isTreeDue = true;
   m_isOrderDue = false;
   m_treeModel->endRefill();
-  m_listModel->endRefill();
+  if (!keepsRows) m_listModel->endRefill();
   CmFillCI();
 }
 
@@ -46,9 +50,8 @@ void CCMDialog::CmFillCI() {
 
 void CCMDialog::fillViews() {
   m_isRefillDue = false;
-  m_listModel->beginRefill();
-  m_listModel->endRefill();
   fillVisibleView();
+  showRowsAnew();
   applyFilter(m_filter->text());
   // Every reset made new selection models.
   for (QTreeView* view : {m_tree, m_list}) {
@@ -71,6 +74,14 @@ void CCMDialog::fillVisibleView() {
   if (m_isExpandDue) expandTree();
 }
 
+void CCMDialog::showRowsAnew() {
+  // A view that is told which rows have changed looks for the place of each; it has to paint no
+  // more than it shows. A filter has to look at all of them.
+  if (m_list->model() == m_listModel) return m_list->viewport()->update();
+  m_listModel->beginRefill();
+  m_listModel->endRefill();
+}
+
 void CCMDialog::expandTree() {
   m_isExpandDue = false;
   if (m_tree->model() != m_treeModel) return m_tree->expandAll();
@@ -89,9 +100,8 @@ void CCMDialog::sortItems() {
 void CCMDialog::orderRows() {
   if (!m_isOrderDue) return;
   m_isOrderDue = false;
-  m_listModel->beginRefill();
   PrepareWsList(orderByColumn(m_data->units, *m_data->texts, ViewState::sortColumn()));
-  m_listModel->endRefill();
+  showRowsAnew();
 }
 
 void CCMDialog::PrepareWsList(const std::vector<std::size_t>& order) {

@@ -1,7 +1,5 @@
 #include "cm/ui/logic/CommandRun.h"
 
-#include <algorithm>
-
 #include "cm/core/CMArchive.h"
 #include "cm/core/CMCoCiDisplayStatus.h"
 #include "cm/core/CMFacade.h"
@@ -227,20 +225,21 @@ bool CommandRun::callRecursive(const CommandRow& row, UnitList& units,
   return call(row, plainUndo ? row.call : row.recursiveCall, units, options);
 }
 
-bool CommandRun::fetchRecursive(const CommandRow& row, UnitList& units,
+bool CommandRun::fetchRecursive(const CommandRow& row, const UnitList& units,
                                 const CommandOptions& options) {
-  LiveUnits stubs;
-  if (CMProperty::getProjectBool(IPN::General, "FetchStubSubUnitsSeparately", false)) {
-    const auto firstStub = std::stable_partition(units.begin(), units.end(), [](const IUnit* unit) {
-      return (unit->getFlags() & UnitFlag::Stub) == 0;
-    });
-    stubs.assign(UnitList(firstStub, units.end()));
-    units.erase(firstStub, units.end());
+  const bool takesApart =
+      CMProperty::getProjectBool(IPN::General, "FetchStubSubUnitsSeparately", false);
+  UnitList loaded;
+  UnitList stubs;
+  for (IUnit* unit : units) {
+    const bool isApart = takesApart && (unit->getFlags() & UnitFlag::Stub) != 0;
+    (isApart ? stubs : loaded).push_back(unit);
   }
-  const bool succeeded = units.empty() || call(row, row.recursiveCall, units, options);
+  const LiveUnits live(stubs);
+  const bool succeeded = loaded.empty() || call(row, row.recursiveCall, loaded, options);
   // The first fetch may have loaded what stood for others.
-  UnitList left = stubs.alive();
-  return (left.empty() || call(row, row.recursiveCall, left, options)) && succeeded;
+  stubs = live.alive();
+  return (stubs.empty() || call(row, row.recursiveCall, stubs, options)) && succeeded;
 }
 
 void CommandRun::finish(const CommandRow& row, const CommandOptions& options, bool succeeded) {

@@ -96,8 +96,7 @@ void setSelection(QTreeView& view, const QItemSelection& selection) {
   // A view that is up to date looks for each line that has changed, which takes long for many.
   const bool updates = view.updatesEnabled();
   view.setUpdatesEnabled(false);
-  view.selectionModel()->select(selection,
-                                QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  view.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
   view.setUpdatesEnabled(updates);
 }
 

@@ -25,7 +25,7 @@ std::vector<int> selectedRows(const QTreeView& list, const UnitFilter& filter);
 void selectRows(QTreeView& list, const UnitFilter& filter, const QAbstractItemModel& source,
                 const std::vector<int>& rows);
 
-/// Selects these lines of the view's model and nothing else.
+/// Selects these whole lines of the view's model and nothing else.
 void setSelection(QTreeView& view, const QItemSelection& selection);
 
 /// The field that filters; Ctrl+F leads to it.
