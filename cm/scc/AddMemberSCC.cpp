@@ -16,8 +16,8 @@ namespace veldra {
 
 namespace {
 
-constexpr char Name[] = "Add to Archive";
-constexpr char ContextLine[] = "Getting SCC Context to perform add";
+constexpr char AddName[] = "Add to Archive";
+constexpr char AddContextLine[] = "Getting SCC Context to perform add";
 
 /// As the archive tools themselves do it: a file with a NUL byte near its start is no text.
 scc::LONG fileTypeOf(const std::string& fileName) {
@@ -72,8 +72,8 @@ int AddMemberSCC::operator()(UnitList& units, ArgumentList& arguments, Diagnosti
                              bool /*hybrid*/) {
   if (units.empty()) return 1;
   saveModel(SaveRule::Always, false);
-  std::vector<ProviderBatch> batches = batchesOf(units, Name, ContextLine);
-  if (batches.empty() || !offers(providerState().dll.SccAdd, Name, diagnostics)) return 0;
+  std::vector<ProviderBatch> batches = batchesOf(units, AddName, AddContextLine);
+  if (batches.empty() || !offers(providerState().dll.SccAdd, AddName, diagnostics)) return 0;
   const std::string comment = argumentValue(arguments, "log");
   std::size_t position = 0;
   std::size_t added = 0;
@@ -92,7 +92,7 @@ int AddMemberSCC::AddDirectory(const std::string& directory, ArgumentList& argum
                                DiagnosticList& diagnostics) {
   UnitList inside = unitsBelow(directory);
   if (!inside.empty()) return AddMemberSCC()(inside, arguments, diagnostics, false);
-  const pvContextStruct* const context = contextFor(nullptr, ContextLine);
+  const pvContextStruct* const context = contextFor(nullptr, AddContextLine);
   if (context == nullptr || !offers(providerState().dll.SccAdd, "Add Directory", diagnostics)) {
     return 0;
   }

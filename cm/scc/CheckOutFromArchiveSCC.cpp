@@ -10,7 +10,7 @@ namespace veldra {
 
 namespace {
 
-constexpr char Name[] = "Check Out from Archive";
+constexpr char ArchiveCheckOutName[] = "Check Out from Archive";
 
 /// One batch of check-outs of archive items.
 class ItemCheckOut {
@@ -42,7 +42,7 @@ bool ItemCheckOut::checkOut(const CMArchiveItem& item, UnitReport& report) {
     return false;
   }
   const std::string file = item.getFullUnitFileName();
-  const KeptCopy kept(KeepRule::WritableFiles, file, Name);
+  const KeptCopy kept(KeepRule::WritableFiles, file, ArchiveCheckOutName);
   if (mustStay(kept, report)) return false;
   FileNames files(file);
   const long code = callOnFiles(providerState().dll.SccCheckout, CallLines::PrePostAndReturn,
@@ -68,7 +68,7 @@ int CheckOutFromArchiveSCC::operator()(CMArchiveItemList& items, ArgumentList& a
                                        DiagnosticList& diagnostics) {
   if (items.empty()) return 0;
   if (contextFor(nullptr, nullptr) == nullptr ||
-      !offers(providerState().dll.SccCheckout, Name, diagnostics)) {
+      !offers(providerState().dll.SccCheckout, ArchiveCheckOutName, diagnostics)) {
     return 0;
   }
   saveModel(SaveRule::IfSaveOnCheckOut, false);
@@ -80,7 +80,7 @@ int CheckOutFromArchiveSCC::operator()(CMArchiveItemList& items, ArgumentList& a
     ++position;
     if (item == nullptr) continue;
     if (UnitReport::isCancelled()) break;
-    UnitReport report(Name, position, items.size(), item->getFileNameWithPath());
+    UnitReport report(ArchiveCheckOutName, position, items.size(), item->getFileNameWithPath());
     if (!batch.checkOut(*item, report)) result = 0;
   }
   return result;

@@ -18,7 +18,7 @@ namespace veldra {
 
 namespace {
 
-constexpr char ContextLine[] = "Getting SCC Context to perform check out";
+constexpr char CheckOutContextLine[] = "Getting SCC Context to perform check out";
 
 /// A unit that is to be checked out.
 struct Candidate {
@@ -95,7 +95,7 @@ Choice CheckOutRun::choose(IUnit* unit, const char* traceLine, std::vector<Candi
 }
 
 bool CheckOutRun::runAtOnce() {
-  m_context = contextFor(nullptr, ContextLine);
+  m_context = contextFor(nullptr, CheckOutContextLine);
   std::vector<Candidate> candidates;
   for (IUnit* unit : m_units) {
     if (UnitReport::isCancelled()) break;
@@ -111,7 +111,7 @@ bool CheckOutRun::runOneByOne() {
   for (IUnit* unit : units) {
     if (UnitReport::isCancelled()) break;
     std::vector<Candidate> candidates;
-    if (choose(unit, ContextLine, candidates) == Choice::Stop) return false;
+    if (choose(unit, CheckOutContextLine, candidates) == Choice::Stop) return false;
     checkOut(candidates);
   }
   return true;

@@ -15,13 +15,13 @@ namespace veldra {
 
 namespace {
 
-constexpr char ContextLine[] = "Getting SCC Context to perform task command";
+constexpr char TaskContextLine[] = "Getting SCC Context to perform task command";
 
 /// Runs a command on the project's context when the provider exports its entry point.
 template <class Function, class Command>
 int runCommand(EntrySlot<Function>& slot, const char* name, Command command) {
   return enterFacade(TxnFreeCommand, [&] {
-    const pvContextStruct* const context = contextFor(nullptr, ContextLine);
+    const pvContextStruct* const context = contextFor(nullptr, TaskContextLine);
     if (context == nullptr) return 0;
     if (!providerState().dll.has(slot)) {
       notifyUserAndAsk(formatMessage(MessageId::ProviderLacks, {name, slot.name}),

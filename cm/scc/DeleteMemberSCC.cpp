@@ -11,8 +11,8 @@ namespace veldra {
 
 namespace {
 
-constexpr char Name[] = "Delete";
-constexpr char ContextLine[] = "Getting SCC Context to perform delete";
+constexpr char DeleteName[] = "Delete";
+constexpr char DeleteContextLine[] = "Getting SCC Context to perform delete";
 
 long removeFiles(const std::vector<std::string>& names, const std::string& comment, void* context) {
   FileNames files(names);
@@ -42,8 +42,8 @@ bool removeBatch(ProviderBatch& batch, const std::string& comment) {
 int DeleteMemberSCC::operator()(UnitList& units, ArgumentList& arguments,
                                 DiagnosticList& diagnostics, bool /*hybrid*/) {
   const UnitList all = withUnitsBelow(units);
-  std::vector<ProviderBatch> batches = batchesOf(all, Name, ContextLine);
-  if (batches.empty() || !offers(providerState().dll.SccRemove, Name, diagnostics)) return 0;
+  std::vector<ProviderBatch> batches = batchesOf(all, DeleteName, DeleteContextLine);
+  if (batches.empty() || !offers(providerState().dll.SccRemove, DeleteName, diagnostics)) return 0;
   const std::string comment = argumentValue(arguments, "log");
   std::size_t position = 0;
   int result = 1;
@@ -57,7 +57,7 @@ int DeleteMemberSCC::operator()(UnitList& units, ArgumentList& arguments,
 int DeleteMemberSCC::DeleteDirectory(const std::string& directory, ArgumentList& arguments,
                                      DiagnosticList& diagnostics, bool /*flag*/, IDObject* object) {
   const pvContextStruct* const context =
-      contextFor(object != nullptr ? object->getSaveUnit() : nullptr, ContextLine);
+      contextFor(object != nullptr ? object->getSaveUnit() : nullptr, DeleteContextLine);
   if (context == nullptr ||
       !offers(providerState().dll.SccRemove, "Delete Directory", diagnostics)) {
     return 0;

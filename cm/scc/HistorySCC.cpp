@@ -10,8 +10,8 @@ namespace veldra {
 
 namespace {
 
-constexpr char Name[] = "History";
-constexpr char ContextLine[] = "Getting SCC Context to show history";
+constexpr char HistoryName[] = "History";
+constexpr char HistoryContextLine[] = "Getting SCC Context to show history";
 
 long showHistory(FileNames files, void* context) {
   return callOnFiles(providerState().dll.SccHistory, CallLines::PrePostAndReturn, context,
@@ -44,8 +44,9 @@ bool showEach(DisplayCommand& display, ProviderBatch& batch) {
 
 int HistorySCC::operator()(UnitList& units, ArgumentList& /*arguments*/,
                            DiagnosticList& diagnostics) {
-  std::vector<ProviderBatch> batches = batchesOf(units, Name, ContextLine);
-  if (batches.empty() || !offers(providerState().dll.SccHistory, Name, diagnostics)) return 0;
+  std::vector<ProviderBatch> batches = batchesOf(units, HistoryName, HistoryContextLine);
+  if (batches.empty() || !offers(providerState().dll.SccHistory, HistoryName, diagnostics))
+    return 0;
   DisplayCommand display(units);
   std::size_t position = 0;
   int result = 1;
@@ -59,8 +60,9 @@ int HistorySCC::operator()(UnitList& units, ArgumentList& /*arguments*/,
 
 int HistorySCC::ofItems(CMArchiveItemList& items, ArgumentList& /*arguments*/,
                         DiagnosticList& diagnostics) {
-  const pvContextStruct* const context = contextFor(nullptr, ContextLine);
-  if (context == nullptr || !offers(providerState().dll.SccHistory, Name, diagnostics)) return 0;
+  const pvContextStruct* const context = contextFor(nullptr, HistoryContextLine);
+  if (context == nullptr || !offers(providerState().dll.SccHistory, HistoryName, diagnostics))
+    return 0;
   int result = 1;
   for (const CMArchiveItem* item : items) {
     if (item == nullptr) continue;

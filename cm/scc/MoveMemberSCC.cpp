@@ -17,8 +17,8 @@ namespace veldra {
 
 namespace {
 
-constexpr char Name[] = "Move";
-constexpr char ContextLine[] = "Getting SCC Context to perform move";
+constexpr char MoveName[] = "Move";
+constexpr char MoveContextLine[] = "Getting SCC Context to perform move";
 
 /// A unit and the full name that its file gets.
 using Move = std::pair<IUnit*, std::string>;
@@ -28,10 +28,11 @@ int carryOut(const std::vector<Move>& moves, DiagnosticList& diagnostics) {
   std::size_t position = 0;
   for (const auto& [unit, newName] : moves) {
     if (UnitReport::isCancelled()) return 0;
-    const pvContextStruct* const context = contextFor(unit, ContextLine);
-    if (context == nullptr || !offers(providerState().dll.SccRename, Name, diagnostics)) return 0;
+    const pvContextStruct* const context = contextFor(unit, MoveContextLine);
+    if (context == nullptr || !offers(providerState().dll.SccRename, MoveName, diagnostics))
+      return 0;
     const std::string file = unit->getFullFileName();
-    UnitReport report(Name, ++position, moves.size(), file);
+    UnitReport report(MoveName, ++position, moves.size(), file);
     if (!moveMember(*context, file, newName, report)) result = 0;
   }
   return result;

@@ -7,7 +7,7 @@ namespace veldra {
 
 namespace {
 
-constexpr char Name[] = "Properties";
+constexpr char PropertiesName[] = "Properties";
 
 long showProperties(const std::string& file, void* context) {
   SCCdll& dll = providerState().dll;
@@ -20,8 +20,9 @@ long showProperties(const std::string& file, void* context) {
 int PropertiesSCC::operator()(UnitList& units, ArgumentList& /*arguments*/,
                               DiagnosticList& diagnostics) {
   std::vector<ProviderBatch> batches =
-      batchesOf(units, Name, "Getting SCC Context to show properties");
-  if (batches.empty() || !offers(providerState().dll.SccProperties, Name, diagnostics)) return 0;
+      batchesOf(units, PropertiesName, "Getting SCC Context to show properties");
+  if (batches.empty() || !offers(providerState().dll.SccProperties, PropertiesName, diagnostics))
+    return 0;
   DisplayCommand display(units);
   std::size_t position = 0;
   int result = 1;

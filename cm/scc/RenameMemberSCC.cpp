@@ -11,7 +11,7 @@ namespace veldra {
 
 namespace {
 
-constexpr char Name[] = "Rename";
+constexpr char RenameName[] = "Rename";
 
 std::string inDirectoryOf(const IUnit& unit, const std::string& name) {
   return omIsAbsolutePath(name) ? name : joinPath(unit.getDirectory(), name);
@@ -35,8 +35,9 @@ int RenameMemberSCC::operator()(IUnit* unit, const std::string& oldName, const s
   const std::string from =
       oldName.empty() ? unit->getFullFileName() : inDirectoryOf(*unit, oldName);
   const pvContextStruct* const context = contextFor(unit, "Getting SCC Context to perform rename");
-  if (context == nullptr || !offers(providerState().dll.SccRename, Name, diagnostics)) return 0;
-  UnitReport report(Name, 1, 1, from);
+  if (context == nullptr || !offers(providerState().dll.SccRename, RenameName, diagnostics))
+    return 0;
+  UnitReport report(RenameName, 1, 1, from);
   return moveMember(*context, from, inDirectoryOf(*unit, newName), report) ? 1 : 0;
 }
 

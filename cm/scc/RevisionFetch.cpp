@@ -13,7 +13,7 @@ namespace veldra {
 
 namespace {
 
-constexpr char ContextLine[] = "Getting SCC Context to perform fetch";
+constexpr char FetchContextLine[] = "Getting SCC Context to perform fetch";
 
 /// A working file under another name. A file that is not there needs none.
 class SetAside {
@@ -76,7 +76,7 @@ bool fetchBeside(const std::string& file, const std::string& target, const Fetch
 
 bool fetchBesideByProvider(IUnit* unit, const std::string& file, const std::string& target,
                            UnitReport& report) {
-  const pvContextStruct* const context = contextFor(unit, ContextLine);
+  const pvContextStruct* const context = contextFor(unit, FetchContextLine);
   if (context == nullptr) {
     report.endsAs(UnitEnd::NotRun);
     return false;
@@ -90,7 +90,7 @@ bool fetchBesideByProvider(IUnit* unit, const std::string& file, const std::stri
 }
 
 bool fetchInPlace(IUnit* unit, const std::string& file, UnitReport& report) {
-  const pvContextStruct* const context = contextFor(unit, ContextLine);
+  const pvContextStruct* const context = contextFor(unit, FetchContextLine);
   const KeptCopy kept(KeepRule::EveryFile, file, "Fetch from Archive");
   if (mustStay(kept, report)) return false;
   if (context != nullptr) return getFile(file, context->getpvContextPtr(), report);

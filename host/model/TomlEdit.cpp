@@ -5,12 +5,11 @@
 #include <filesystem>
 #include <utility>
 
+#include "host/model/TomlSettings.h"
 #include "host/platform/AtomicFile.h"
 
 namespace veldra::host {
 namespace {
-
-constexpr std::size_t SettingsFileLimit = 4U << 20U;
 
 /// The offset of a position that the parser reports: lines and columns count from 1, columns in
 /// characters.

@@ -9,8 +9,6 @@
 namespace veldra::host {
 namespace {
 
-constexpr std::size_t SettingsFileLimit = 4U << 20U;
-
 std::string lineOf(const toml::source_region& where) {
   return "Line " + std::to_string(where.begin.line);
 }
@@ -85,7 +83,7 @@ class Reader {
   TomlSettings m_settings;
 };
 
-bool exists(const std::string& file) {
+bool isThere(const std::string& file) {
   std::error_code failed;
   return std::filesystem::exists(file, failed);
 }
@@ -93,7 +91,7 @@ bool exists(const std::string& file) {
 }  // namespace
 
 TomlSettings readTomlSettings(const std::string& file, Problems& problems) {
-  if (file.empty() || !exists(file)) return {};
+  if (file.empty() || !isThere(file)) return {};
   const Result<std::string> text = readFile(file, SettingsFileLimit);
   if (!text) {
     problems.push_back({file, text.error(), "Its settings are left out until it can be read."});

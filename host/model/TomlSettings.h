@@ -12,6 +12,9 @@
 
 namespace veldra::host {
 
+/// The longest settings file that is read, in bytes.
+inline constexpr std::size_t SettingsFileLimit = 4U << 20U;
+
 /// The lines of a tool pack's own table.
 struct PackDescription {
   std::string name;  ///< The tool's name, which is also the metaclass of its properties.

@@ -12,7 +12,7 @@ namespace veldra::host {
 namespace {
 
 /// The process whose number the name carries; 0 when it is another file's name.
-long processOf(std::string_view name) {
+long ownerOf(std::string_view name) {
   constexpr std::string_view Prefix = "veldra-cm-";
   constexpr std::size_t SuffixLength = sizeof("-XXXXXX") - 1;
   if (!name.starts_with(Prefix) || name.size() <= Prefix.size() + SuffixLength) return 0;
@@ -31,7 +31,7 @@ std::size_t removeStaleTempFiles(const std::string& directory) {
   std::error_code error;
   for (std::filesystem::directory_iterator at(directory, error), end; !error && at != end;
        at.increment(error)) {
-    const long process = processOf(at->path().filename().native());
+    const long process = ownerOf(at->path().filename().native());
     if (process == 0 || isProcessAlive(process)) continue;
     std::error_code refused;
     if (std::filesystem::remove_all(at->path(), refused) > 0 && !refused) ++removed;

@@ -6,7 +6,7 @@ namespace veldra::live {
 
 namespace {
 
-class Git : public Tool {
+class GitTool : public Tool {
  public:
   using Tool::Tool;
 
@@ -54,7 +54,7 @@ class Git : public Tool {
 }  // namespace
 
 std::unique_ptr<Tool> makeGit(const Sandbox& sandbox) {
-  return std::make_unique<Git>(sandbox, "archive");
+  return std::make_unique<GitTool>(sandbox, "archive");
 }
 
 }  // namespace veldra::live

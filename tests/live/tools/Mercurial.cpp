@@ -6,7 +6,7 @@ namespace veldra::live {
 
 namespace {
 
-class Mercurial : public Tool {
+class MercurialTool : public Tool {
  public:
   using Tool::Tool;
 
@@ -58,7 +58,7 @@ class Mercurial : public Tool {
 }  // namespace
 
 std::unique_ptr<Tool> makeMercurial(const Sandbox& sandbox) {
-  return std::make_unique<Mercurial>(sandbox, "archive");
+  return std::make_unique<MercurialTool>(sandbox, "archive");
 }
 
 }  // namespace veldra::live

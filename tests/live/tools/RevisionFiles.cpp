@@ -45,7 +45,7 @@ class RevisionFiles : public Tool {
   }
 };
 
-class Rcs : public RevisionFiles {
+class RcsTool : public RevisionFiles {
  public:
   using RevisionFiles::RevisionFiles;
 
@@ -88,7 +88,7 @@ class Rcs : public RevisionFiles {
   }
 };
 
-class Cvs : public RevisionFiles {
+class CvsTool : public RevisionFiles {
  public:
   using RevisionFiles::RevisionFiles;
 
@@ -143,11 +143,11 @@ class Cvs : public RevisionFiles {
 }  // namespace
 
 std::unique_ptr<Tool> makeRcs(const Sandbox& sandbox) {
-  return std::make_unique<Rcs>(sandbox, "archive");
+  return std::make_unique<RcsTool>(sandbox, "archive");
 }
 
 std::unique_ptr<Tool> makeCvs(const Sandbox& sandbox) {
-  return std::make_unique<Cvs>(sandbox, "archive");
+  return std::make_unique<CvsTool>(sandbox, "archive");
 }
 
 }  // namespace veldra::live

@@ -6,7 +6,7 @@ namespace veldra::live {
 
 namespace {
 
-class Subversion : public Tool {
+class SubversionTool : public Tool {
  public:
   using Tool::Tool;
 
@@ -66,7 +66,7 @@ class Subversion : public Tool {
 }  // namespace
 
 std::unique_ptr<Tool> makeSubversion(const Sandbox& sandbox) {
-  return std::make_unique<Subversion>(sandbox, "archive");
+  return std::make_unique<SubversionTool>(sandbox, "archive");
 }
 
 }  // namespace veldra::live
