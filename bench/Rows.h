@@ -24,6 +24,14 @@ double floodAgainstCat();
 double floodMemory();
 double comparisonAgainstDiff();
 
+// These need the dialogs.
+double openListAgainstBareView();
+double openTreeAgainstBareView();
+double dialogMemory();
+double sortAgainstStdSort();
+double refillAgainstOpening();
+double refillKeepsSelection();
+
 /// Prints 200 MB on each of the two outputs, for the rows about floods.
 int printFlood();
 

@@ -15,7 +15,8 @@ struct Row {
   const char* name;
   double (*measure)();
   double goal;
-  bool ownProcess = false;  ///< Peaks of memory would mix with those of other rows.
+  /// Its memory, or its windows, would disturb other rows.
+  bool ownProcess = false;
 };
 
 using namespace veldra::bench;
@@ -47,6 +48,15 @@ constexpr auto Rows = std::to_array<Row>({
     {"flood-memory: bytes held / bytes printed", floodMemory, 3.0, true},
     {"compare: two revisions of 50,000 elements / diff, and the parsing of both",
      comparisonAgainstDiff, 2.0},
+#ifdef VELDRA_BENCH_DIALOGS
+    {"open-list: dialog on 100,000 units, first frame / bare view", openListAgainstBareView, 1.5,
+     true},
+    {"open-tree: the same with the tree", openTreeAgainstBareView, 1.5, true},
+    {"open-memory: bytes of the dialog per unit", dialogMemory, 200, true},
+    {"sort: 100,000 rows, worst column / std::sort of the strings", sortAgainstStdSort, 1.5, true},
+    {"refill: after a command on one of 100,000 units / opening", refillAgainstOpening, 0.5, true},
+    {"refill-selected: with 10,000 rows selected / with none", refillKeepsSelection, 1.3, true},
+#endif
 });
 
 bool isWanted(std::string_view name, int argc, char** argv) {

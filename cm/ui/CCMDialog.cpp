@@ -8,6 +8,7 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 #include <initializer_list>
+#include <utility>
 
 #include "cm/ui/Icons.h"
 #include "cm/ui/RefillScope.h"
@@ -39,13 +40,17 @@ CCMDialog::CCMDialog(QWidget* parent)
   OnInitDialog();
 }
 
-CCMDialog::~CCMDialog() = default;
+CCMDialog::~CCMDialog() {
+  // Closing lays the views out once more, when what they show is gone already.
+  for (QTreeView* view : {m_tree, m_list}) view->setModel(nullptr);
+}
 
 void CCMDialog::DoPopupCmDialog(QWidget* parent) {
   CCMDialog(parent).exec();
 }
 
-const LiveUnits& CCMDialog::units() const {
+const LiveUnits& CCMDialog::units() {
+  orderRows();
   return m_data->units;
 }
 
@@ -117,9 +122,8 @@ void CCMDialog::OnInitDialog() {
     sortItems();
     CmFillCI();
   }
-  setView(ViewState::isFlat());
   restorePlace({880, 620});
-  fitColumns(*m_list, width());
+  setView(ViewState::isFlat());
 }
 
 void CCMDialog::addColumns() {
@@ -128,10 +132,8 @@ void CCMDialog::addColumns() {
 
 void CCMDialog::setView(bool flat) {
   ViewState::setViewMode(flat ? "Flat" : "Tree");
-  if (!flat && m_isExpandDue) {
-    m_tree->expandAll();
-    m_isExpandDue = false;
-  }
+  fillVisibleView();
+  if (flat && std::exchange(m_isFitDue, false)) fitColumns(*m_list, width());
   updateState();
   m_panel->setCommandsEnabled(true);
   visibleView()->setFocus();

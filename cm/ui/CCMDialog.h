@@ -70,7 +70,7 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public CommandWindow, private CommandView 
   void DoAfterOpRefresh() override;
   void setView(bool flat);
   /// The units as they stand in the list.
-  const LiveUnits& units() const;
+  const LiveUnits& units();
 
  protected:
   /// Puts the workspace into a new order: position i gets what was at `order[i]`.
@@ -106,6 +106,10 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public CommandWindow, private CommandView 
   void refresh40001();
   void afterCommand() override;
   void fillViews();
+  void fillVisibleView();
+  void showRowsAnew();
+  void expandTree();
+  void orderRows();
   void applyFilter(const QString& text);
   void rememberTreeSelection();
   void restoreTreeSelection();
@@ -132,6 +136,8 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public CommandWindow, private CommandView 
   bool m_isRefillDue = false;
   bool m_isTreeDue = false;
   bool m_isExpandDue = false;
+  bool m_isOrderDue = false;
+  bool m_isFitDue = true;
   bool m_isRefreshDue = false;
 };
 

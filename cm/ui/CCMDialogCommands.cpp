@@ -66,7 +66,7 @@ void CCMDialog::runPressed(DialogCommand command) {
 
 void CCMDialog::runUserCommand(DialogCommand command) {
   const UnitList units = CmSelectedItems();
-  const HeldInput held(*this);
+  const HeldWindow held(*this);
   m_data->isFrozen = true;
   UserDefinedCommand::run(command, units);
   m_data->isFrozen = false;

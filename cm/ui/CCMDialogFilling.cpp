@@ -26,15 +26,20 @@ void CCMDialog::updateList() {
   ArgumentList noArguments;
   DiagnosticList diagnostics;
   if (activeProjectUnit() != nullptr) CMFacade::ListWorkspace(units, noArguments, diagnostics);
-  m_listModel->beginRefill();
+  std::erase(units, nullptr);
+  // A view on as many rows as before need not be laid out anew.
+  const bool keepsRows = units.size() == m_data->units.size();
+  setSelection(*m_list, {});
+  if (!keepsRows) m_listModel->beginRefill();
   m_treeModel->beginRefill();
   m_data->isFrozen = false;
   m_data->texts.emplace();
   m_data->units.assign(units);
   m_data->tree.clear();
   m_isTreeDue = true;
+  m_isOrderDue = false;
   m_treeModel->endRefill();
-  m_listModel->endRefill();
+  if (!keepsRows) m_listModel->endRefill();
   CmFillCI();
 }
 
@@ -45,8 +50,20 @@ void CCMDialog::CmFillCI() {
 
 void CCMDialog::fillViews() {
   m_isRefillDue = false;
-  m_listModel->beginRefill();
-  m_listModel->endRefill();
+  fillVisibleView();
+  showRowsAnew();
+  applyFilter(m_filter->text());
+  // Every reset made new selection models.
+  for (QTreeView* view : {m_tree, m_list}) {
+    connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &CCMDialog::updateState, Qt::UniqueConnection);
+  }
+  m_list->header()->setSortIndicator(ViewState::sortColumn(), Qt::AscendingOrder);
+  updateState();
+}
+
+void CCMDialog::fillVisibleView() {
+  if (ViewState::isFlat()) return orderRows();
   if (m_isTreeDue) {
     m_treeModel->beginRefill();
     m_data->tree.fill(activeProjectUnit(), m_data->units);
@@ -54,30 +71,41 @@ void CCMDialog::fillViews() {
     m_isTreeDue = false;
     m_isExpandDue = true;
   }
-  applyFilter(m_filter->text());
-  // Every reset made new selection models.
-  for (QTreeView* view : {m_tree, m_list}) {
-    connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &CCMDialog::updateState, Qt::UniqueConnection);
+  if (m_isExpandDue) expandTree();
+}
+
+void CCMDialog::showRowsAnew() {
+  // A view that is told which rows have changed looks for the place of each; it has to paint no
+  // more than it shows. A filter has to look at all of them.
+  if (m_list->model() == m_listModel) return m_list->viewport()->update();
+  m_listModel->beginRefill();
+  m_listModel->endRefill();
+}
+
+void CCMDialog::expandTree() {
+  m_isExpandDue = false;
+  if (m_tree->model() != m_treeModel) return m_tree->expandAll();
+  // The view remembers every line that is open; the many without children need not be.
+  for (std::size_t node = 0; node < m_data->tree.size(); ++node) {
+    if (m_data->tree.childCount(node) > 0) m_tree->expand(m_treeModel->indexOfNode(node));
   }
-  if (!ViewState::isFlat() && m_isExpandDue) {
-    m_tree->expandAll();
-    m_isExpandDue = false;
-  }
-  m_list->header()->setSortIndicator(ViewState::sortColumn(), Qt::AscendingOrder);
-  updateState();
 }
 
 void CCMDialog::sortItems() {
   const RefillScope once(*this);
-  if (!m_data->texts) return;
-  PrepareWsList(orderByColumn(m_data->units, *m_data->texts, ViewState::sortColumn()));
+  m_isOrderDue = m_data->texts.has_value();
   CmFillCI();
+}
+
+void CCMDialog::orderRows() {
+  if (!m_isOrderDue) return;
+  m_isOrderDue = false;
+  PrepareWsList(orderByColumn(m_data->units, *m_data->texts, ViewState::sortColumn()));
+  showRowsAnew();
 }
 
 void CCMDialog::PrepareWsList(const std::vector<std::size_t>& order) {
   m_data->units.reorder(order);
-  if (!m_isTreeDue && m_data->tree.size() > 0) m_data->tree.reorder(order);
 }
 
 void CCMDialog::OnColumnclickFlatlist(int column) {
@@ -112,17 +140,18 @@ void CCMDialog::applyFilter(const QString& text) {
   m_listFilter->apply(text, *m_list);
   m_treeFilter->apply(text, *m_tree);
   if (text.isEmpty()) m_isExpandDue = true;
-  if (m_isExpandDue && !ViewState::isFlat()) {
-    m_tree->expandAll();
-    m_isExpandDue = false;
-  }
+  if (m_isExpandDue && !ViewState::isFlat()) expandTree();
   updateState();
 }
 
 // --- selection ---
 
 std::size_t CCMDialog::GetSelectedCount() {
-  return static_cast<std::size_t>(visibleView()->selectionModel()->selectedRows().size());
+  std::size_t count = 0;
+  for (const QItemSelectionRange& range : visibleView()->selectionModel()->selection()) {
+    count += static_cast<std::size_t>(range.height());
+  }
+  return count;
 }
 
 QModelIndex CCMDialog::sourceOf(const QModelIndex& index) const {
@@ -147,7 +176,7 @@ UnitList CCMDialog::TreeCmSelectedItems() {
   UnitList units;
   for (const QModelIndex& index : m_tree->selectionModel()->selectedRows()) {
     const std::size_t node = UnitTreeModel::nodeOf(m_treeFilter->sourceOf(index));
-    IUnit* const unit = m_data->units.at(m_data->tree.unitOf(node));
+    IUnit* const unit = m_data->units.atPlace(m_data->tree.unitOf(node));
     if (unit != nullptr) units.push_back(unit);
   }
   m_selectedFiles.clear();
@@ -191,19 +220,23 @@ void CCMDialog::restoreTreeSelection() {
 }
 
 void CCMDialog::selectFiles(const std::function<bool(const std::string&)>& isMeant) {
+  const bool flat = ViewState::isFlat();
   std::vector<int> rows;
   QItemSelection nodes;
   for (std::size_t i = 0; i < m_data->units.size(); ++i) {
     const IUnit* const unit = m_data->units.at(i);
     if (unit == nullptr || !isMeant(unit->getFullFileName())) continue;
-    rows.push_back(static_cast<int>(i));
-    const std::size_t node = m_data->tree.nodeOf(i);
+    if (flat) {
+      rows.push_back(static_cast<int>(i));
+      continue;
+    }
+    const std::size_t node = m_data->tree.nodeOf(m_data->units.placeAt(i));
     if (node == WorkspaceTree::None) continue;
     const QModelIndex index = m_treeFilter->shownFor(m_treeModel->indexOfNode(node));
     if (index.isValid()) nodes.append(QItemSelectionRange(index));
   }
-  if (ViewState::isFlat()) return selectRows(*m_list, *m_listFilter, *m_listModel, rows);
-  m_tree->selectionModel()->select(nodes, QItemSelectionModel::ClearAndSelect);
+  if (flat) return selectRows(*m_list, *m_listFilter, *m_listModel, rows);
+  setSelection(*m_tree, nodes);
   if (!nodes.isEmpty()) m_tree->scrollTo(nodes.first().topLeft());
 }
 

@@ -68,16 +68,19 @@ class InkEngine : public QIconEngine {
   QPalette::ColorRole m_selectedInk;
 };
 
-/// Two icons beside each other.
+/// Two icons beside each other, and perhaps a third one in the corner of the right one.
 class PairEngine : public QIconEngine {
  public:
-  PairEngine(QIcon left, QIcon right) : m_left(std::move(left)), m_right(std::move(right)) {}
+  PairEngine(QIcon left, QIcon right, QIcon corner)
+      : m_left(std::move(left)), m_right(std::move(right)), m_corner(std::move(corner)) {}
 
   void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State) override {
     const int side = place.height();
     m_left.paint(painter, QRect(place.left(), place.top(), side, side), Qt::AlignCenter, mode);
-    m_right.paint(painter, QRect(place.right() - side + 1, place.top(), side, side),
-                  Qt::AlignCenter, mode);
+    const QRect right(place.right() - side + 1, place.top(), side, side);
+    m_right.paint(painter, right, Qt::AlignCenter, mode);
+    m_corner.paint(painter, right.adjusted(side * 2 / 5, side * 2 / 5, 0, 0), Qt::AlignCenter,
+                   mode);
   }
 
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
@@ -88,11 +91,12 @@ class PairEngine : public QIconEngine {
     return picture;
   }
 
-  QIconEngine* clone() const override { return new PairEngine(m_left, m_right); }
+  QIconEngine* clone() const override { return new PairEngine(m_left, m_right, m_corner); }
 
  private:
   QIcon m_left;
   QIcon m_right;
+  QIcon m_corner;
 };
 
 QHash<QString, QIcon>& cache() {
@@ -154,16 +158,17 @@ QIcon itemIcon(const CMArchiveItem& item) {
   return type.empty() ? shellIcon(item.getFileName()) : drawn(drawingOf(type));
 }
 
-QIcon unitIconWithState(const IUnit& unit) {
+QIcon unitIconWithState(const IUnit& unit, int overlay) {
   // Without a provider no state is known; the image of an invalid one would say "deleted".
   const int state = CMStatus::getIsInvalid(&unit) != 0 ? 0 : CMStatus::getCMStatusImgIndex(&unit);
   const QString kind =
       isEmbedded(unit) ? QStringLiteral("shell/") + QFileInfo(shown(unit.getFileName())).suffix()
                        : drawingOf(unit.getTypeName());
-  const QString key = QStringLiteral("pair/%1/%2").arg(state).arg(kind);
+  const QString key = QStringLiteral("pair/%1/%2/%3").arg(state).arg(overlay).arg(kind);
   const auto known = cache().constFind(key);
   if (known != cache().constEnd()) return *known;
-  const QIcon pair(new PairEngine(stateIcon(state), unitIcon(unit)));
+  const QIcon corner = overlay == 0 ? QIcon() : drawn(QStringLiteral("overlay-%1").arg(overlay));
+  const QIcon pair(new PairEngine(stateIcon(state), unitIcon(unit), corner));
   cache().insert(key, pair);
   return pair;
 }

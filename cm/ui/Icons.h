@@ -21,8 +21,9 @@ VELDRA_CM_UI_EXPORT QIcon stateIcon(int imageIndex);
 VELDRA_CM_UI_EXPORT QIcon unitIcon(const IUnit& unit);
 /// The kind that a file of the archive would have, as its name tells.
 VELDRA_CM_UI_EXPORT QIcon itemIcon(const CMArchiveItem& item);
-/// The state and the kind side by side, as a line of the tree shows them.
-VELDRA_CM_UI_EXPORT QIcon unitIconWithState(const IUnit& unit);
+/// The state and the kind side by side, as a line of the tree shows them; `overlay` lies over the
+/// kind, 0 for none (see `OverlayImage`).
+VELDRA_CM_UI_EXPORT QIcon unitIconWithState(const IUnit& unit, int overlay = 0);
 /// Twice as wide as high.
 VELDRA_CM_UI_EXPORT QSize unitIconWithStateSize(int height);
 

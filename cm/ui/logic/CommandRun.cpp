@@ -207,9 +207,27 @@ bool CommandRun::callRecursive(const CommandRow& row, UnitList& units,
     const RunningScope running(m_view, row);
     return checkOutItems(units, arguments.list(), m_diagnostics);
   }
+  if (row.command == DialogCommand::Fetch) return fetchRecursive(row, units, options);
   // A provider has no recursive undo of its own: the plain one gets every unit.
   const bool plainUndo = row.command == DialogCommand::UndoCheckOut && usesProvider;
   return call(row, plainUndo ? row.call : row.recursiveCall, units, options);
+}
+
+bool CommandRun::fetchRecursive(const CommandRow& row, const UnitList& units,
+                                const CommandOptions& options) {
+  const bool takesApart =
+      CMProperty::getProjectBool(IPN::General, "FetchStubSubUnitsSeparately", false);
+  UnitList loaded;
+  UnitList stubs;
+  for (IUnit* unit : units) {
+    const bool isApart = takesApart && (unit->getFlags() & UnitFlag::Stub) != 0;
+    (isApart ? stubs : loaded).push_back(unit);
+  }
+  const LiveUnits live(stubs);
+  const bool succeeded = loaded.empty() || call(row, row.recursiveCall, loaded, options);
+  // The first fetch may have loaded what stood for others.
+  stubs = live.alive();
+  return (stubs.empty() || call(row, row.recursiveCall, stubs, options)) && succeeded;
 }
 
 void CommandRun::finish(const CommandRow& row, const CommandOptions& options, bool succeeded) {

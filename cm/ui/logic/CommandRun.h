@@ -35,6 +35,7 @@ class VELDRA_CM_EXPORT CommandRun {
   bool call(const CommandRow& row, UnitCommandFunction function, UnitList& units,
             const CommandOptions& options);
   bool callRecursive(const CommandRow& row, UnitList& units, const CommandOptions& options);
+  bool fetchRecursive(const CommandRow& row, const UnitList& units, const CommandOptions& options);
   void finish(const CommandRow& row, const CommandOptions& options, bool succeeded);
 
   CommandView& m_view;

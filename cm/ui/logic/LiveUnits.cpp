@@ -6,22 +6,37 @@
 namespace veldra {
 
 void LiveUnits::assign(const UnitList& units) {
-  m_entries.clear();
+  std::vector<Entry> former = std::exchange(m_entries, {});
+  m_order.clear();
   m_entries.reserve(units.size());
+  std::size_t next = 0;
   for (IUnit* unit : units) {
+    if (unit == nullptr) continue;
+    // One that was replaced or taken out does not keep those behind it from being found.
+    for (const std::size_t candidate : {next, next + 1}) {
+      if (candidate >= former.size() || former[candidate].get() != unit) continue;
+      m_entries.push_back(std::move(former[candidate]));
+      next = candidate + 1;
+      unit = nullptr;
+      break;
+    }
     if (unit != nullptr) m_entries.push_back({unit, unit->getHandle()});
   }
 }
 
 IUnit* LiveUnits::at(std::size_t position) const {
-  return position < m_entries.size() ? m_entries[position].get() : nullptr;
+  return position < m_entries.size() ? m_entries[placeAt(position)].get() : nullptr;
+}
+
+IUnit* LiveUnits::atPlace(std::size_t place) const {
+  return place < m_entries.size() ? m_entries[place].get() : nullptr;
 }
 
 UnitList LiveUnits::alive() const {
   UnitList units;
-  units.reserve(m_entries.size());
-  for (const Entry& entry : m_entries) {
-    if (IUnit* const unit = entry.get()) units.push_back(unit);
+  units.reserve(size());
+  for (std::size_t position = 0; position < size(); ++position) {
+    if (IUnit* const unit = at(position)) units.push_back(unit);
   }
   return units;
 }
@@ -32,10 +47,12 @@ bool LiveUnits::anyGone() const {
 }
 
 void LiveUnits::reorder(const std::vector<std::size_t>& order) {
-  std::vector<Entry> ordered;
-  ordered.reserve(order.size());
-  for (const std::size_t position : order) ordered.push_back(std::move(m_entries[position]));
-  m_entries = std::move(ordered);
+  std::vector<std::uint32_t> reordered;
+  reordered.reserve(order.size());
+  for (const std::size_t position : order) {
+    reordered.push_back(static_cast<std::uint32_t>(placeAt(position)));
+  }
+  m_order = std::move(reordered);
 }
 
 }  // namespace veldra

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -12,23 +13,31 @@ namespace veldra {
 
 /// A list of units that may die while it is kept: a window may stand open for hours, and a question
 /// lets the host do other things.
+///
+/// A position says where a unit stands now, a place where it stood when the list was assigned.
 class VELDRA_CM_EXPORT LiveUnits {
  public:
   LiveUnits() = default;
   explicit LiveUnits(const UnitList& units) { assign(units); }
 
-  /// Null entries are left out.
+  /// Null entries are left out. Units that were in the list already cost next to nothing, as long
+  /// as they come in the order of the former assignment.
   void assign(const UnitList& units);
-  void clear() { m_entries.clear(); }
+  void clear() { assign({}); }
   std::size_t size() const { return m_entries.size(); }
   bool empty() const { return m_entries.empty(); }
 
   /// The unit at that position, or null when it is gone or there is no such position.
   IUnit* at(std::size_t position) const;
+  std::size_t placeAt(std::size_t position) const {
+    return m_order.empty() ? position : m_order[position];
+  }
+  /// The same by place.
+  IUnit* atPlace(std::size_t place) const;
   /// Those that still exist, in order.
   UnitList alive() const;
   bool anyGone() const;
-  /// Puts the entries into another order: position i gets what was at `order[i]`.
+  /// Puts the units into another order: position i gets what was at `order[i]`.
   void reorder(const std::vector<std::size_t>& order);
 
  private:
@@ -40,6 +49,7 @@ class VELDRA_CM_EXPORT LiveUnits {
     }
   };
   std::vector<Entry> m_entries;
+  std::vector<std::uint32_t> m_order;  ///< Empty as long as positions are places.
 };
 
 }  // namespace veldra

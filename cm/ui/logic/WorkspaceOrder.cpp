@@ -1,36 +1,23 @@
 #include "cm/ui/logic/WorkspaceOrder.h"
 
-#include <algorithm>
-#include <string>
-#include <tuple>
+#include "cm/ui/logic/KeyOrder.h"
 
 namespace veldra {
 
-namespace {
-
-struct Record {
-  std::string key;
-  std::size_t position;
-  bool isGone;
-};
-
-}  // namespace
-
 std::vector<std::size_t> orderByColumn(const LiveUnits& units, const UnitTexts& texts,
                                        std::int32_t column) {
-  std::vector<Record> records;
-  records.reserve(units.size());
+  KeyOrder keys(units.size());
+  std::vector<std::size_t> alive;
+  std::vector<std::size_t> gone;
+  alive.reserve(units.size());
   for (std::size_t position = 0; position < units.size(); ++position) {
     const IUnit* const unit = units.at(position);
-    records.push_back({unit != nullptr ? texts.sortKey(*unit, column) : std::string(), position,
-                       unit == nullptr});
+    if (unit != nullptr) keys.add(texts.sortKey(*unit, column));
+    (unit != nullptr ? alive : gone).push_back(position);
   }
-  std::sort(records.begin(), records.end(), [](const Record& a, const Record& b) {
-    return std::tie(a.isGone, a.key, a.position) < std::tie(b.isGone, b.key, b.position);
-  });
-  std::vector<std::size_t> order;
-  order.reserve(records.size());
-  for (const Record& record : records) order.push_back(record.position);
+  std::vector<std::size_t> order = keys.order();
+  for (std::size_t& place : order) place = alive[place];
+  order.insert(order.end(), gone.begin(), gone.end());
   return order;
 }
 

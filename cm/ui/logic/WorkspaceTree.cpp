@@ -1,29 +1,32 @@
 #include "cm/ui/logic/WorkspaceTree.h"
 
-#include <unordered_set>
+#include <unordered_map>
+#include <utility>
 
 #include "cm/host/IProject.h"
+#include "cm/ui/logic/ObjectPlaces.h"
 
 namespace veldra {
 
 /// Goes through the aggregates without recursion, since models nest as deep as their users like.
 class WorkspaceTree::Walk {
  public:
-  Walk(WorkspaceTree& tree, const LiveUnits& units) : m_tree(tree) {
-    m_positions.reserve(units.size());
-    for (std::size_t i = 0; i < units.size(); ++i) {
-      m_positions.emplace(units.at(i), static_cast<std::uint32_t>(i));
+  Walk(WorkspaceTree& tree, const LiveUnits& units)
+      : m_tree(tree), m_units(units), m_known(units.size()) {
+    for (std::size_t place = 0; place < units.size(); ++place) {
+      const IDObject* const unit = units.atPlace(place);
+      if (unit != nullptr) m_known.of(unit).place = static_cast<std::uint32_t>(place);
     }
   }
 
   void from(IProject& project) {
-    m_tree.m_nodes.push_back({0, 0, positionOf(project)});
-    m_seen.insert(&project);
+    meet(project);
+    m_tree.m_nodes.push_back({0, 0, placeOf(project)});
     open(project, 0);
     while (!m_open.empty()) {
       const Step step = m_open.back();
       m_open.pop_back();
-      if (step.object != nullptr && m_seen.insert(step.object).second) visit(step);
+      if (step.object != nullptr && meet(*step.object)) visit(step);
     }
   }
 
@@ -33,15 +36,18 @@ class WorkspaceTree::Walk {
     std::uint32_t parent;
   };
 
+  /// False when the object has been met before.
+  bool meet(const IDObject& object) { return !std::exchange(m_known.of(&object).isMet, true); }
+
   void visit(const Step& step) {
     IUnit* const unit = step.object->asUnit();
     if (unit != nullptr && unit->isExcludedFromWorkspace()) return;
     std::uint32_t parent = step.parent;
     if (unit != nullptr && hasOwnFile(*unit)) {
-      const std::uint32_t position = positionOf(*unit);
-      if (position != NoUnit) {
+      const std::uint32_t place = placeOf(*unit);
+      if (place != NoUnit) {
         parent = static_cast<std::uint32_t>(m_tree.m_nodes.size());
-        m_tree.m_nodes.push_back({step.parent, 0, position});
+        m_tree.m_nodes.push_back({step.parent, 0, place});
       }
     }
     open(*step.object, parent);
@@ -57,9 +63,10 @@ class WorkspaceTree::Walk {
     return (unit.getFlags() & UnitFlag::SavedSeparately) != 0 || unit.asEmbededFile() != nullptr;
   }
 
-  std::uint32_t positionOf(IUnit& unit) {
-    const auto found = m_positions.find(&unit);
-    if (found != m_positions.end()) return found->second;
+  std::uint32_t placeOf(const IUnit& unit) {
+    const IDObject* const object = &unit;
+    const std::uint32_t place = m_known.of(object).place;
+    if (place != ObjectPlaces::None) return place;
     readFileNames();
     const auto byFile = m_byFile.find(unit.getFullFileName());
     return byFile != m_byFile.end() ? byFile->second : NoUnit;
@@ -68,15 +75,18 @@ class WorkspaceTree::Walk {
   /// Only for hosts that show one file's unit as several objects.
   void readFileNames() {
     if (!m_byFile.empty()) return;
-    for (const auto& [unit, position] : m_positions) {
-      if (unit != nullptr) m_byFile.emplace(unit->getFullFileName(), position);
+    for (std::size_t place = 0; place < m_units.size(); ++place) {
+      const IUnit* const unit = m_units.atPlace(place);
+      if (unit != nullptr) {
+        m_byFile.emplace(unit->getFullFileName(), static_cast<std::uint32_t>(place));
+      }
     }
   }
 
   WorkspaceTree& m_tree;
-  std::unordered_map<const IUnit*, std::uint32_t> m_positions;
+  const LiveUnits& m_units;
+  ObjectPlaces m_known;
   std::unordered_map<std::string, std::uint32_t> m_byFile;
-  std::unordered_set<const IDObject*> m_seen;
   std::vector<Step> m_open;
 };
 
@@ -91,6 +101,7 @@ void WorkspaceTree::fill(IProject* project, const LiveUnits& units) {
   clear();
   if (project == nullptr) return;
   Walk(*this, units).from(*project);
+  m_nodes.shrink_to_fit();
   m_nodeOfUnit.assign(units.size(), NoUnit);
   for (std::uint32_t node = 0; node < m_nodes.size(); ++node) {
     if (m_nodes[node].unit != NoUnit) m_nodeOfUnit[m_nodes[node].unit] = node;
@@ -119,20 +130,9 @@ std::size_t WorkspaceTree::unitOf(std::size_t node) const {
   return unit == NoUnit ? None : unit;
 }
 
-std::size_t WorkspaceTree::nodeOf(std::size_t position) const {
-  if (position >= m_nodeOfUnit.size() || m_nodeOfUnit[position] == NoUnit) return None;
-  return m_nodeOfUnit[position];
-}
-
-void WorkspaceTree::reorder(const std::vector<std::size_t>& order) {
-  std::vector<std::uint32_t> reordered;
-  reordered.reserve(order.size());
-  for (const std::size_t position : order) {
-    const std::uint32_t node = m_nodeOfUnit[position];
-    if (node != NoUnit) m_nodes[node].unit = static_cast<std::uint32_t>(reordered.size());
-    reordered.push_back(node);
-  }
-  m_nodeOfUnit = std::move(reordered);
+std::size_t WorkspaceTree::nodeOf(std::size_t place) const {
+  if (place >= m_nodeOfUnit.size() || m_nodeOfUnit[place] == NoUnit) return None;
+  return m_nodeOfUnit[place];
 }
 
 }  // namespace veldra

@@ -2,8 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
-#include <unordered_map>
 #include <vector>
 
 #include "cm/host/Export.h"
@@ -19,7 +17,7 @@ class VELDRA_CM_EXPORT WorkspaceTree {
  public:
   static constexpr std::size_t None = static_cast<std::size_t>(-1);
 
-  /// `units` are the workspace; a position in it identifies the unit of a node.
+  /// `units` are the workspace; a place in it identifies the unit of a node.
   void fill(IProject* project, const LiveUnits& units);
   void clear();
 
@@ -34,12 +32,10 @@ class VELDRA_CM_EXPORT WorkspaceTree {
   std::size_t childAt(std::size_t node, std::size_t row) const {
     return m_children[m_firstChild[node] + row];
   }
-  /// The position of the node's unit in the workspace; `None` when the project is no part of it.
+  /// The place of the node's unit in the workspace; `None` when the project is no part of it.
   std::size_t unitOf(std::size_t node) const;
-  /// The node of a position in the workspace, or `None`.
-  std::size_t nodeOf(std::size_t position) const;
-  /// After the workspace was put into another order.
-  void reorder(const std::vector<std::size_t>& order);
+  /// The node of a place in the workspace, or `None`.
+  std::size_t nodeOf(std::size_t place) const;
 
  private:
   static constexpr std::uint32_t NoUnit = static_cast<std::uint32_t>(-1);

@@ -63,7 +63,7 @@ void CommandWindow::runOnce(const QString& caption, const std::function<void()>&
 }
 
 void CommandWindow::holdInput(const QString& caption) {
-  m_heldInput = std::make_unique<HeldInput>(*this);
+  m_heldInput = std::make_unique<HeldWindow>(*this);
   m_progress->begin(caption);
 }
 

@@ -10,7 +10,7 @@
 namespace veldra {
 
 class FailureStrip;
-class HeldInput;
+class HeldWindow;
 class ProgressStrip;
 
 /// A window with commands. Commands are synchronous: while one runs the window paints and shows the
@@ -51,7 +51,7 @@ class VELDRA_CM_UI_EXPORT CommandWindow : public QDialog {
   QString m_placeKey;
   ProgressStrip* m_progress;
   FailureStrip* m_failures;
-  std::unique_ptr<HeldInput> m_heldInput;
+  std::unique_ptr<HeldWindow> m_heldInput;
   bool m_isRunning = false;
 };
 

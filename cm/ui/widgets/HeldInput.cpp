@@ -1,8 +1,8 @@
 #include "cm/ui/widgets/HeldInput.h"
 
-#include <QApplication>
-#include <QEvent>
+#include <QCoreApplication>
 #include <QWindow>
+#include <utility>
 
 namespace veldra {
 
@@ -20,30 +20,46 @@ bool isInput(QEvent::Type type) {
     case QEvent::ShortcutOverride:
     case QEvent::ContextMenu:
     case QEvent::TouchBegin:
-    case QEvent::TouchEnd:
     case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::Drop:
+    case QEvent::Close:
       return true;
     default:
       return false;
   }
 }
 
+bool isPartOf(const QWidget& window, const QObject& object) {
+  const auto* const widget = qobject_cast<const QWidget*>(&object);
+  return widget != nullptr ? widget->window() == &window : &object == window.windowHandle();
+}
+
 }  // namespace
 
-HeldInput::HeldInput(QWidget& window) : m_window(window) {
-  qApp->installEventFilter(this);
+HeldInput::HeldInput(std::function<bool(const QObject&, const QEvent&)> passes)
+    : m_passes(std::move(passes)) {
+  QCoreApplication::instance()->installEventFilter(this);
 }
 
 HeldInput::~HeldInput() {
-  QCoreApplication::processEvents();
-  qApp->removeEventFilter(this);
+  QCoreApplication::instance()->removeEventFilter(this);
 }
 
 bool HeldInput::eventFilter(QObject* watched, QEvent* event) {
-  if (!isInput(event->type())) return false;
-  const auto* const widget = qobject_cast<QWidget*>(watched);
-  if (widget != nullptr) return widget->window() == &m_window;
-  return watched == m_window.windowHandle();
+  if (!isInput(event->type()) || m_passes(*watched, *event)) return false;
+  // A window manager's wish to close has to be refused, not swallowed.
+  event->ignore();
+  return true;
+}
+
+HeldWindow::HeldWindow(const QWidget& window)
+    : m_held([&window](const QObject& watched, const QEvent&) {
+        return !isPartOf(window, watched);
+      }) {}
+
+HeldWindow::~HeldWindow() {
+  QCoreApplication::processEvents();
 }
 
 }  // namespace veldra

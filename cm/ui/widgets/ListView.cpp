@@ -14,7 +14,20 @@ namespace veldra {
 
 namespace {
 constexpr int HeaderMargin = 15;
+
+/// About what a window shows at once; to look at every row takes too long.
+constexpr int FirstRows = 30;
+
+int widthOfFirstRows(const QTreeView& list, int column) {
+  const QAbstractItemModel& model = *list.model();
+  int width = 0;
+  for (int row = 0; row < std::min(FirstRows, model.rowCount()); ++row) {
+    width = std::max(width, list.sizeHintForIndex(model.index(row, column)).width());
+  }
+  return width;
 }
+
+}  // namespace
 
 QTreeView* makeView(QWidget* parent, int id, const QString& name) {
   auto* const view = control(new QTreeView(parent), id, name);
@@ -46,8 +59,7 @@ void fitColumns(QTreeView& list, int width) {
   for (int column = 0; column < model.columnCount(); ++column) {
     const QString title = model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
     const int smallest = metrics.horizontalAdvance(title) + HeaderMargin;
-    list.resizeColumnToContents(column);
-    const int wanted = column == 0 ? width * 2 / 5 : list.columnWidth(column);
+    const int wanted = column == 0 ? width * 2 / 5 : widthOfFirstRows(list, column);
     list.setColumnWidth(column, std::max(smallest + HeaderMargin, wanted));
   }
 }
@@ -77,8 +89,15 @@ void selectRows(QTreeView& list, const UnitFilter& filter, const QAbstractItemMo
     i = end;
   }
   const bool filtered = list.model() != &source;
-  list.selectionModel()->select(filtered ? filter.mapSelectionFromSource(selection) : selection,
-                                QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  setSelection(list, filtered ? filter.mapSelectionFromSource(selection) : selection);
+}
+
+void setSelection(QTreeView& view, const QItemSelection& selection) {
+  // A view that is up to date looks for each line that has changed, which takes long for many.
+  const bool updates = view.updatesEnabled();
+  view.setUpdatesEnabled(false);
+  view.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+  view.setUpdatesEnabled(updates);
 }
 
 QLineEdit* makeFilterField(QWidget* window, const QString& hint, const QString& description) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QItemSelection>
 #include <QLineEdit>
 #include <QTreeView>
 #include <vector>
@@ -13,8 +14,8 @@ QTreeView* makeView(QWidget* parent, int id, const QString& name);
 /// The same as a list of rows with columns, whose headers can be clicked to sort.
 QTreeView* makeListView(QWidget* parent, int id, const QString& name);
 
-/// Columns as wide as their contents and no narrower than their headers; the first one takes two
-/// fifths of `width`.
+/// Columns as wide as their contents in the first rows and no narrower than their headers; the
+/// first one takes two fifths of `width`.
 void fitColumns(QTreeView& list, int width);
 
 /// The rows of `source` that are selected in the view, ascending; the view may look through the
@@ -23,6 +24,9 @@ std::vector<int> selectedRows(const QTreeView& list, const UnitFilter& filter);
 /// Selects these rows of `source`, ascending, and nothing else. Rows outside the list are ignored.
 void selectRows(QTreeView& list, const UnitFilter& filter, const QAbstractItemModel& source,
                 const std::vector<int>& rows);
+
+/// Selects these whole lines of the view's model and nothing else.
+void setSelection(QTreeView& view, const QItemSelection& selection);
 
 /// The field that filters; Ctrl+F leads to it.
 QLineEdit* makeFilterField(QWidget* window, const QString& hint, const QString& description);

@@ -9,6 +9,12 @@ namespace veldra {
 UnitListModel::UnitListModel(const WorkspaceData& data, QObject* parent)
     : QAbstractTableModel(parent), m_data(data) {}
 
+void UnitListModel::setColumns(int count) {
+  beginResetModel();
+  m_columns = count;
+  endResetModel();
+}
+
 int UnitListModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(m_data.units.size());
 }

@@ -14,7 +14,7 @@ class UnitListModel : public QAbstractTableModel {
   /// `data` must outlive the model; between `beginRefill` and `endRefill` it may be changed.
   explicit UnitListModel(const WorkspaceData& data, QObject* parent = nullptr);
 
-  void setColumns(int count) { m_columns = count; }
+  void setColumns(int count);
   void beginRefill() { beginResetModel(); }
   void endRefill() { endResetModel(); }
 

@@ -32,18 +32,19 @@ int UnitTreeModel::rowCount(const QModelIndex& parent) const {
 }
 
 const IUnit* UnitTreeModel::unitOf(const QModelIndex& index) const {
-  return m_data.visibleUnit(m_data.tree.unitOf(nodeOf(index)));
+  return m_data.visibleUnitAtPlace(m_data.tree.unitOf(nodeOf(index)));
 }
 
 QVariant UnitTreeModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid() || m_data.isFrozen) return {};
-  const IUnit* const unit = nodeOf(index) == 0 ? activeProjectUnit() : unitOf(index);
+  IProject* const root = nodeOf(index) == 0 ? activeProjectUnit() : nullptr;
+  const IUnit* const unit = root != nullptr ? root : unitOf(index);
   if (unit == nullptr) return {};
   switch (role) {
     case Qt::DisplayRole:
       return shown(m_data.texts->treeLabel(*unit));
     case Qt::DecorationRole:
-      return unitIconWithState(*unit);
+      return unitIconWithState(*unit, root != nullptr ? rootOverlay(*root) : 0);
     case Qt::ToolTipRole:
       return shown(nameNShortPath(unit)).toHtmlEscaped();
     default:

@@ -17,10 +17,16 @@ struct WorkspaceData {
   /// While a command runs, units may die at any moment and are not looked at.
   bool isFrozen = false;
 
-  /// The unit of a row, or null when there is nothing to show.
+  /// The unit of a row, or of a place in the tree; null when there is nothing to show.
   IUnit* visibleUnit(std::size_t position) const {
-    return isFrozen || !texts ? nullptr : units.at(position);
+    return isVisible() ? units.at(position) : nullptr;
   }
+  IUnit* visibleUnitAtPlace(std::size_t place) const {
+    return isVisible() ? units.atPlace(place) : nullptr;
+  }
+
+ private:
+  bool isVisible() const { return !isFrozen && texts; }
 };
 
 }  // namespace veldra

@@ -1,39 +1,17 @@
 #include "host/desktop/session/WorkWatch.h"
 
 #include <QCoreApplication>
-#include <QEvent>
 #include <QKeyEvent>
 #include <QWindow>
 
 #include "cm/ui/CCMDialog.h"
+#include "cm/ui/widgets/HeldInput.h"
 
 namespace veldra::host::desktop {
 namespace {
 
 // Longer than an event needs, shorter than a person notices.
 constexpr int PumpMilliseconds = 15;
-
-bool isUserInput(QEvent::Type type) {
-  switch (type) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::Wheel:
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::Shortcut:
-    case QEvent::ShortcutOverride:
-    case QEvent::ContextMenu:
-    case QEvent::TouchBegin:
-    case QEvent::TouchUpdate:
-    case QEvent::TouchEnd:
-    case QEvent::Drop:
-    case QEvent::Close:
-      return true;
-    default:
-      return false;
-  }
-}
 
 }  // namespace
 
@@ -79,9 +57,9 @@ void WorkWatch::pump() {
     CCMDialog::keepPainting();
     if (dialog->isCancelled()) cancel();
   } else {
-    QCoreApplication::instance()->installEventFilter(this);
+    const HeldInput held(
+        [this](const QObject& watched, const QEvent& event) { return mayPass(watched, event); });
     QCoreApplication::processEvents(QEventLoop::AllEvents, PumpMilliseconds);
-    QCoreApplication::instance()->removeEventFilter(this);
   }
   m_isPumping = false;
   m_restTimer.start();
@@ -95,25 +73,16 @@ void WorkWatch::rest() {
   emit workEnded();
 }
 
-bool WorkWatch::mayPass(const QObject* watched) const {
-  if (!m_cancelWidget) return false;
-  const QObject* window = m_cancelWidget->window()->windowHandle();
-  if (watched == window) return true;
-  const auto* widget = qobject_cast<const QWidget*>(watched);
-  return widget && (widget == m_cancelWidget || m_cancelWidget->isAncestorOf(widget));
-}
-
-bool WorkWatch::eventFilter(QObject* watched, QEvent* event) {
-  if (!isUserInput(event->type())) return false;
-  if (event->type() == QEvent::KeyPress &&
-      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+bool WorkWatch::mayPass(const QObject& watched, const QEvent& event) {
+  if (event.type() == QEvent::KeyPress &&
+      static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape) {
     cancel();
-    return true;
+    return false;
   }
-  if (event->type() != QEvent::Close && mayPass(watched)) return false;
-  // A window manager's wish to close has to be refused, not swallowed.
-  event->ignore();
-  return true;
+  if (event.type() == QEvent::Close || !m_cancelWidget) return false;
+  if (&watched == m_cancelWidget->window()->windowHandle()) return true;
+  const auto* widget = qobject_cast<const QWidget*>(&watched);
+  return widget && (widget == m_cancelWidget || m_cancelWidget->isAncestorOf(widget));
 }
 
 }  // namespace veldra::host::desktop

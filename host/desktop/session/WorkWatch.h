@@ -39,8 +39,6 @@ class WorkWatch : public QObject, public ChildWatch, public IProgress {
   void unitEnded(const ProgressStep& step, UnitEnd end, const std::string& words) override;
   bool isCancelled() override;
 
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
  signals:
   void workStarted();
   void stepChanged(const veldra::ProgressStep& step);
@@ -51,7 +49,7 @@ class WorkWatch : public QObject, public ChildWatch, public IProgress {
  private:
   void pump();
   void rest();
-  bool mayPass(const QObject* watched) const;
+  bool mayPass(const QObject& watched, const QEvent& event);
 
   OutputSink& m_sink;
   ResultCollector m_results;

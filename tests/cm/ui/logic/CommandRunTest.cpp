@@ -113,6 +113,17 @@ TEST_F(CommandRunTest, DescendantsTakeTheRecursiveVariant) {
   EXPECT_THAT(m_host.journal.only({"reload"}).size(), ::testing::Gt(0U));
 }
 
+TEST_F(CommandRunTest, ARecursiveFetchTakesStubsApartWhenTheSettingWantsIt) {
+  set("AllowCMOperationsOnStubUnits", "True", "General");
+  set("FetchStubSubUnitsSeparately", "True", "General");
+  m_unit.record.flags |= UnitFlag::Stub;
+  m_package.record.aggregates = {&m_unit};
+  m_view.selected = {&m_package};
+  m_view.answer->withDescendants = true;
+  EXPECT_TRUE(run(DialogCommand::Fetch));
+  EXPECT_EQ(m_backEnds.calls, (Lines{"tool.fetch", "tool.fetch"}));
+}
+
 TEST_F(CommandRunTest, UndoWithAToolAsksAboutDescendants) {
   set("CMTool", "Vaultrix", "General");
   m_view.selected = {&m_unit};

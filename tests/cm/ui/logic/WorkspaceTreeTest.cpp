@@ -9,7 +9,7 @@ class WorkspaceTreeTest : public HostTest {
  protected:
   /// The tree as text: each node's name, and its children in parentheses.
   std::string shape(std::size_t node = 0) const {
-    std::string text = node == 0 ? "P" : m_units.at(m_tree.unitOf(node))->getName();
+    std::string text = node == 0 ? "P" : m_units.atPlace(m_tree.unitOf(node))->getName();
     std::string below;
     for (std::size_t row = 0; row < m_tree.childCount(node); ++row) {
       const std::size_t child = m_tree.childAt(node, row);
@@ -58,15 +58,17 @@ TEST_F(WorkspaceTreeTest, CirclesAndNullsEnd) {
   EXPECT_EQ(shape(), "P(A(Inner))");
 }
 
-TEST_F(WorkspaceTreeTest, NodesFollowUnitsIntoAnotherOrder) {
+TEST_F(WorkspaceTreeTest, NodesStayWithTheirUnitsInAnotherOrder) {
   m_project.record.aggregates = {&m_package, &m_leaf};
   fill({&m_package, &m_project, &m_leaf});
-  const std::vector<std::size_t> order{2, 0, 1};
-  m_units.reorder(order);
-  m_tree.reorder(order);
+  m_units.reorder({2, 0, 1});
+  m_units.reorder({1, 0, 2});
+  EXPECT_EQ(m_units.alive(), (UnitList{&m_package, &m_leaf, &m_project}));
   EXPECT_EQ(shape(), "P(A Leaf)");
-  EXPECT_EQ(m_units.at(m_tree.unitOf(0)), &m_project);
-  EXPECT_EQ(m_tree.unitOf(m_tree.nodeOf(0)), 0U);
+  EXPECT_EQ(m_tree.nodeOf(m_units.placeAt(2)), 0U);
+  const UnitList relisted{&m_project, &m_inner, &m_leaf};
+  m_units.assign(relisted);
+  EXPECT_EQ(m_units.alive(), relisted) << "a new list stands in its own order";
   m_tree.fill(nullptr, m_units);
   EXPECT_EQ(m_tree.size(), 0U);
 }

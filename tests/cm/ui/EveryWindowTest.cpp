@@ -1,0 +1,156 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <functional>
+#include <memory>
+
+#include "cm/core/CMArchiveItemList.h"
+#include "cm/ui/CCMDialog.h"
+#include "cm/ui/Translations.h"
+#include "cm/ui/archive/CCMArcCoDlg.h"
+#include "cm/ui/options/CCMCiInfoDlg.h"
+#include "cm/ui/options/CCMCoInfoDlg.h"
+#include "cm/ui/options/CCMConnectToArc.h"
+#include "cm/ui/options/CCMDiffDialog.h"
+#include "cm/ui/options/CCMFetchDlg.h"
+#include "cm/ui/options/CCMFetchSelection.h"
+#include "cm/ui/options/CCMLockInfoDlg.h"
+#include "cm/ui/options/CCMSccInfoDlg.h"
+#include "cm/ui/options/CCMUnitArchiveDlg.h"
+#include "cm/ui/options/CCoBranch.h"
+#include "cm/ui/synchronize/CMSyncDlg.h"
+#include "cm/ui/widgets/CommandButton.h"
+#include "host/ReferenceHost.h"
+
+namespace veldra::test {
+namespace {
+
+using MadeWindow = std::unique_ptr<QDialog>;
+
+template <class Window>
+MadeWindow withPresets() {
+  OptionPresets presets;
+  presets.saysReserved = true;
+  return std::make_unique<Window>(presets);
+}
+
+template <class Window>
+MadeWindow alone() {
+  return std::make_unique<Window>();
+}
+
+MadeWindow mainWindow(bool flat) {
+  auto window = std::make_unique<CCMDialog>();
+  window->setView(flat);
+  return window;
+}
+
+struct WindowRow {
+  const char* name;
+  std::function<MadeWindow()> make;
+};
+
+const WindowRow Windows[] = {
+    {"tree", [] { return mainWindow(false); }},
+    {"list", [] { return mainWindow(true); }},
+    {"archive", [] { return std::make_unique<CCMArcCoDlg>(CMArchiveItemList{}); }},
+    {"synchronize", alone<CMSyncDlg>},
+    {"check in", withPresets<CCMCiInfoDlg>},
+    {"check out", withPresets<CCMCoInfoDlg>},
+    {"provider", withPresets<CCMSccInfoDlg>},
+    {"lock", withPresets<CCMLockInfoDlg>},
+    {"connect", alone<CCMConnectToArc>},
+    {"fetch", alone<CCMFetchDlg>},
+    {"versions", alone<CCMDiffDialog>},
+    {"check out or fetch", alone<CCMFetchSelection>},
+    {"unit's archive", [] { return std::make_unique<CCMUnitArchiveDlg>(nullptr); }},
+    {"branch", alone<CCoBranch>},
+};
+
+bool isControl(const QWidget& widget) {
+  return qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+         qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+         qobject_cast<const QPlainTextEdit*>(&widget) != nullptr ||
+         qobject_cast<const QAbstractItemView*>(&widget) != nullptr ||
+         qobject_cast<const QComboBox*>(&widget) != nullptr;
+}
+
+/// The width below which something of the widget's text is not seen; 0 when it has none.
+int neededWidth(const QWidget& widget) {
+  if (const auto* button = qobject_cast<const CommandButton*>(&widget)) {
+    return button->fontMetrics().horizontalAdvance(button->text());
+  }
+  if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
+    return button->text().isEmpty() ? 0 : button->minimumSizeHint().width();
+  }
+  const auto* const label = qobject_cast<const QLabel*>(&widget);
+  return label == nullptr || label->wordWrap() ? 0 : label->sizeHint().width();
+}
+
+/// Every window as people who speak that language see it.
+class EveryWindowTest : public ::testing::TestWithParam<const char*> {
+ protected:
+  EveryWindowTest() {
+    host::HostOptions options;
+    options.installationRoot = VELDRA_SHARE;
+    options.language = GetParam();
+    m_host = std::make_unique<host::ReferenceHost>(options);
+    installHost(m_host.get());
+    EXPECT_EQ(m_host->open(VELDRA_SAMPLE), std::nullopt);
+    loadDialogTranslations(QString::fromLatin1(GetParam()));
+  }
+  ~EveryWindowTest() override {
+    loadDialogTranslations(QStringLiteral("en"));
+    installHost(nullptr);
+  }
+
+  static void eachWidget(const std::function<void(QWidget&, const std::string&)>& look) {
+    for (const WindowRow& row : Windows) {
+      const MadeWindow window = row.make();
+      window->show();
+      QCoreApplication::processEvents();
+      for (QWidget* widget : window->findChildren<QWidget*>()) {
+        if (!widget->isVisible()) continue;
+        look(*widget, std::string(row.name) + ": " + widget->metaObject()->className() + " " +
+                          widget->objectName().toStdString());
+      }
+    }
+  }
+
+ private:
+  std::unique_ptr<host::ReferenceHost> m_host;
+};
+
+TEST_P(EveryWindowTest, EveryControlTellsItsNameToAScreenReader) {
+  int controls = 0;
+  eachWidget([&controls](QWidget& widget, const std::string& where) {
+    if (!isControl(widget) || widget.focusPolicy() == Qt::NoFocus) return;
+    ++controls;
+    QAccessibleInterface* const reader = QAccessible::queryAccessibleInterface(&widget);
+    ASSERT_NE(reader, nullptr) << where;
+    EXPECT_FALSE(reader->text(QAccessible::Name).isEmpty()) << where;
+  });
+  EXPECT_GT(controls, 60);
+}
+
+TEST_P(EveryWindowTest, NoTextIsCutOff) {
+  int texts = 0;
+  eachWidget([&texts](QWidget& widget, const std::string& where) {
+    const int needed = neededWidth(widget);
+    if (needed > 0) ++texts;
+    EXPECT_LE(needed, widget.width()) << where;
+  });
+  EXPECT_GT(texts, 60);
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, EveryWindowTest, ::testing::Values("en", "de"));
+
+}  // namespace
+}  // namespace veldra::test
