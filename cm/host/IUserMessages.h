@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "cm/host/Export.h"
+
 namespace veldra {
 
 /// Icon and button bits of a message, and the answers, with the values of the published Win32
@@ -84,6 +86,6 @@ void OneTimeMessageBox(const std::string& key, const std::string& text, int flag
 /// The text of a message id, and the same with its placeholders filled in order. An id that the
 /// host does not know yields a text that names the id and the values, so that nothing is swallowed.
 std::string loadMessage(int id);
-std::string formatMessage(int id, std::initializer_list<std::string_view> values);
+VELDRA_CM_EXPORT std::string formatMessage(int id, std::initializer_list<std::string_view> values);
 
 }  // namespace veldra

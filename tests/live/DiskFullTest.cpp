@@ -17,7 +17,7 @@ namespace {
 using testing::AllOf;
 using testing::HasSubstr;
 
-constexpr char Unit[] = "Brewing/Grinder.vcmp";
+constexpr char FilledUnit[] = "Brewing/Grinder.vcmp";
 
 /// A small disk of its own, at a folder of the sandbox.
 class SmallDisk {
@@ -78,36 +78,36 @@ class DiskFullTest : public testing::TestWithParam<const char*> {
 TEST_P(DiskFullTest, UnderTheProject) {
   begin("model");
   if (IsSkipped() || HasFailure()) return;
-  m_job.cm({"checkout", Unit});
-  m_job.change(Unit, "\"5\"", "\"6\"");
-  const std::string changed = m_job.read(Unit);
+  m_job.cm({"checkout", FilledUnit});
+  m_job.change(FilledUnit, "\"5\"", "\"6\"");
+  const std::string changed = m_job.read(FilledUnit);
   const std::string project = m_job.read("Machine.vdy");
   m_disk->fill();
   // An undo writes, and so does the copy that is kept before it.
-  expectAdvice({"undo", Unit});
-  EXPECT_EQ(m_job.read(Unit), changed);
+  expectAdvice({"undo", FilledUnit});
+  EXPECT_EQ(m_job.read(FilledUnit), changed);
   EXPECT_NE(m_job.tryCm({"property", "set", "CMSaveOnCheckOut", "True"}).code, 0);
   EXPECT_EQ(m_job.read("Machine.vdy"), project);
   m_disk->makeRoom();
-  m_job.cm({"checkin", Unit, "-m", "with room"});
-  EXPECT_EQ(m_job.tool().newestText(Unit), m_job.read(Unit));
+  m_job.cm({"checkin", FilledUnit, "-m", "with room"});
+  EXPECT_EQ(m_job.tool().newestText(FilledUnit), m_job.read(FilledUnit));
 }
 
 TEST_P(DiskFullTest, UnderTheArchive) {
   begin("archive");
   if (IsSkipped() || HasFailure()) return;
-  m_job.cm({"checkout", Unit});
-  m_job.change(Unit, "\"5\"", "\"6\"");
-  const std::string changed = m_job.read(Unit);
+  m_job.cm({"checkout", FilledUnit});
+  m_job.change(FilledUnit, "\"5\"", "\"6\"");
+  const std::string changed = m_job.read(FilledUnit);
   m_disk->fill();
-  expectAdvice({"checkin", Unit, "-m", "without room"});
-  EXPECT_EQ(m_job.read(Unit), changed);
-  EXPECT_TRUE(m_job.isWritable(Unit));
+  expectAdvice({"checkin", FilledUnit, "-m", "without room"});
+  EXPECT_EQ(m_job.read(FilledUnit), changed);
+  EXPECT_TRUE(m_job.isWritable(FilledUnit));
   m_disk->makeRoom();
-  m_job.cm({"checkin", Unit, "--last-comment"});
-  EXPECT_EQ(m_job.tool().newestText(Unit), m_job.read(Unit));
-  EXPECT_THAT(m_job.tool().newestText(Unit), HasSubstr("\"6\""));
-  EXPECT_THAT(m_job.tool().newestComment(Unit), HasSubstr("without room"));
+  m_job.cm({"checkin", FilledUnit, "--last-comment"});
+  EXPECT_EQ(m_job.tool().newestText(FilledUnit), m_job.read(FilledUnit));
+  EXPECT_THAT(m_job.tool().newestText(FilledUnit), HasSubstr("\"6\""));
+  EXPECT_THAT(m_job.tool().newestComment(FilledUnit), HasSubstr("without room"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Packs, DiskFullTest,
