@@ -16,7 +16,7 @@ namespace veldra {
 
 CCMArcCoDlg::CCMArcCoDlg(const CMArchiveItemList& items, QWidget* parent)
     : ItemWindow(QStringLiteral("archive"), ControlId::ArchiveList,
-                 std::make_unique<ArchiveRows>(items), parent),
+                 std::make_shared<ArchiveRows>(items), parent),
       m_items(static_cast<ArchiveRows&>(rows())) {
   setWindowTitle(shown(formatMessage(MessageId::ArchiveTitle, {CMArchive::getMainArchive()})));
   setWindowIcon(commandIcon(DialogCommand::ListArchive));
