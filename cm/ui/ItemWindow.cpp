@@ -26,12 +26,12 @@
 
 namespace veldra {
 
-ItemWindow::ItemWindow(const QString& name, int listId, std::unique_ptr<ItemRows> rows,
+ItemWindow::ItemWindow(const QString& name, int listId, std::shared_ptr<ItemRows> rows,
                        QWidget* parent)
     : CommandWindow(name, parent),
       m_name(bytesOf(name)),
       m_rows(std::move(rows)),
-      m_model(new ItemListModel(*m_rows, this)),
+      m_model(new ItemListModel(m_rows, this)),
       m_unitFilter(new UnitFilter(m_model, this)) {
   m_buttonRow = new QHBoxLayout;
   m_buttonRow->setSpacing(3);

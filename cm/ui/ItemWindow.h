@@ -41,7 +41,7 @@ class VELDRA_CM_UI_EXPORT ItemWindow : public CommandWindow, protected ItemView 
 
  protected:
   /// `name` is what it remembers things under.
-  ItemWindow(const QString& name, int listId, std::unique_ptr<ItemRows> rows, QWidget* parent);
+  ItemWindow(const QString& name, int listId, std::shared_ptr<ItemRows> rows, QWidget* parent);
 
   ItemRows& rows() const { return *m_rows; }
   CommandButton* addButton(ItemButton button, const std::function<void()>& press);
@@ -71,7 +71,7 @@ class VELDRA_CM_UI_EXPORT ItemWindow : public CommandWindow, protected ItemView 
   void afterCommand() override;
 
   std::string m_name;
-  std::unique_ptr<ItemRows> m_rows;
+  std::shared_ptr<ItemRows> m_rows;
   ItemListModel* m_model;
   UnitFilter* m_unitFilter;
   QTreeView* m_list;

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "cm/core/TextTools.h"
 #include "cm/host/IPN.h"
 #include "tests/support/HostTest.h"
 
@@ -37,11 +38,11 @@ class ListingToolTest : public HostTest {
   void archiveHolds(const std::string& listing) {
     m_host.scriptedProcesses.answer("ls", {.output = listing});
   }
-  /// The commands that were run and begin with a word.
+  /// The commands that were run and begin with a word, without blanks at their ends.
   Lines commandsOf(const std::string& word) const {
     Lines lines;
     for (const std::string& command : m_host.scriptedProcesses.commands()) {
-      if (command.starts_with(word + " ")) lines.push_back(command);
+      if (command.starts_with(word + " ")) lines.emplace_back(trimmed(command));
     }
     return lines;
   }

@@ -1,10 +1,10 @@
 #include "cm/ui/archive/CCMArcCoDlg.h"
 
 #include "cm/core/CMArchive.h"
-#include "cm/host/IUserMessages.h"
 #include "cm/host/MessageIds.h"
 #include "cm/ui/ControlIds.h"
 #include "cm/ui/Icons.h"
+#include "cm/ui/logic/HostTexts.h"
 #include "cm/ui/logic/SelectionRules.h"
 #include "cm/ui/logic/archive/ArchiveCommands.h"
 #include "cm/ui/logic/archive/ArchiveComparison.h"
@@ -16,9 +16,9 @@ namespace veldra {
 
 CCMArcCoDlg::CCMArcCoDlg(const CMArchiveItemList& items, QWidget* parent)
     : ItemWindow(QStringLiteral("archive"), ControlId::ArchiveList,
-                 std::make_unique<ArchiveRows>(items), parent),
+                 std::make_shared<ArchiveRows>(items), parent),
       m_items(static_cast<ArchiveRows&>(rows())) {
-  setWindowTitle(shown(formatMessage(MessageId::ArchiveTitle, {CMArchive::getMainArchive()})));
+  setWindowTitle(shown(dialogText(MessageId::ArchiveTitle, {CMArchive::getMainArchive()})));
   setWindowIcon(commandIcon(DialogCommand::ListArchive));
   setEmptyText(tr("The archive holds nothing of this project yet. Add units to it first."));
   addButton(ItemButton::CheckOutFromArchive, [this] { OnArcCo(); });

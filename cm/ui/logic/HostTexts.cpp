@@ -8,6 +8,10 @@ std::string dialogText(int id) {
   return loadMessage(id);
 }
 
+std::string dialogText(int id, std::initializer_list<std::string_view> values) {
+  return formatMessage(id, values);
+}
+
 void dialogWarning(const std::string& text) {
   notifyUserAndAsk(text, MessageBox::IconWarning);
 }

@@ -24,7 +24,7 @@ namespace veldra {
 
 CMSyncDlg::CMSyncDlg(QWidget* parent)
     : ItemWindow(QStringLiteral("synchronize"), ControlId::SyncList,
-                 std::make_unique<SyncListing>(), parent),
+                 std::make_shared<SyncListing>(), parent),
       m_listing(static_cast<SyncListing&>(rows())) {
   setWindowTitle(shown(ItemButtonRules::caption(ItemButton::Synchronize)));
   setWindowIcon(commandIcon(DialogCommand::Synchronize));

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <memory>
+#include <utility>
 
 #include "cm/ui/logic/ItemRows.h"
 
@@ -11,9 +13,10 @@ class ItemListModel : public QAbstractTableModel {
   Q_OBJECT
 
  public:
-  /// `rows` must outlive the model; between `beginRefill` and `endRefill` they may be changed.
-  explicit ItemListModel(const ItemRows& rows, QObject* parent = nullptr)
-      : QAbstractTableModel(parent), m_rows(rows) {}
+  /// The model keeps the rows alive, because a view still asks it while its window goes. Between
+  /// `beginRefill` and `endRefill` they may be changed.
+  explicit ItemListModel(std::shared_ptr<const ItemRows> rows, QObject* parent = nullptr)
+      : QAbstractTableModel(parent), m_rows(std::move(rows)) {}
 
   void beginRefill() { beginResetModel(); }
   void endRefill() { endResetModel(); }
@@ -24,7 +27,7 @@ class ItemListModel : public QAbstractTableModel {
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
  private:
-  const ItemRows& m_rows;
+  std::shared_ptr<const ItemRows> m_rows;
 };
 
 }  // namespace veldra

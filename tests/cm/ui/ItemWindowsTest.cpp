@@ -69,11 +69,11 @@ class ArchiveWindowTest : public ItemWindowsTest {
 
 TEST_F(ArchiveWindowTest, ControlsAreFoundByTheirNumbersAndFollowTheBackEnd) {
   const struct {
-    const char* provider;
+    bool usesProvider;
     Lines hidden;
-  } rows[] = {{"NO", {"246", "236"}}, {"YES", {"235", "236"}}};
+  } rows[] = {{false, {"246", "236"}}, {true, {"235", "236"}}};
   for (const auto& row : rows) {
-    set("UseSCCtool", row.provider, "General");
+    if (row.usesProvider) useProvider();
     const CCMArcCoDlg dialog(m_items.list());
     Lines hidden;
     for (const int id : {219, 218, 246, 235, 220, 236}) {
@@ -204,7 +204,7 @@ TEST_F(SyncWindowTest, TheMethodEnablesTheLabelAndIsStoredOnClosing) {
 }
 
 TEST_F(SyncWindowTest, WhereTimesAreComparedAnExplanationStandsInPlaceOfTheMethod) {
-  set("UseSCCtool", "YES", "General");
+  useProvider();
   const CMSyncDlg dialog;
   EXPECT_TRUE(at(dialog, ControlId::SyncMethod).isHidden());
   EXPECT_FALSE(at(dialog, ControlId::SyncExplanation).isHidden());

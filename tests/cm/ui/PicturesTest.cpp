@@ -1,13 +1,20 @@
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QPalette>
 #include <QTreeView>
 
+#include "cm/core/CMArchiveItem.h"
+#include "cm/host/IUserMessages.h"
+#include "cm/host/MessageIds.h"
 #include "cm/ui/CCMDialog.h"
 #include "cm/ui/Icons.h"
+#include "cm/ui/archive/CCMArcCoDlg.h"
 #include "cm/ui/options/CCMCiInfoDlg.h"
 #include "cm/ui/options/CCMCoInfoDlg.h"
 #include "cm/ui/options/CCMConnectToArc.h"
+#include "cm/ui/synchronize/CMSyncDlg.h"
+#include "cm/ui/synchronize/QuestionWindow.h"
 #include "cm/ui/widgets/Control.h"
 #include "host/ReferenceHost.h"
 #include "tests/cm/ui/DialogTest.h"
@@ -89,6 +96,28 @@ TEST_P(PicturesTest, EveryWindowIsDrawn) {
   keep(checkOut, QStringLiteral("check-out"));
   CCMConnectToArc connectTo;
   keep(connectTo, QStringLiteral("connect"));
+}
+
+TEST_P(PicturesTest, ArchiveAndSynchronize) {
+  CMArchiveItemListWrapper items;
+  for (const char* name : {"Brewing/Grinder.vcmp", "Milk/Milk.vpkg", "docs/requirements.md"}) {
+    items.addTail(new CMArchiveItem(name, "12", CMArchiveItem::ReadOnly, "alice", {}));
+  }
+  CCMArcCoDlg archive(items.list());
+  archive.list()->selectAll();
+  keep(archive, QStringLiteral("archive"));
+  CMSyncDlg synchronize;
+  keep(synchronize, QStringLiteral("synchronize"));
+  QuestionWindow question(formatMessage(MessageId::LoadCheckedOutUnit, {}), "Frother");
+  keep(question, QStringLiteral("question"));
+  for (QWidget* window : std::initializer_list<QWidget*>{&archive, &synchronize, &question}) {
+    for (const QAbstractButton* button : window->findChildren<QAbstractButton*>()) {
+      if (button->isHidden() || button->text().isEmpty()) continue;
+      const QString text = button->text().remove(QLatin1Char('&'));
+      EXPECT_GE(button->width(), button->fontMetrics().horizontalAdvance(text))
+          << text.toStdString() << " is cut off";
+    }
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(LightAndDark, PicturesTest, ::testing::Bool());

@@ -33,9 +33,10 @@ TEST(MessageCatalogue, hasAClearTextForEveryNumberWithItsValues) {
       {60006, 2}, {60007, 2}, {60008, 1}, {60009, 1}, {60010, 1}, {60011, 2}, {60100, 1},
       {60030, 2}, {60116, 1}, {60201, 2}, {60202, 2}, {60203, 2}, {60206, 1}, {60207, 1},
       {60208, 1}, {60209, 1}, {60210, 1}, {60211, 1}, {60403, 2}, {60405, 1}, {60407, 1},
-      {60650, 1}, {60651, 1}, {60652, 2}, {60653, 1}, {60654, 1}, {60655, 2}, {60656, 1},
-      {60657, 1}, {60709, 2}, {60710, 3}, {60715, 1}, {60717, 2}, {60718, 1}, {60719, 2},
-      {60720, 1}, {60734, 2}, {60736, 1}, {60737, 1}, {60743, 1}};
+      {60621, 1}, {60624, 1}, {60626, 1}, {60650, 1}, {60651, 1}, {60652, 2}, {60653, 1},
+      {60654, 1}, {60655, 2}, {60656, 1}, {60657, 1}, {60709, 2}, {60710, 3}, {60715, 1},
+      {60717, 2}, {60718, 1}, {60719, 2}, {60720, 1}, {60734, 2}, {60736, 1}, {60737, 1},
+      {60743, 1}};
   std::vector<int> ids = {948,   949,   953,   954,   955,   958,   959,   962,   966,   967,
                           46547, 46554, 46560, 46563, 46565, 46566, 46567, 47640, 48312, 49434,
                           49488, 49494, 49762, 49763, 49764, 49765, 49982, 50055};
@@ -48,7 +49,8 @@ TEST(MessageCatalogue, hasAClearTextForEveryNumberWithItsValues) {
   // The dialogs' texts: single ones, and groups with one per column or command.
   const std::pair<int, int> dialogTexts[] = {{60400, 60417}, {60420, 60441}, {60445, 60468},
                                              {60470, 60491}, {60495, 60510}, {60520, 60520},
-                                             {60530, 60535}, {60650, 60657}, {60700, 60743}};
+                                             {60530, 60535}, {60600, 60626}, {60630, 60636},
+                                             {60640, 60646}, {60650, 60657}, {60700, 60743}};
   for (const auto& [first, last] : dialogTexts) {
     for (int id = first; id <= last; ++id) ids.push_back(id);
   }
@@ -72,7 +74,7 @@ TEST(MessageCatalogue, germanIsCompleteAndTakesTheSameValues) {
   ASSERT_GT(english.size(), 200U);
   EXPECT_EQ(german.size(), english.size());
   // Words that are the same in both languages.
-  const std::set<int> alike = {60414 - 1, 60414, 48351, 60710, 60724};
+  const std::set<int> alike = {60414 - 1, 60414, 48351, 60603, 60605, 60608, 60610, 60710, 60724};
   for (int id = 900; id < 60800; ++id) {
     const std::string text = german.text(id);
     EXPECT_EQ(placeholders(text), placeholders(english.text(id))) << id;
