@@ -40,9 +40,9 @@ std::string writeError(const std::string& path, DWORD error) {
 /// The file behind a link, in the system's form; the name itself when it is no link.
 std::wstring targetOf(const std::wstring& name, DWORD attributes) {
   if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return name;
-  const Handle file(CreateFileW(name.c_str(), FILE_READ_ATTRIBUTES,
-                                FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+  const SystemHandle file(CreateFileW(name.c_str(), FILE_READ_ATTRIBUTES,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                      nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
   if (!file) return {};
   std::wstring target(32768, L'\0');
   const DWORD size = static_cast<DWORD>(target.size());
@@ -123,7 +123,8 @@ class TemporaryFile {
 
   /// The system words it as a missing right when the other program lets nobody delete the file.
   static bool isOpenElsewhere(const std::wstring& target) {
-    const Handle file(CreateFileW(target.c_str(), DELETE, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    const SystemHandle file(
+        CreateFileW(target.c_str(), DELETE, 0, nullptr, OPEN_EXISTING, 0, nullptr));
     return !file && isInUse(GetLastError());
   }
 
@@ -132,7 +133,7 @@ class TemporaryFile {
   }
 
   std::wstring m_path;
-  Handle m_file;
+  SystemHandle m_file;
   DWORD m_error = 0;
   bool m_exists = false;
 };

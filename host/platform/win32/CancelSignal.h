@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/platform/win32/Handle.h"
+#include "host/platform/win32/SystemHandle.h"
 
 namespace veldra::host {
 
@@ -13,7 +13,7 @@ class CancelSignal {
   HANDLE event() const { return m_event.get(); }
 
  private:
-  Handle m_event{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
+  SystemHandle m_event{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
 };
 
 }  // namespace veldra::host

@@ -50,22 +50,22 @@ class InheritedHandles {
 };
 
 /// A copy that children may inherit.
-Handle inheritable(HANDLE handle) {
+SystemHandle inheritable(HANDLE handle) {
   HANDLE copy = nullptr;
   DuplicateHandle(GetCurrentProcess(), handle, GetCurrentProcess(), &copy, 0, TRUE,
                   DUPLICATE_SAME_ACCESS);
-  return Handle(copy);
+  return SystemHandle(copy);
 }
 
-Handle emptyInput() {
+SystemHandle emptyInput() {
   SECURITY_ATTRIBUTES inherited{sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};
-  return Handle(CreateFileW(L"NUL", GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited,
-                            OPEN_EXISTING, 0, nullptr));
+  return SystemHandle(CreateFileW(L"NUL", GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                  &inherited, OPEN_EXISTING, 0, nullptr));
 }
 
 /// A job, which a program that means to stay may leave.
-Handle makeJob() {
-  Handle job(CreateJobObjectW(nullptr, nullptr));
+SystemHandle makeJob() {
+  SystemHandle job(CreateJobObjectW(nullptr, nullptr));
   JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits{};
   limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_BREAKAWAY_OK;
   SetInformationJobObject(job.get(), JobObjectExtendedLimitInformation, &limits, sizeof limits);
@@ -84,9 +84,9 @@ int ChildProcess::start(const std::string& program, const std::vector<std::strin
   std::optional<std::wstring> line = childCommandLine(arguments);
   const std::optional<std::wstring> variables = childEnvironment(environment);
   if (!line || !variables) return ERROR_NO_UNICODE_TRANSLATION;
-  const Handle input = emptyInput();
-  const Handle childOutput = inheritable(output);
-  const Handle childErrors = inheritable(errors);
+  const SystemHandle input = emptyInput();
+  const SystemHandle childOutput = inheritable(output);
+  const SystemHandle childErrors = inheritable(errors);
   const InheritedHandles handles({input.get(), childOutput.get(), childErrors.get()});
 
   STARTUPINFOEXW startup{};
@@ -107,7 +107,7 @@ int ChildProcess::start(const std::string& program, const std::vector<std::strin
                       nullptr, &startup.StartupInfo, &started)) {
     return lastError();
   }
-  const Handle thread(started.hThread);
+  const SystemHandle thread(started.hThread);
   m_process.reset(started.hProcess);
   m_job = makeJob();
   if (!AssignProcessToJobObject(m_job.get(), m_process.get())) {

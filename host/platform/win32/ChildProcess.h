@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "host/platform/CommandRun.h"
-#include "host/platform/win32/Handle.h"
+#include "host/platform/win32/SystemHandle.h"
 
 namespace veldra::host {
 
@@ -35,8 +35,8 @@ class ChildProcess {
   ChildStatus finish(bool endJob);
 
  private:
-  Handle m_process;
-  Handle m_job;
+  SystemHandle m_process;
+  SystemHandle m_job;
 };
 
 }  // namespace veldra::host

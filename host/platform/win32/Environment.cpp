@@ -125,7 +125,7 @@ bool Environment::setCurrentDirectory(const std::string& path) {
 std::string Environment::createTempFile(const std::string& content) {
   const std::string start = omGetTempDir() + "\\veldra-cm-" + std::to_string(processNumber()) + "-";
   std::string name;
-  Handle file;
+  SystemHandle file;
   do {
     name = start + randomEnding();
     file.reset(CreateFileW(nativePath(name).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,

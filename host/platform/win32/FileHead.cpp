@@ -68,28 +68,28 @@ void readOpenFile(FileHead& head, HANDLE file, std::span<char> buffer) {
 }
 
 /// Without any right to the content, so that nobody's opening for himself alone is in the way.
-Handle openForFacts(const std::string& path) {
-  return Handle(CreateFileW(nativePath(path).c_str(), FILE_READ_ATTRIBUTES,
-                            FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                            OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+SystemHandle openForFacts(const std::string& path) {
+  return SystemHandle(CreateFileW(nativePath(path).c_str(), FILE_READ_ATTRIBUTES,
+                                  FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                  OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
 }
 
 }  // namespace
 
 FileFacts readFileFacts(const std::string& path) {
   FileFacts result;
-  const Handle file = openForFacts(path);
+  const SystemHandle file = openForFacts(path);
   if (!file || !takeFacts(result, file.get())) fail(result, lastError());
   return result;
 }
 
 FileHead readFileHead(const std::string& path, std::span<char> buffer) {
   FileHead head;
-  const Handle file = openForReading(path);
+  const SystemHandle file = openForReading(path);
   if (!file) {
     const int reason = lastError();
     // A file that may not be read still has a mode and an identity.
-    if (const Handle closed = openForFacts(path)) takeFacts(head, closed.get());
+    if (const SystemHandle closed = openForFacts(path)) takeFacts(head, closed.get());
     fail(head, reason);
     return head;
   }

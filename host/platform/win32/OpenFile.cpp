@@ -6,10 +6,10 @@
 
 namespace veldra::host {
 
-Handle openForReading(const std::string& path) {
-  return Handle(CreateFileW(nativePath(path).c_str(), GENERIC_READ,
-                            FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                            OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+SystemHandle openForReading(const std::string& path) {
+  return SystemHandle(CreateFileW(nativePath(path).c_str(), GENERIC_READ,
+                                  FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                  OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
 }
 
 DWORD writeFully(HANDLE file, std::string_view bytes) {

@@ -4,12 +4,12 @@
 #include <string>
 #include <string_view>
 
-#include "host/platform/win32/Handle.h"
+#include "host/platform/win32/SystemHandle.h"
 
 namespace veldra::host {
 
 /// Opens a file for reading, whoever else has it open; a directory too.
-[[nodiscard]] Handle openForReading(const std::string& path);
+[[nodiscard]] SystemHandle openForReading(const std::string& path);
 
 /// Writes all bytes, however many calls that takes. 0, or the system's error number.
 [[nodiscard]] DWORD writeFully(HANDLE file, std::string_view bytes);

@@ -6,7 +6,7 @@
 
 #include "cm/host/RunThread.h"
 #include "host/platform/Processes.h"
-#include "host/platform/win32/Handle.h"
+#include "host/platform/win32/SystemHandle.h"
 
 namespace veldra::host {
 
@@ -50,9 +50,9 @@ class OutputPipe {
 
   LineList& m_lines;
   ChildWatch* m_watch;
-  Handle m_reader;
-  Handle m_childEnd;
-  Handle m_event;
+  SystemHandle m_reader;
+  SystemHandle m_childEnd;
+  SystemHandle m_event;
   OVERLAPPED m_pending{};
   std::array<char, std::size_t{64} * 1024> m_buffer;
   bool m_forgets = false;

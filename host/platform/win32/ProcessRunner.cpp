@@ -63,7 +63,7 @@ Result<CommandRun::Ending> ProcessRunner::runChild(Start& start, std::uint32_t t
 
 std::string ProcessRunner::startChild(const Start& start, ChildProcess& child, OutputPipe& output,
                                       OutputPipe& errors) {
-  Handle nowhere;
+  SystemHandle nowhere;
   HANDLE childOutput = nullptr;
   if (m_output == Output::Kept) childOutput = output.open();
   if (m_output == Output::File) childOutput = m_file->handle();

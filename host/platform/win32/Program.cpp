@@ -4,7 +4,7 @@
 #include <stdlib.h>
 #include <windows.h>
 
-#include "host/platform/win32/Handle.h"
+#include "host/platform/win32/SystemHandle.h"
 #include "host/platform/win32/WideText.h"
 
 namespace veldra::host {
@@ -34,9 +34,9 @@ void setVariable(const char* name, const char* value) {
 bool canWriteInto(const std::string& folder) {
   // What the attributes say of a folder is no permission; to ask for one tells.
   return static_cast<bool>(
-      Handle(CreateFileW(nativePath(folder).c_str(), FILE_ADD_FILE,
-                         FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                         OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr)));
+      SystemHandle(CreateFileW(nativePath(folder).c_str(), FILE_ADD_FILE,
+                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                               OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr)));
 }
 
 long processNumber() {
@@ -44,7 +44,7 @@ long processNumber() {
 }
 
 bool isProcessAlive(long number) {
-  const Handle process(OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(number)));
+  const SystemHandle process(OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(number)));
   if (!process) return GetLastError() != ERROR_INVALID_PARAMETER;
   return WaitForSingleObject(process.get(), 0) == WAIT_TIMEOUT;
 }

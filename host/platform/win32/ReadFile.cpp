@@ -38,7 +38,7 @@ ReadStep readOnce(HANDLE file, std::span<char> room) {
 }  // namespace
 
 Result<std::string> readFile(const std::string& path, std::size_t limit) {
-  const Handle file = openForReading(path);
+  const SystemHandle file = openForReading(path);
   if (!file) return unreadable(path, lastError());
   if (GetFileType(file.get()) != FILE_TYPE_DISK)
     return Contents::failure("'" + path + "' is not a regular file.");

@@ -136,8 +136,8 @@ TEST(Environment, directoriesGetTheirAbsoluteNames) {
 
 TEST(Environment, timeDateAndUserAreForPeople) {
   Environment environment("");
-  EXPECT_THAT(environment.omGetCurrentTime(), MatchesRegex("[0-2][0-9]:[0-5][0-9]:[0-6][0-9]"));
-  EXPECT_THAT(environment.omGetCurrentDate(), MatchesRegex("[0-9]{4}-[01][0-9]-[0-3][0-9]"));
+  EXPECT_THAT(environment.omGetCurrentTime(), MatchesRegex("..:..:.."));
+  EXPECT_THAT(environment.omGetCurrentDate(), MatchesRegex("....-..-.."));
   EXPECT_NE(environment.omGetCurrentUser(), "");
 }
 

@@ -7,12 +7,12 @@
 namespace veldra::host {
 
 /// Owns a handle of the system's and closes it.
-class Handle {
+class SystemHandle {
  public:
-  explicit Handle(HANDLE handle = nullptr) : m_handle(handle) {}
-  ~Handle() { reset(); }
-  Handle(Handle&& other) noexcept : m_handle(std::exchange(other.m_handle, nullptr)) {}
-  Handle& operator=(Handle&& other) noexcept {
+  explicit SystemHandle(HANDLE handle = nullptr) : m_handle(handle) {}
+  ~SystemHandle() { reset(); }
+  SystemHandle(SystemHandle&& other) noexcept : m_handle(std::exchange(other.m_handle, nullptr)) {}
+  SystemHandle& operator=(SystemHandle&& other) noexcept {
     if (this != &other) reset(std::exchange(other.m_handle, nullptr));
     return *this;
   }
