@@ -15,6 +15,8 @@ namespace {
 
 // How long the end of a job may take; a process that is stuck in the system takes longer.
 constexpr DWORD EndMilliseconds = 1000;
+// The system's limit, without the zero at its end; where it is not kept, a child would get less.
+constexpr std::size_t LongestLine = 32766;
 // What the ended processes leave as their exit code; nobody reads it.
 constexpr UINT EndedCode = 1;
 // Exit codes from here on are the system's: what a fault that nobody handled leaves behind.
@@ -84,6 +86,7 @@ int ChildProcess::start(const std::string& program, const std::vector<std::strin
   std::optional<std::wstring> line = childCommandLine(arguments);
   const std::optional<std::wstring> variables = childEnvironment(environment);
   if (!line || !variables) return ERROR_NO_UNICODE_TRANSLATION;
+  if (line->size() > LongestLine) return ERROR_FILENAME_EXCED_RANGE;
   const SystemHandle input = emptyInput();
   const SystemHandle childOutput = inheritable(output);
   const SystemHandle childErrors = inheritable(errors);

@@ -99,7 +99,11 @@ int run(const std::string& self, Arguments arguments) {
       return 0;
     }
     // Everything that follows is what a child of this child does.
-    if (step == "spawn") return veldra::test::spawn(self, {arguments.begin(), arguments.end()});
+    if (step == "spawn" || step == "spawn-and-stay") {
+      const int code = veldra::test::spawn(self, {arguments.begin(), arguments.end()});
+      if (step == "spawn-and-stay") std::this_thread::sleep_for(std::chrono::hours(1));
+      return code;
+    }
     if (const auto plain = plainSteps.find(step); plain != plainSteps.end()) {
       plain->second();
       continue;
