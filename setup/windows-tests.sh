@@ -30,7 +30,8 @@ say "Build for Windows"
 # shellcheck disable=SC2086  # a list of options on purpose
 configure "$windows" -DCMAKE_TOOLCHAIN_FILE="$top/cmake/mingw-w64.cmake" \
   -DVELDRA_WINDOWS_PREFIX="$libraries" -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0 \
-  -DVELDRA_BUILD_TESTS=ON -DVELDRA_BUILD_SUBVERSION_PROVIDER=OFF -DVELDRA_PRECOMPILE_HEADERS=ON $qt_options
+  -DVELDRA_BUILD_TESTS=ON -DVELDRA_BUILD_SUBVERSION_PROVIDER=OFF -DVELDRA_PRECOMPILE_HEADERS=ON \
+  -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=10 $qt_options
 cmake --build "$windows"
 # The interface of providers is the same in 32-bit programs, of which Debian's compiler for 64 bits
 # can at least check every declaration.

@@ -7,28 +7,29 @@ namespace veldra::host {
 
 namespace {
 
-constexpr std::string_view Separators = "/\\";
+constexpr std::string_view PathSeparators = "/\\";
 constexpr std::array<std::string_view, 6> Devices = {"con", "prn",    "aux",
                                                      "nul", "conin$", "conout$"};
 constexpr std::array<std::string_view, 2> NumberedDevices = {"com", "lpt"};
 
 bool isSeparator(char c) {
-  return Separators.find(c) != std::string_view::npos;
+  return PathSeparators.find(c) != std::string_view::npos;
 }
 
-char lower(char c) {
+char lowerLetter(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
 bool startsWithDrive(std::string_view path) {
-  return path.size() >= 2 && path[1] == ':' && lower(path[0]) >= 'a' && lower(path[0]) <= 'z';
+  return path.size() >= 2 && path[1] == ':' && lowerLetter(path[0]) >= 'a' &&
+         lowerLetter(path[0]) <= 'z';
 }
 
 /// A device keeps its name whatever extension follows.
 bool namesDevice(std::string_view part) {
   std::string stem(part.substr(0, part.find('.')));
   stem.erase(stem.find_last_not_of(' ') + 1);
-  std::ranges::transform(stem, stem.begin(), lower);
+  std::ranges::transform(stem, stem.begin(), lowerLetter);
   if (std::ranges::find(Devices, stem) != Devices.end()) return true;
   const bool isNumbered = stem.size() == 4 && stem[3] >= '1' && stem[3] <= '9';
   return isNumbered && std::ranges::find(NumberedDevices, std::string_view(stem).substr(0, 3)) !=
@@ -63,7 +64,7 @@ std::string_view withoutRoot(std::string_view path) {
 std::optional<std::string> windowsNameProblem(std::string_view path) {
   std::string_view rest = withoutRoot(path);
   while (!rest.empty()) {
-    const std::size_t end = std::min(rest.find_first_of(Separators), rest.size());
+    const std::size_t end = std::min(rest.find_first_of(PathSeparators), rest.size());
     const std::string_view part = rest.substr(0, end);
     rest.remove_prefix(std::min(end + 1, rest.size()));
     const std::string_view problem = problemOf(part);

@@ -23,7 +23,7 @@ mode_t modeOf(const std::string& path) {
   return status.st_mode & 07777;
 }
 
-std::string written(const std::string& path, std::string_view bytes) {
+std::string writtenHere(const std::string& path, std::string_view bytes) {
   return writeFileAtomically(path, bytes).value_or("");
 }
 
@@ -31,11 +31,11 @@ TEST(AtomicFilePosix, writesNewFilesAndReplacesOldOnesWithTheirMode) {
   const TempDirectory directory;
   const std::string bytes("a\0\r\n\xff", 5);
   const mode_t mask = ::umask(027);
-  EXPECT_EQ(written(directory.file("new"), "first"), "");
+  EXPECT_EQ(writtenHere(directory.file("new"), "first"), "");
   ::umask(mask);
   EXPECT_EQ(modeOf(directory.file("new")), 0640U);
   ::chmod(directory.file("new").c_str(), 0604);
-  EXPECT_EQ(written(directory.file("new"), bytes), "");
+  EXPECT_EQ(writtenHere(directory.file("new"), bytes), "");
   EXPECT_EQ(directory.read("new"), bytes);
   EXPECT_EQ(modeOf(directory.file("new")), 0604U);
   EXPECT_EQ(directory.entries(), 1U);
@@ -49,18 +49,18 @@ TEST(AtomicFilePosix, linksStayAndTheirTargetsAreWritten) {
   fs::create_symlink("link", directory.file("twice"));
   fs::create_symlink("sub/fresh", directory.file("dangling"));
   fs::create_symlink("round", directory.file("round"));
-  EXPECT_EQ(written(directory.file("twice"), "new"), "");
-  EXPECT_EQ(written(directory.file("dangling"), "made"), "");
+  EXPECT_EQ(writtenHere(directory.file("twice"), "new"), "");
+  EXPECT_EQ(writtenHere(directory.file("dangling"), "made"), "");
   EXPECT_EQ(directory.read("sub/real"), "new");
   EXPECT_EQ(directory.read("sub/fresh"), "made");
   EXPECT_TRUE(fs::is_symlink(directory.file("twice")));
-  EXPECT_THAT(written(directory.file("round"), "x"), HasSubstr("links go round"));
+  EXPECT_THAT(writtenHere(directory.file("round"), "x"), HasSubstr("links go round"));
 }
 
 TEST(AtomicFilePosix, refusesAPipe) {
   const TempDirectory directory;
   ::mkfifo(directory.file("pipe").c_str(), 0600);
-  EXPECT_THAT(written(directory.file("pipe"), "x"), HasSubstr("not a regular file"));
+  EXPECT_THAT(writtenHere(directory.file("pipe"), "x"), HasSubstr("not a regular file"));
   EXPECT_THAT(readFile(directory.file("pipe"), 9).error(), HasSubstr("not a regular file"));
 }
 
@@ -73,7 +73,7 @@ TEST(AtomicFilePosix, aFullDiskLeavesTheOldFileWhole) {
     ::signal(SIGXFSZ, SIG_IGN);
     const rlimit tight{4096, 4096};
     ::setrlimit(RLIMIT_FSIZE, &tight);
-    const std::string error = written(file, std::string(100000, 'x'));
+    const std::string error = writtenHere(file, std::string(100000, 'x'));
     _exit(error.find("'" + file + "'") != std::string::npos ? 0 : 1);
   }
   int status = 0;

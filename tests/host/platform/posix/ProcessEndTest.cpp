@@ -16,7 +16,7 @@ namespace {
 using testing::HasSubstr;
 
 /// True once the process is gone or has ended without having been waited for.
-bool isGone(const std::string& process) {
+bool isGoneFromProc(const std::string& process) {
   for (int i = 0; i < 200; ++i) {
     std::ifstream stream("/proc/" + process + "/stat");
     std::string stat;
@@ -51,15 +51,15 @@ TEST_F(ProcessesTest, theWholeGroupEndsEvenWhenItIgnoresTheTerminateSignal) {
   for (const auto& command : {grandchild + child, stubborn + grandchild + child}) {
     const Outcome outcome = run(script(command), 300);
     EXPECT_EQ(outcome.end, ProcessEnd::TimedOut);
-    EXPECT_TRUE(isGone(firstLine(outcome.output))) << command;
-    EXPECT_TRUE(isGone(firstLine(directory.read("pid")))) << command;
+    EXPECT_TRUE(isGoneFromProc(firstLine(outcome.output))) << command;
+    EXPECT_TRUE(isGoneFromProc(firstLine(directory.read("pid")))) << command;
   }
 }
 
 TEST_F(ProcessesTest, aChildThatClosesItsOutputsAndStaysMeetsTheTimeOut) {
   const Outcome outcome = run(script("echo $$; exec >&- 2>&-; exec sleep 1000"), 200);
   EXPECT_EQ(outcome.end, ProcessEnd::TimedOut);
-  EXPECT_TRUE(isGone(firstLine(outcome.output)));
+  EXPECT_TRUE(isGoneFromProc(firstLine(outcome.output)));
 }
 
 TEST_F(ProcessesTest, whatAChildLeavesBehindDoesNotHoldUs) {
@@ -67,7 +67,7 @@ TEST_F(ProcessesTest, whatAChildLeavesBehindDoesNotHoldUs) {
   EXPECT_EQ(outcome.end, ProcessEnd::Exited);
   EXPECT_EQ(outcome.code, 3);
   EXPECT_EQ(outcome.errors, "");
-  EXPECT_TRUE(isGone(firstLine(outcome.output)));
+  EXPECT_TRUE(isGoneFromProc(firstLine(outcome.output)));
 }
 
 TEST_F(ProcessesTest, whatHasLeftTheGroupIsLeftAlone) {
