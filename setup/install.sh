@@ -1,5 +1,5 @@
 #!/bin/sh
-# Installs the packages of setup/packages.txt that are missing: setup/install.sh run|test|long
+# Installs the packages of setup/packages.txt that are missing: setup/install.sh run|test|long|windows
 # Says what it installs. On a system without apt-get it names what is missing instead.
 set -eu
 
@@ -8,7 +8,8 @@ case "${1:-run}" in
   run) groups="run" ;;
   test) groups="run test" ;;
   long) groups="run test long" ;;
-  *) echo "usage: setup/install.sh run|test|long" >&2; exit 2 ;;
+  windows) groups="run test windows" ;;
+  *) echo "usage: setup/install.sh run|test|long|windows" >&2; exit 2 ;;
 esac
 
 wanted=$(for group in $groups; do

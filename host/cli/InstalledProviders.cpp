@@ -7,6 +7,7 @@
 #include "cm/scc/SccInterface.h"
 #include "host/cli/ExitCode.h"
 #include "host/platform/Libraries.h"
+#include "host/platform/RegistryPlace.h"
 
 namespace veldra::host::cli {
 
@@ -35,17 +36,13 @@ std::string keyFor(const std::string& name) {
   return "Software\\Veldra\\" + key;
 }
 
-template <class Change>
-void changeRegistry(const std::string& file, Change change) {
-  if (file.empty()) {
+void store(const std::string& place, const std::vector<RegistryEntry>& entries) {
+  if (place.empty()) {
     throw CommandError(ExitCode::NothingDone,
                        "There is no place for a registry of your own: set HOME, XDG_CONFIG_HOME or "
                        "VELDRA_USER_REGISTRY.");
   }
-  Result<RegistryFile> content = RegistryFile::read(file);
-  if (!content) throw CommandError(ExitCode::NothingDone, content.error());
-  change(*content);
-  if (const std::optional<std::string> failure = content->write(file))
+  if (const std::optional<std::string> failure = storeInRegistry(place, entries))
     throw CommandError(ExitCode::NothingDone, *failure);
 }
 
@@ -89,20 +86,17 @@ std::string providerNameOf(const std::string& library) {
   return name[0] != '\0' ? name.data() : std::filesystem::path(library).stem().string();
 }
 
-void installProvider(const std::string& registryFile, const std::string& name,
+void installProvider(const std::string& place, const std::string& name,
                      const std::string& library) {
   const std::string key = keyFor(name);
-  changeRegistry(registryFile, [&](RegistryFile& file) {
-    file.keys[key][NameName] = name;
-    file.keys[key][PathName] = library;
-    file.keys[InstalledKey][name] = key;
-    file.keys[ProvidersKey].try_emplace(DefaultName, key);
-  });
+  store(place, {{key, NameName, name},
+                {key, PathName, library},
+                {InstalledKey, name, key},
+                {ProvidersKey, DefaultName, key, true}});
 }
 
-void makeDefaultProvider(const std::string& registryFile, const InstalledProvider& provider) {
-  changeRegistry(registryFile,
-                 [&](RegistryFile& file) { file.keys[ProvidersKey][DefaultName] = provider.key; });
+void makeDefaultProvider(const std::string& place, const InstalledProvider& provider) {
+  store(place, {{ProvidersKey, DefaultName, provider.key}});
 }
 
 std::string shippedProvider(const std::string& installationRoot) {

@@ -22,13 +22,12 @@ std::vector<InstalledProvider> installedProviders(Registry& registry);
 /// `CommandError` when it cannot be loaded, or is none.
 std::string providerNameOf(const std::string& library);
 
-/// Writes a provider into a registry file. The default stays what it is, unless there is none.
-/// Throws `CommandError` when the file cannot be written.
-void installProvider(const std::string& registryFile, const std::string& name,
-                     const std::string& library);
+/// Writes a provider into a half of the registry. The default stays what it is, unless there is
+/// none. Throws `CommandError` when it cannot be written.
+void installProvider(const std::string& place, const std::string& name, const std::string& library);
 
 /// Makes an installed provider the default of the user. Throws like the above.
-void makeDefaultProvider(const std::string& registryFile, const InstalledProvider& provider);
+void makeDefaultProvider(const std::string& place, const InstalledProvider& provider);
 
 /// The library of the provider that comes with this program, whether it exists or not.
 std::string shippedProvider(const std::string& installationRoot);

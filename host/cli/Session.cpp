@@ -42,7 +42,7 @@ bool holdsProject(const fs::path& directory) {
   std::error_code failed;
   for (fs::directory_iterator at(directory, failed), end; !failed && at != end;
        at.increment(failed)) {
-    const std::string name = at->path().filename().native();
+    const std::string name = at->path().filename().string();
     if (FileTypes::isProjectFile(name) && !name.starts_with('.')) return true;
   }
   return false;
@@ -55,7 +55,7 @@ std::string nearestProject(const std::string& directory) {
   fs::path at = fs::absolute(directory.empty() ? "." : directory, failed).lexically_normal();
   if (failed) return {};
   for (;; at = at.parent_path()) {
-    if (holdsProject(at)) return at.native();
+    if (holdsProject(at)) return at.string();
     if (at == at.parent_path()) return {};
   }
 }

@@ -11,6 +11,7 @@ int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
   std::cin.tie(nullptr);
   cli::catchInterrupts();
+  prepareTerminal();
   addOwnFolderToPath();
   const bool isErrorSeen = isTerminal(StandardStream::Error);
   cli::Console console{.in = std::cin,

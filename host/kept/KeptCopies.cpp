@@ -15,6 +15,7 @@
 #include "host/platform/AtomicFile.h"
 #include "host/platform/Clock.h"
 #include "host/platform/Program.h"
+#include "host/platform/RemoveTree.h"
 
 namespace veldra::host {
 
@@ -128,8 +129,7 @@ std::string KeptCopies::copyFile(const std::string& from, const std::string& ope
   if (!failed) fs::copy_file(from, target, failed);
   if (!failed) fs::rename(part, joinPath(store(), id), failed);
   if (!failed) return {};
-  std::error_code ignored;
-  fs::remove_all(part, ignored);
+  removeTree(part);
   return failed.message() + ". Make room in " + store() + ", or give yourself the right to write.";
 }
 
@@ -137,10 +137,7 @@ void KeptCopies::settle(const std::string& fullFileName) {
   const auto open = m_open.find(fullFileName);
   if (open == m_open.end()) return;
   const std::string folder = joinPath(store(), open->second);
-  if (sameContent(joinPath(folder, fileBelow(folder)), fullFileName)) {
-    std::error_code ignored;
-    fs::remove_all(folder, ignored);
-  }
+  if (sameContent(joinPath(folder, fileBelow(folder)), fullFileName)) removeTree(folder);
   m_open.erase(open);
 }
 
@@ -172,7 +169,8 @@ std::string KeptCopies::fileOf(const KeptCopy& copy) const {
 }
 
 std::string KeptCopies::originalOf(const KeptCopy& copy) const {
-  return copy.path.starts_with(HostSeparator) ? copy.path : joinPath(m_projectFolder(), copy.path);
+  const bool isComplete = std::filesystem::path(copy.path).is_absolute();
+  return isComplete ? copy.path : joinPath(m_projectFolder(), copy.path);
 }
 
 std::optional<std::string> KeptCopies::restore(const KeptCopy& copy, bool force) {
@@ -197,8 +195,7 @@ void KeptCopies::prune() {
     const std::string name = at->path().filename().string();
     const std::size_t process = PartPrefix.size() + StampLength + 1;
     if (!name.starts_with(PartPrefix) || name.size() <= process) continue;
-    std::error_code ignored;
-    if (!isProcessAlive(std::atol(name.c_str() + process))) fs::remove_all(at->path(), ignored);
+    if (!isProcessAlive(std::atol(name.c_str() + process))) removeTree(at->path());
   }
   const auto oldest = fs::file_time_type::clock::now() - std::chrono::days(m_limits.days);
   std::uint64_t total = 0;
@@ -208,7 +205,7 @@ void KeptCopies::prune() {
     total += copy.size;
     const bool isOver = total > m_limits.bytes || fs::last_write_time(folder, unknown) < oldest;
     if (!isOver || m_own.contains(copy.id)) continue;
-    fs::remove_all(folder, unknown);
+    removeTree(folder);
   }
 }
 

@@ -9,6 +9,7 @@
 #include "host/model/FolderScan.h"
 #include "host/model/PathNames.h"
 #include "host/platform/AtomicFile.h"
+#include "host/platform/RemoveTree.h"
 
 namespace veldra::host {
 namespace fs = std::filesystem;
@@ -57,16 +58,16 @@ void removeEmptyFolders(const std::string& top) {
 
 KeptFiles::KeptFiles(std::string path, std::string& error) : m_path(std::move(path)) {
   try {
-    m_folder = makeFolder().native();
+    m_folder = makeFolder().string();
     if (!fs::is_directory(m_path)) {
       if (fs::exists(m_path)) keep({});
       return;
     }
     for (fs::recursive_directory_iterator at(m_path), end; at != end; ++at) {
-      if (at->is_directory() && isRecordFolder(at->path().filename().native())) {
+      if (at->is_directory() && isRecordFolder(at->path().filename().string())) {
         at.disable_recursion_pending();
       } else if (at->is_regular_file() && !at->is_symlink()) {
-        keep(at->path().native().substr(m_path.size() + 1));
+        keep(at->path().string().substr(m_path.size() + 1));
       }
     }
   } catch (const fs::filesystem_error& failure) {
@@ -75,8 +76,7 @@ KeptFiles::KeptFiles(std::string path, std::string& error) : m_path(std::move(pa
 }
 
 KeptFiles::~KeptFiles() {
-  std::error_code failed;
-  if (!m_stays && !m_folder.empty()) fs::remove_all(m_folder, failed);
+  if (!m_stays && !m_folder.empty()) removeTree(m_folder);
 }
 
 void KeptFiles::keep(const std::string& file) {

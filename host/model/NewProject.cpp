@@ -18,7 +18,7 @@ std::optional<std::string> presentProjectFile(const std::string& directory) {
   std::error_code failed;
   for (fs::directory_iterator at(directory, failed), end; !failed && at != end;
        at.increment(failed)) {
-    const std::string name(baseName(at->path().native()));
+    const std::string name(baseName(at->path().string()));
     if (FileTypes::isProjectFile(name) && !name.starts_with('.')) return name;
   }
   return std::nullopt;

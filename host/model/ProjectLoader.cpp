@@ -21,7 +21,7 @@ std::vector<std::string> projectFilesIn(const std::string& directory) {
   std::error_code failed;
   for (fs::directory_iterator at(directory, failed), end; !failed && at != end;
        at.increment(failed)) {
-    std::string name(baseName(at->path().native()));
+    std::string name(baseName(at->path().string()));
     if (FileTypes::isProjectFile(name) && !name.starts_with('.')) files.push_back(std::move(name));
   }
   std::sort(files.begin(), files.end());

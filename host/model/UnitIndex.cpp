@@ -8,7 +8,8 @@ namespace veldra::host {
 namespace {
 
 bool isAbsolute(std::string_view name) {
-  return name.starts_with('/') || (name.size() > 2 && name[1] == ':');
+  return name.starts_with(HostSeparator) || name.starts_with('/') ||
+         (name.size() > 2 && name[1] == ':');
 }
 
 }  // namespace

@@ -60,18 +60,6 @@ class Splitter {
   bool m_inQuotes = false;
 };
 
-void appendQuoted(std::string& line, std::string_view argument) {
-  line += '"';
-  std::size_t backslashes = 0;
-  for (const char c : argument) {
-    if (c == '"') line.append(backslashes + 1, '\\');
-    backslashes = c == '\\' ? backslashes + 1 : 0;
-    line += c;
-  }
-  line.append(backslashes, '\\');
-  line += '"';
-}
-
 }  // namespace
 
 Result<std::vector<std::string>> splitCommandLine(std::string_view commandLine) {
@@ -91,15 +79,24 @@ Result<std::vector<std::string>> splitCommandLine(std::string_view commandLine) 
   return arguments;
 }
 
+std::string quotedArgument(std::string_view argument) {
+  std::string quoted = "\"";
+  std::size_t backslashes = 0;
+  for (const char c : argument) {
+    if (c == '"') quoted.append(backslashes + 1, '\\');
+    backslashes = c == '\\' ? backslashes + 1 : 0;
+    quoted += c;
+  }
+  quoted.append(backslashes, '\\');
+  return quoted += '"';
+}
+
 std::string joinCommandLine(const std::vector<std::string>& arguments) {
   std::string line;
   for (const std::string& argument : arguments) {
     if (!line.empty()) line += ' ';
-    if (argument.empty() || argument.find_first_of(" \t\"") != std::string::npos) {
-      appendQuoted(line, argument);
-    } else {
-      line += argument;
-    }
+    const bool isPlain = !argument.empty() && argument.find_first_of(" \t\"") == std::string::npos;
+    line += isPlain ? argument : quotedArgument(argument);
   }
   return line;
 }

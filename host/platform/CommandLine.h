@@ -19,6 +19,9 @@ namespace veldra::host {
 /// line has no arguments. Takes time in proportion to the length of the line.
 Result<std::vector<std::string>> splitCommandLine(std::string_view commandLine);
 
+/// One argument between quotes, as `splitCommandLine` takes it.
+[[nodiscard]] std::string quotedArgument(std::string_view argument);
+
 /// The command line that `splitCommandLine` takes apart into these very arguments. Only what needs
 /// quotes gets them. The arguments must not contain NUL bytes.
 [[nodiscard]] std::string joinCommandLine(const std::vector<std::string>& arguments);

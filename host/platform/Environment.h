@@ -13,6 +13,9 @@ namespace veldra::host {
 /// `../share/veldra-cm` beside the directory of the running program. Empty when neither can be had.
 [[nodiscard]] std::string findInstallationRoot();
 
+/// Why a directory cannot be had, for the user; the empty path is the current one.
+[[nodiscard]] std::string unusableDirectory(const std::string& path, int error);
+
 /// Files, settings and the surroundings of this process.
 class Environment : public IEnvironment {
  public:

@@ -9,7 +9,11 @@ enum class StandardStream { Input, Output, Error };
 /// Whether a person is looking at that stream of this program.
 [[nodiscard]] bool isTerminal(StandardStream stream);
 
-/// Sets a variable of this program's own environment. Only before other threads run.
+/// Makes the terminal take UTF-8 and the signs that move the cursor, where it has to be asked.
+void prepareTerminal();
+
+/// Sets a variable of this program's own environment; null removes it. Only while no other thread
+/// runs.
 void setVariable(const char* name, const char* value);
 
 /// The file that a program's name starts, as child processes look it up; empty when there is none.

@@ -1,29 +1,53 @@
 #include "host/platform/StaleFiles.h"
 
 #include <algorithm>
+#include <atomic>
 #include <charconv>
 #include <chrono>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
 
+#include "host/platform/AtomicFile.h"
 #include "host/platform/Program.h"
+#include "host/platform/RemoveTree.h"
+#include "host/platform/Temporaries.h"
 
 namespace veldra::host {
 
 namespace {
 
-/// The process whose number the name carries; 0 when it is another file's name.
-long ownerOf(std::string_view name) {
-  constexpr std::string_view Prefix = "veldra-cm-";
-  constexpr std::size_t SuffixLength = sizeof("-XXXXXX") - 1;
-  if (!name.starts_with(Prefix) || name.size() <= Prefix.size() + SuffixLength) return 0;
-  const std::string_view digits =
-      name.substr(Prefix.size(), name.size() - Prefix.size() - SuffixLength);
+namespace fs = std::filesystem;
+
+constexpr std::string_view TemporaryPrefix = ".veldra-cm-";
+constexpr std::string_view TemporarySuffix = ".tmp";
+constexpr std::string_view TempFilePrefix = "veldra-cm-";
+constexpr std::size_t TempFileEnding = sizeof("-XXXXXX") - 1;
+
+/// The number before the first hyphen; 0 when it is none, or `end` is not where that hyphen is.
+long numberIn(std::string_view text, std::size_t end) {
   long process = 0;
-  const char* const end = digits.data() + digits.size();
-  const auto [stop, error] = std::from_chars(digits.data(), end, process);
-  return error == std::errc() && stop == end && *end == '-' && process > 0 ? process : 0;
+  const char* const last = text.data() + std::min(end, text.size());
+  const auto [stop, error] = std::from_chars(text.data(), last, process);
+  const bool isNumber = error == std::errc() && stop != text.data() + text.size() && *stop == '-';
+  return isNumber && process > 0 && (end == std::string_view::npos || stop == last) ? process : 0;
+}
+
+/// The process whose number the name of a temporary carries; 0 when it is another file's name.
+long writerOf(std::string_view name) {
+  if (!name.starts_with(TemporaryPrefix) || !name.ends_with(TemporarySuffix)) return 0;
+  return numberIn(name.substr(TemporaryPrefix.size()), std::string_view::npos);
+}
+
+/// The same for a file or folder of the directory for temporary files.
+long ownerOf(std::string_view name) {
+  if (!name.starts_with(TempFilePrefix)) return 0;
+  name.remove_prefix(TempFilePrefix.size());
+  return name.size() > TempFileEnding ? numberIn(name, name.size() - TempFileEnding) : 0;
+}
+
+std::string nameOf(const fs::directory_entry& entry) {
+  return entry.path().filename().string();
 }
 
 /// "_tmp2026_325_16_05_23_1": the date, the time and the side of a comparison.
@@ -36,33 +60,49 @@ bool isComparisonSide(std::string_view name) {
 }
 
 /// A tool may still read what is younger.
-bool isOldSide(const std::filesystem::directory_entry& entry) {
-  if (!isComparisonSide(entry.path().filename().native())) return false;
+bool isOldSide(const fs::directory_entry& entry) {
+  if (!isComparisonSide(nameOf(entry))) return false;
   std::error_code unknown;
   const auto written = entry.last_write_time(unknown);
-  return !unknown &&
-         entry.symlink_status(unknown).type() == std::filesystem::file_type::directory &&
-         written < std::filesystem::file_time_type::clock::now() - std::chrono::weeks(1) &&
+  return !unknown && entry.symlink_status(unknown).type() == fs::file_type::directory &&
+         written < fs::file_time_type::clock::now() - std::chrono::weeks(1) &&
          belongsToUser(entry.path().string());
 }
 
-bool isStale(const std::filesystem::directory_entry& entry) {
-  const long process = ownerOf(entry.path().filename().native());
-  return process != 0 ? !isProcessAlive(process) : isOldSide(entry);
+/// Removes what is a leftover. Returns how much that was.
+template <class IsStale>
+std::size_t removeFrom(const std::string& directory, IsStale isStale) {
+  std::size_t removed = 0;
+  std::error_code error;
+  for (fs::directory_iterator at(directory, error), end; !error && at != end; at.increment(error)) {
+    if (isStale(*at) && removeTree(at->path())) ++removed;
+  }
+  return removed;
+}
+
+bool isOfTheDead(long process) {
+  return process != 0 && !isProcessAlive(process);
 }
 
 }  // namespace
 
+std::string nextTemporaryName() {
+  static std::atomic<unsigned> counter{0};
+  std::string name(TemporaryPrefix);
+  name += std::to_string(processNumber()) + '-' + std::to_string(counter++);
+  return name.append(TemporarySuffix);
+}
+
 std::size_t removeStaleTempFiles(const std::string& directory) {
-  std::size_t removed = 0;
-  std::error_code error;
-  for (std::filesystem::directory_iterator at(directory, error), end; !error && at != end;
-       at.increment(error)) {
-    if (!isStale(*at)) continue;
-    std::error_code refused;
-    if (std::filesystem::remove_all(at->path(), refused) > 0 && !refused) ++removed;
-  }
-  return removed;
+  return removeFrom(directory, [](const fs::directory_entry& entry) {
+    return isOfTheDead(ownerOf(nameOf(entry))) || isOldSide(entry);
+  });
+}
+
+std::size_t removeStaleTemporaries(const std::string& directory) {
+  return removeFrom(directory, [](const fs::directory_entry& entry) {
+    return isOfTheDead(writerOf(nameOf(entry)));
+  });
 }
 
 }  // namespace veldra::host

@@ -1,13 +1,10 @@
 #pragma once
 
 #include <string>
-#include <system_error>
 
 namespace veldra::host {
 
-/// The system's words for one of its error numbers.
-[[nodiscard]] inline std::string systemErrorText(int number) {
-  return std::system_category().message(number);
-}
+/// The system's words for one of its error numbers, without a full stop.
+[[nodiscard]] std::string systemErrorText(int number);
 
 }  // namespace veldra::host

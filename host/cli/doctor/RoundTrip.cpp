@@ -9,6 +9,7 @@
 #include "host/cli/printing/BytesAsText.h"
 #include "host/model/PathNames.h"
 #include "host/platform/Program.h"
+#include "host/platform/RemoveTree.h"
 
 namespace veldra::host::cli {
 
@@ -33,10 +34,7 @@ class Workshop {
   }
   Workshop(const Workshop&) = delete;
   Workshop& operator=(const Workshop&) = delete;
-  ~Workshop() {
-    std::error_code ignored;
-    fs::remove_all(m_root, ignored);
-  }
+  ~Workshop() { removeTree(m_root); }
 
   std::string project() const { return joinPath(m_root, "project"); }
   std::string archive() const { return joinPath(m_root, "archive"); }

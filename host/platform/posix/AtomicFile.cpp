@@ -2,16 +2,14 @@
 
 #include <errno.h>
 #include <fcntl.h>
-#include <signal.h>
 #include <stdio.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <atomic>
-#include <charconv>
 #include <filesystem>
 
 #include "host/platform/SystemError.h"
+#include "host/platform/Temporaries.h"
 #include "host/platform/posix/FileDescriptor.h"
 #include "host/platform/posix/WriteFully.h"
 
@@ -21,8 +19,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view TemporaryPrefix = ".veldra-cm-";
-constexpr std::string_view TemporarySuffix = ".tmp";
 constexpr int MostLinks = 40;
 constexpr mode_t PermissionBits = 07777;
 constexpr mode_t NewFileMode = 0666;
@@ -58,10 +54,8 @@ std::optional<std::string> objection(const std::string& path, const struct stat&
 class TemporaryFile {
  public:
   TemporaryFile(const fs::path& directory, mode_t mode) {
-    static std::atomic<unsigned> counter{0};
-    const std::string start = std::string(TemporaryPrefix) + std::to_string(getpid()) + '-';
     do {
-      m_path = (directory / (start + std::to_string(counter++) + std::string(TemporarySuffix)));
+      m_path = directory / nextTemporaryName();
       m_file.reset(::open(m_path.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, mode));
     } while (!m_file && errno == EEXIST);
     m_error = m_file ? 0 : errno;
@@ -130,19 +124,6 @@ std::optional<std::string> replaceFile(const std::string& path, std::string_view
   return std::nullopt;
 }
 
-/// The process whose number the name of a temporary carries; 0 when it is another file's name.
-pid_t processOf(std::string_view name) {
-  if (!name.starts_with(TemporaryPrefix) || !name.ends_with(TemporarySuffix)) return 0;
-  name.remove_prefix(TemporaryPrefix.size());
-  pid_t process = 0;
-  const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), process);
-  return error == std::errc() && *end == '-' && process > 0 ? process : 0;
-}
-
-bool isDead(pid_t process) {
-  return ::kill(process, 0) != 0 && errno == ESRCH;
-}
-
 }  // namespace
 
 std::optional<std::string> writeFileAtomically(const std::string& path, std::string_view bytes,
@@ -152,17 +133,6 @@ std::optional<std::string> writeFileAtomically(const std::string& path, std::str
   } catch (const std::exception& problem) {
     return unwritten(path, problem.what());
   }
-}
-
-std::size_t removeStaleTemporaries(const std::string& directory) {
-  std::size_t removed = 0;
-  std::error_code error;
-  for (fs::directory_iterator entry(directory, error), end; !error && entry != end;
-       entry.increment(error)) {
-    const pid_t process = processOf(entry->path().filename().native());
-    if (process != 0 && isDead(process) && ::unlink(entry->path().c_str()) == 0) ++removed;
-  }
-  return removed;
 }
 
 std::size_t restoreSetAside(const std::string& directory, const std::vector<std::string>& names) {

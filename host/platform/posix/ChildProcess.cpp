@@ -117,7 +117,7 @@ ChildStatus ChildProcess::finish(bool endGroup) {
   m_process = 0;
   if (reaped <= 0) return {};
   if (WIFEXITED(status)) return {ChildStatus::Kind::Exited, WEXITSTATUS(status)};
-  return {ChildStatus::Kind::Signalled, WTERMSIG(status)};
+  return {ChildStatus::Kind::Crashed, WTERMSIG(status)};
 }
 
 }  // namespace veldra::host

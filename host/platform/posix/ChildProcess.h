@@ -5,17 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "host/platform/Processes.h"
+#include "host/platform/CommandRun.h"
 #include "host/platform/posix/FileDescriptor.h"
 
 namespace veldra::host {
-
-/// How a child ended: by an exit code or by a signal.
-struct ChildStatus {
-  enum class Kind { Exited, Signalled, Unknown };
-  Kind kind = Kind::Unknown;
-  int number = 0;
-};
 
 /// A started child, the head of a process group of its own. It is not reaped before `finish`, so
 /// that its number, and with it that of the group, cannot pass to another process.

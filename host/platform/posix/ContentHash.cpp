@@ -12,13 +12,7 @@ std::string contentHash(std::string_view bytes) {
   if (EVP_Digest(bytes.data(), bytes.size(), digest.data(), &size, EVP_sha256(), nullptr) != 1) {
     return {};
   }
-  constexpr char Digits[] = "0123456789abcdef";
-  std::string text;
-  for (unsigned i = 0; i < size; ++i) {
-    text += Digits[digest.at(i) >> 4U];
-    text += Digits[digest.at(i) & 0xFU];
-  }
-  return text;
+  return hexDigits({digest.data(), size});
 }
 
 }  // namespace veldra::host

@@ -10,8 +10,8 @@
 
 #include "host/platform/CommandLine.h"
 #include "host/platform/Processes.h"
+#include "host/platform/ProgramSearch.h"
 #include "host/platform/posix/FileDescriptor.h"
-#include "host/platform/posix/ProgramSearch.h"
 
 namespace veldra::host {
 

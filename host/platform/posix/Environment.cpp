@@ -7,7 +7,6 @@
 #include <unistd.h>
 
 #include <array>
-#include <cctype>
 #include <cstdlib>
 #include <filesystem>
 
@@ -35,15 +34,6 @@ bool statusOf(const std::string& path, struct stat& status) {
   return ::stat(path.c_str(), &status) == 0;
 }
 
-std::string variableName(const std::string& setting) {
-  std::string name = "VELDRA_";
-  for (const char c : setting) {
-    const auto byte = static_cast<unsigned char>(c);
-    name += std::isalnum(byte) != 0 ? static_cast<char>(std::toupper(byte)) : '_';
-  }
-  return name;
-}
-
 /// The absolute name as the user wrote it. Links are kept, except where ".." steps back over one.
 std::filesystem::path absoluteName(const std::filesystem::path& path, std::error_code& error) {
   for (const auto& part : path) {
@@ -58,35 +48,6 @@ std::string withoutLastSeparator(std::string path) {
 }
 
 }  // namespace
-
-Environment::Environment(std::string installationRoot, Settings settings)
-    : m_root(std::move(installationRoot)), m_settings(std::move(settings)) {}
-
-int Environment::omGetRoot(std::string& root) {
-  if (m_root.empty()) return 0;
-  root = m_root;
-  return 1;
-}
-
-int Environment::omGetEnvVar(const std::string& section, const std::string& name,
-                             std::string& value, const std::string& defaultValue) {
-  value = defaultValue;
-  if (section == "General") {
-    if (const char* variable = std::getenv(variableName(name).c_str())) {
-      value = variable;
-      return 1;
-    }
-  }
-  try {
-    auto setting = m_settings ? m_settings(section, name) : std::nullopt;
-    if (!setting) return 0;
-    value = std::move(*setting);
-    return 1;
-  } catch (...) {
-    // A host's look-up that fails leaves the setting unset.
-    return 0;
-  }
-}
 
 std::string Environment::omGetTempDir() {
   const char* const wanted = std::getenv("TMPDIR");
@@ -103,14 +64,6 @@ char Environment::omPathSeparator() const {
 
 bool Environment::omIsAbsolutePath(const std::string& path) {
   return path.starts_with('/');
-}
-
-std::string Environment::omGetCurrentTime() {
-  return timeText(localTimeNow());
-}
-
-std::string Environment::omGetCurrentDate() {
-  return dateText(localTimeNow());
 }
 
 std::string Environment::omGetCurrentUser() {
@@ -160,8 +113,7 @@ std::string Environment::omGetFullPathOfDirectory(const std::string& path, std::
   }
   if (!error) return withoutLastSeparator(directory.string());
   m_lastError = error.value();
-  const std::string name = path.empty() ? "The current directory" : "The directory '" + path + "'";
-  errorText = name + " cannot be used: " + systemErrorText(m_lastError) + ".";
+  errorText = unusableDirectory(path, m_lastError);
   return {};
 }
 
@@ -178,10 +130,6 @@ bool Environment::setCurrentDirectory(const std::string& path) {
   if (!cannotBeNamed(path) && ::chdir(path.c_str()) == 0) return true;
   m_lastError = cannotBeNamed(path) ? EINVAL : errno;
   return false;
-}
-
-std::string Environment::omGetErrorCodeString() {
-  return m_lastError == 0 ? std::string() : systemErrorText(m_lastError);
 }
 
 std::string Environment::createTempFile(const std::string& content) {

@@ -2,14 +2,15 @@
 
 #include <string>
 
-#include "host/platform/Processes.h"
-#include "host/platform/posix/OutputCollector.h"
+#include "host/platform/CommandRun.h"
+#include "host/platform/posix/ChildProcess.h"
 #include "host/platform/posix/OutputFile.h"
+#include "host/platform/posix/PolledWait.h"
 
 namespace veldra::host {
 
-/// Runs one command line, from the start of the child to its end, within `getStatus`.
-class ProcessRunner : public RunThread {
+/// A command line as a child with a process group of its own.
+class ProcessRunner : public CommandRun {
  public:
   /// Where the child's standard output goes.
   enum class Output { Kept, File, Nowhere };
@@ -19,31 +20,17 @@ class ProcessRunner : public RunThread {
   ProcessRunner(std::string command, const ChildSettings& settings, const CancelSignal& cancel,
                 Output output, const OutputFile* file);
 
-  std::uint32_t getStatus(std::uint32_t timeout) override;
-  LineList& errorLines() override { return m_errorLines; }
-  LineList& outputLines() override { return m_outputLines; }
-  ProcessEnd end() const override { return m_end; }
-  int endCode() const override { return m_endCode; }
-
  private:
-  void run(std::uint32_t timeout);
+  bool isCancelled() const override { return m_cancel.isRaised(); }
+  Result<Ending> runChild(Start& start, std::uint32_t timeout) override;
+  std::string crashText(int signal) const override;
   /// Why the child could not be started; empty when it runs.
-  std::string start(ChildProcess& child, OutputPipe& output, OutputPipe& errors);
-  std::string startError(int error) const;
-  void fail(ProcessEnd end, const std::string& line);
-  void conclude(OutputCollector::Stop stop, ChildStatus status, bool insideLine);
+  std::string startChild(Start& start, ChildProcess& child, OutputPipe& output, OutputPipe& errors);
+  std::string systemStartError(int error) const;
 
-  std::string m_command;
-  const ChildSettings& m_settings;
   const CancelSignal& m_cancel;
   Output m_output;
   const OutputFile* m_file;
-  /// The program's name as the command has it.
-  std::string m_name;
-  LineList m_outputLines;
-  LineList m_errorLines;
-  ProcessEnd m_end = ProcessEnd::Running;
-  int m_endCode = 0;
 };
 
 }  // namespace veldra::host

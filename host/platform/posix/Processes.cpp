@@ -33,18 +33,6 @@ std::unique_ptr<RunThread> Processes::createRunThreadRedirect(const std::string&
                                          static_cast<const OutputFile*>(file));
 }
 
-void Processes::setChildEnvironment(std::map<std::string, std::string> variables) {
-  m_settings.environment = std::move(variables);
-}
-
-void Processes::setWatch(ChildWatch* watch) {
-  m_settings.watch = watch;
-}
-
-void Processes::setOutputLimit(std::size_t bytes) {
-  m_settings.outputLimit = bytes;
-}
-
 void Processes::requestCancel() noexcept {
   m_cancel->raise();
 }

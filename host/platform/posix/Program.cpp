@@ -11,8 +11,6 @@
 #include <fstream>
 #include <string>
 
-#include "host/platform/posix/ProgramSearch.h"
-
 namespace veldra::host {
 
 bool isTerminal(StandardStream stream) {
@@ -27,13 +25,10 @@ bool isTerminal(StandardStream stream) {
   return false;
 }
 
-void setVariable(const char* name, const char* value) {
-  setenv(name, value, 1);
-}
+void prepareTerminal() {}
 
-std::string locateProgram(const std::string& name) {
-  const Result<std::string> found = findProgram(name);
-  return found ? *found : std::string();
+void setVariable(const char* name, const char* value) {
+  value ? setenv(name, value, 1) : unsetenv(name);
 }
 
 std::string programFolder() {

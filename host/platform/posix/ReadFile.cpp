@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include "host/platform/AtomicFile.h"
+#include "host/platform/ReadToEnd.h"
 #include "host/platform/SystemError.h"
 #include "host/platform/posix/FileDescriptor.h"
 
@@ -21,27 +22,12 @@ Contents unreadable(const std::string& path, int error) {
   return Contents::failure("'" + path + "' cannot be read: " + systemErrorText(error) + ".");
 }
 
-Contents tooLarge(const std::string& path, std::size_t limit) {
-  return Contents::failure("'" + path + "' is longer than the " + std::to_string(limit) +
-                           " bytes that are read.");
-}
-
-/// Reads to the end; `expected` is what the file system says of the size, which may be out of date.
-Contents readAll(const std::string& path, int file, std::size_t expected, std::size_t limit) {
-  std::string bytes;
-  std::size_t filled = 0;
+ReadStep readOnce(int file, std::span<char> room) {
   for (;;) {
-    // The byte beyond what is expected shows the end of the file without another round.
-    if (filled == bytes.size()) bytes.resize(std::max(expected, filled * 2) + 1);
-    const ssize_t count = ::read(file, bytes.data() + filled, bytes.size() - filled);
-    if (count < 0 && errno == EINTR) continue;
-    if (count < 0) return unreadable(path, errno);
-    if (count == 0) break;
-    filled += static_cast<std::size_t>(count);
-    if (filled > limit) return tooLarge(path, limit);
+    const ssize_t count = ::read(file, room.data(), room.size());
+    if (count >= 0) return {static_cast<std::size_t>(count), 0};
+    if (errno != EINTR) return {0, errno};
   }
-  bytes.resize(filled);
-  return bytes;
 }
 
 }  // namespace
@@ -55,10 +41,10 @@ Result<std::string> readFile(const std::string& path, std::size_t limit) {
   if (S_ISDIR(status.st_mode))
     return Contents::failure("'" + path + "' is a directory, not a file.");
   if (!S_ISREG(status.st_mode)) return Contents::failure("'" + path + "' is not a regular file.");
-  const auto size = static_cast<std::size_t>(status.st_size);
-  if (size > limit) return tooLarge(path, limit);
   try {
-    return readAll(path, file.get(), size, limit);
+    return readToEnd(
+        path, static_cast<std::size_t>(status.st_size), limit,
+        [&](std::span<char> room) { return readOnce(file.get(), room); }, unreadable);
   } catch (const std::bad_alloc&) {
     return unreadable(path, ENOMEM);
   }

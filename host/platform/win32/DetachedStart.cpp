@@ -2,12 +2,16 @@
 
 #include <windows.h>
 
+#include <optional>
+#include <string>
+
 #include "host/platform/Processes.h"
+#include "host/platform/win32/WideText.h"
 
 namespace veldra::host {
 
 bool Processes::startDetached(const std::string& command) {
-  STARTUPINFOA startup{};
+  STARTUPINFOW startup{};
   startup.cb = sizeof(startup);
   startup.dwFlags = STARTF_USESHOWWINDOW | STARTF_USESTDHANDLES;
   startup.wShowWindow = SW_SHOWNORMAL;
@@ -15,9 +19,9 @@ bool Processes::startDetached(const std::string& command) {
   startup.hStdOutput = GetStdHandle(STD_OUTPUT_HANDLE);
   startup.hStdError = GetStdHandle(STD_ERROR_HANDLE);
   PROCESS_INFORMATION process{};
-  std::string line = command;  // The call writes into it.
-  if (CreateProcessA(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, ".", &startup,
-                     &process) == 0) {
+  std::optional<std::wstring> line = toWide(command);  // The call writes into it.
+  if (!line || CreateProcessW(nullptr, line->data(), nullptr, nullptr, TRUE, 0, nullptr, L".",
+                              &startup, &process) == 0) {
     return false;
   }
   CloseHandle(process.hThread);

@@ -3,6 +3,8 @@
 #include <windows.h>
 
 #include "host/platform/SystemError.h"
+#include "host/platform/win32/OpenFile.h"
+#include "host/platform/win32/WideText.h"
 
 namespace veldra::host {
 namespace {
@@ -18,18 +20,20 @@ FolderEntry::Kind kindOf(DWORD attributes) {
 
 std::vector<FolderEntry> listFolder(const std::string& path, std::string& error) {
   std::vector<FolderEntry> entries;
-  WIN32_FIND_DATAA found{};
-  const HANDLE search = FindFirstFileA((path + "\\*").c_str(), &found);
+  WIN32_FIND_DATAW found{};
+  const HANDLE search = FindFirstFileExW(nativePath(path + "\\*").c_str(), FindExInfoBasic, &found,
+                                         FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
   if (search == INVALID_HANDLE_VALUE) {
-    error = systemErrorText(static_cast<int>(GetLastError()));
+    error = systemErrorText(lastError());
     return entries;
   }
   do {
-    const std::string name = found.cFileName;
-    if (name != "." && name != "..") entries.push_back({name, kindOf(found.dwFileAttributes)});
-  } while (FindNextFileA(search, &found));
-  const DWORD end = GetLastError();
-  if (end != ERROR_NO_MORE_FILES) error = systemErrorText(static_cast<int>(end));
+    std::string name = fromWide(found.cFileName);
+    if (name != "." && name != "..")
+      entries.push_back({std::move(name), kindOf(found.dwFileAttributes)});
+  } while (FindNextFileW(search, &found));
+  const int end = lastError();
+  if (end != ERROR_NO_MORE_FILES) error = systemErrorText(end);
   FindClose(search);
   return entries;
 }

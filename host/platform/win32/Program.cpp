@@ -4,20 +4,31 @@
 #include <stdlib.h>
 #include <windows.h>
 
+#include "host/platform/win32/SystemHandle.h"
+#include "host/platform/win32/WideText.h"
+
 namespace veldra::host {
 
 bool isTerminal(StandardStream stream) {
-  return _isatty(static_cast<int>(stream)) != 0;
+  // Every device that has characters counts there, the empty one included.
+  DWORD mode = 0;
+  const auto file = reinterpret_cast<HANDLE>(_get_osfhandle(static_cast<int>(stream)));
+  return GetConsoleMode(file, &mode) != 0;
+}
+
+void prepareTerminal() {
+  SetConsoleOutputCP(CP_UTF8);
+  SetConsoleCP(CP_UTF8);
+  for (const DWORD stream : {STD_OUTPUT_HANDLE, STD_ERROR_HANDLE}) {
+    DWORD mode = 0;
+    const HANDLE terminal = GetStdHandle(stream);
+    if (GetConsoleMode(terminal, &mode))
+      SetConsoleMode(terminal, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
+  }
 }
 
 void setVariable(const char* name, const char* value) {
-  _putenv_s(name, value);
-}
-
-std::string locateProgram(const std::string& name) {
-  char path[MAX_PATH] = {};
-  const DWORD length = SearchPathA(nullptr, name.c_str(), ".exe", MAX_PATH, path, nullptr);
-  return length > 0 && length < MAX_PATH ? std::string(path, length) : std::string();
+  _putenv_s(name, value ? value : "");
 }
 
 std::string programFolder() {
@@ -35,7 +46,11 @@ void addOwnFolderToPath() {
 }
 
 bool canWriteInto(const std::string& folder) {
-  return _access(folder.c_str(), 2) == 0;
+  // What the attributes say of a folder is no permission; to ask for one tells.
+  return static_cast<bool>(
+      SystemHandle(CreateFileW(nativePath(folder).c_str(), FILE_ADD_FILE,
+                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                               OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr)));
 }
 
 bool belongsToUser(const std::string& path) {
@@ -48,13 +63,9 @@ long processNumber() {
 }
 
 bool isProcessAlive(long number) {
-  const HANDLE process =
-      OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, static_cast<DWORD>(number));
-  if (process == nullptr) return GetLastError() != ERROR_INVALID_PARAMETER;
-  DWORD code = 0;
-  const bool isRunning = GetExitCodeProcess(process, &code) == 0 || code == STILL_ACTIVE;
-  CloseHandle(process);
-  return isRunning;
+  const SystemHandle process(OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(number)));
+  if (!process) return GetLastError() != ERROR_INVALID_PARAMETER;
+  return WaitForSingleObject(process.get(), 0) == WAIT_TIMEOUT;
 }
 
 }  // namespace veldra::host

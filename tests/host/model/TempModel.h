@@ -17,7 +17,10 @@ class TempModel {
   TempModel() : m_root(realPath(m_directory.path())) {}
 
   const std::string& root() const { return m_root; }
-  std::string path(const std::string& relative) const { return m_root + "/" + relative; }
+  /// `relative` may hold slashes; the result has the system's separators.
+  std::string path(const std::string& relative) const {
+    return m_root + std::filesystem::path("/" + relative).make_preferred().string();
+  }
 
   std::string put(const std::string& relative, const std::string& bytes) const {
     std::filesystem::create_directories(std::filesystem::path(path(relative)).parent_path());
@@ -39,7 +42,7 @@ class TempModel {
   std::string putUnit(const std::string& relative, const std::string& more = {}) const {
     const bool isPackage = relative.ends_with(".vpkg");
     return put(relative, unitText(isPackage ? "Package" : "Component",
-                                  std::string(stemOf(baseName(relative))), more));
+                                  std::filesystem::path(relative).stem().string(), more));
   }
 
   /// Loads the project file, which must be readable.

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <string>
+#include <vector>
 
 #include "host/platform/CommandLine.h"
 #include "host/platform/Processes.h"
@@ -20,6 +21,13 @@ struct Outcome {
 
 inline std::string script(const std::string& text) {
   return joinCommandLine({"sh", "-c", text});
+}
+
+/// The command that makes the test child take these steps; see tests/support/child.
+inline std::string child(const std::vector<std::string>& steps) {
+  std::vector<std::string> arguments{VELDRA_TEST_CHILD};
+  arguments.insert(arguments.end(), steps.begin(), steps.end());
+  return joinCommandLine(arguments);
 }
 
 class ProcessesTest : public testing::Test {

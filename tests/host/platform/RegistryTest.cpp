@@ -5,25 +5,24 @@
 #include <filesystem>
 #include <fstream>
 
+#include "host/platform/RegistryPlace.h"
+#include "tests/host/platform/TempDirectory.h"
+
 namespace veldra::host {
 namespace {
 
 class RegistryTest : public testing::Test {
  protected:
-  void SetUp() override {
-    std::string name = testing::TempDir() + "registry-XXXXXX";
-    m_folder = mkdtemp(name.data());
+  RegistryPlaces places() const {
+    return {m_folder.file("machine.toml"), m_folder.file("a/user.toml")};
   }
-  void TearDown() override { std::filesystem::remove_all(m_folder); }
-
-  RegistryPlaces places() const { return {m_folder + "/machine.toml", m_folder + "/a/user.toml"}; }
 
   static void put(const std::string& file, const std::string& text) {
     std::filesystem::create_directories(std::filesystem::path(file).parent_path());
     std::ofstream(file) << text;
   }
 
-  std::string m_folder;
+  const TempDirectory m_folder;
 };
 
 TEST_F(RegistryTest, UsersValueWinsOverTheMachines) {
@@ -46,6 +45,15 @@ TEST_F(RegistryTest, WhatIsWrittenIsReadAgain) {
   const Result<RegistryFile> again = RegistryFile::read(places().user);
   ASSERT_TRUE(again) << again.error();
   EXPECT_EQ(again->keys, file.keys);
+}
+
+TEST_F(RegistryTest, ValuesAreAddedAndPresentOnesKeptOnRequest) {
+  const std::string place = places().user;
+  ASSERT_EQ(storeInRegistry(place, {{"Software\\X", "a", "1"}, {"Software\\X", "b", "1"}}),
+            std::nullopt);
+  ASSERT_EQ(storeInRegistry(place, {{"software\\x", "A", "2"}, {"Software\\X", "b", "2", true}}),
+            std::nullopt);
+  EXPECT_EQ(registryValues(place, "Software\\X"), (RegistryValues{{"A", "2"}, {"b", "1"}}));
 }
 
 TEST_F(RegistryTest, DamagedFileIsNamedAndHidesOnlyItself) {

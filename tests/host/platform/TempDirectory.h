@@ -1,11 +1,12 @@
 #pragma once
 
-#include <stdlib.h>
-
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
+
+#include "host/platform/RemoveTree.h"
 
 namespace veldra::host {
 
@@ -13,18 +14,23 @@ namespace veldra::host {
 class TempDirectory {
  public:
   TempDirectory() {
-    std::string name = (std::filesystem::temp_directory_path() / "veldra-test-XXXXXX").string();
-    m_path = ::mkdtemp(name.data());
+    namespace fs = std::filesystem;
+    static std::random_device random;
+    fs::path path;
+    do {
+      path = fs::temp_directory_path() / ("veldra-test-" + std::to_string(random()));
+    } while (!fs::create_directory(path));
+    m_path = path.string();
   }
-  ~TempDirectory() {
-    std::error_code error;
-    std::filesystem::remove_all(m_path, error);
-  }
+  ~TempDirectory() { removeTree(m_path); }
   TempDirectory(const TempDirectory&) = delete;
   TempDirectory& operator=(const TempDirectory&) = delete;
 
   std::string path() const { return m_path; }
-  std::string file(const std::string& name) const { return m_path + "/" + name; }
+  /// `name` may hold slashes; the result has the system's separators.
+  std::string file(const std::string& name) const {
+    return m_path + std::filesystem::path("/" + name).make_preferred().string();
+  }
 
   std::string write(const std::string& name, const std::string& bytes) const {
     std::ofstream(file(name), std::ios::binary) << bytes;

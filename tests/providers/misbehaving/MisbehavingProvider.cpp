@@ -1,8 +1,6 @@
 // A provider with one fault per archive project: the project's name is that of the fault. The
 // faults show in SccGet unless they are about another call.
 
-#include <dlfcn.h>
-
 #include <atomic>
 #include <chrono>
 #include <cstdint>
@@ -12,6 +10,7 @@
 #include <thread>
 
 #include "cm/scc/SccInterface.h"
+#include "tests/providers/misbehaving/Unload.h"
 
 namespace {
 
@@ -34,15 +33,6 @@ void crash() {
   // Nobody's memory, and not null: a sanitizer would catch that before the processor does.
   volatile std::uintptr_t nowhere = 64;
   *reinterpret_cast<volatile int*>(nowhere) = 1;
-}
-
-/// Takes away the code that runs: the return from here leads nowhere.
-void unloadMyself() {
-  Dl_info where{};
-  dladdr(reinterpret_cast<void*>(&crash), &where);
-  void* const self = dlopen(where.dli_fname, RTLD_NOW | RTLD_NOLOAD);
-  // More often than anybody can have loaded it.
-  for (int i = 0; self != nullptr && i < 64; ++i) dlclose(self);
 }
 
 void sayFromAnotherThread() {
@@ -110,7 +100,7 @@ SCC_EXPORT SCCRTN SccGet(LPVOID, HWND, LONG, LPCSTR*, LONG, LPCMDOPTS) {
   if (isFault("crash")) crash();
   if (isFault("throw")) throw std::runtime_error("out of words");
   if (isFault("hang")) hang();
-  if (isFault("unload")) unloadMyself();
+  if (isFault("unload")) veldra::test::unloadMyself();
   if (isFault("another thread")) sayFromAnotherThread();
   if (isFault("null text")) textOut(nullptr, SCC_MSG_DOCANCEL);
   return wordCode();

@@ -1,0 +1,28 @@
+# Builds for 64-bit Windows with Debian's mingw-w64, and runs what it has built under Wine.
+# What Debian does not have for it comes from VELDRA_WINDOWS_PREFIX, which
+# setup/windows-libraries.sh fills.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+
+# The "posix" flavour is the one with std::thread.
+set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
+set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
+set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
+
+set(VELDRA_WINDOWS_PREFIX ${CMAKE_CURRENT_LIST_DIR}/../build/windows-libraries
+  CACHE PATH "Libraries and headers for Windows")
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES VELDRA_WINDOWS_PREFIX)
+set(CMAKE_FIND_ROOT_PATH ${VELDRA_WINDOWS_PREFIX} /usr/x86_64-w64-mingw32)
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+set(ENV{PKG_CONFIG_LIBDIR} ${VELDRA_WINDOWS_PREFIX}/lib/pkgconfig)
+
+# The compiler's own libraries go into each program and library: a machine that has never seen the
+# compiler can run them.
+foreach(kind EXE SHARED MODULE)
+  set(CMAKE_${kind}_LINKER_FLAGS_INIT -static)
+endforeach()
+
+set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../setup/wine)

@@ -1,0 +1,189 @@
+#include "host/platform/win32/GuardedCall.h"
+
+#include <windows.h>
+
+#if defined(_MSC_VER)
+
+namespace veldra::host {
+
+GuardedEnd callGuarded(void (*body)(void* argument), void* argument,
+                       bool (*isWanted)(unsigned long code) noexcept) {
+  GuardedEnd end;
+  __try {
+    body(argument);
+  } __except (
+      end = {GetExceptionCode(), (GetExceptionInformation())->ExceptionRecord->ExceptionAddress},
+      isWanted(end.code) ? EXCEPTION_EXECUTE_HANDLER : EXCEPTION_CONTINUE_SEARCH) {
+    return end;
+  }
+  return {};
+}
+
+}  // namespace veldra::host
+
+#elif defined(__x86_64__)
+
+namespace veldra::host {
+
+namespace {
+
+struct Call {
+  GuardedEnd end;
+  bool (*isWanted)(unsigned long code) noexcept;
+  void* frame = nullptr;  ///< Of the function that calls the body.
+  Call* outer = nullptr;
+};
+
+/// The innermost call of this thread.
+thread_local Call* t_call = nullptr;
+
+/// True for an exception that is to end the innermost call; notes it there.
+bool takesException(const EXCEPTION_RECORD& record) {
+  if (t_call == nullptr || !t_call->isWanted(record.ExceptionCode)) return false;
+  t_call->end = {record.ExceptionCode, record.ExceptionAddress};
+  return true;
+}
+
+}  // namespace
+
+// GCC has no keyword for the system's exception handlers, its assembler has. The function that
+// follows keeps all registers that a caller may rely on in its frame, notes the frame, and calls
+// `body`. Who goes on at the second label, with the frame as the stack, makes it return 1, not 0.
+extern "C" int veldraCallWithHandler(void (*body)(void*), void* argument, void** frame);
+extern "C" void veldraAfterFault();
+
+extern "C" __attribute__((used)) EXCEPTION_DISPOSITION veldraOnException(
+    EXCEPTION_RECORD* record, void* frame, CONTEXT*, DISPATCHER_CONTEXT* dispatcher) {
+  constexpr DWORD Unwinding = EXCEPTION_UNWINDING | EXCEPTION_EXIT_UNWIND;
+  if ((record->ExceptionFlags & Unwinding) == 0 && takesException(*record)) {
+    RtlUnwindEx(frame, reinterpret_cast<void*>(veldraAfterFault), record, nullptr,
+                dispatcher->ContextRecord, dispatcher->HistoryTable);
+  }
+  return ExceptionContinueSearch;
+}
+
+asm(R"(
+  .text
+  .globl veldraCallWithHandler
+  .globl veldraAfterFault
+  .def veldraCallWithHandler; .scl 2; .type 32; .endef
+  .seh_proc veldraCallWithHandler
+veldraCallWithHandler:
+  pushq %rbp
+  .seh_pushreg %rbp
+  pushq %rbx
+  .seh_pushreg %rbx
+  pushq %rdi
+  .seh_pushreg %rdi
+  pushq %rsi
+  .seh_pushreg %rsi
+  pushq %r12
+  .seh_pushreg %r12
+  pushq %r13
+  .seh_pushreg %r13
+  pushq %r14
+  .seh_pushreg %r14
+  pushq %r15
+  .seh_pushreg %r15
+  subq $200, %rsp
+  .seh_stackalloc 200
+  movaps %xmm6, 32(%rsp)
+  .seh_savexmm %xmm6, 32
+  movaps %xmm7, 48(%rsp)
+  .seh_savexmm %xmm7, 48
+  movaps %xmm8, 64(%rsp)
+  .seh_savexmm %xmm8, 64
+  movaps %xmm9, 80(%rsp)
+  .seh_savexmm %xmm9, 80
+  movaps %xmm10, 96(%rsp)
+  .seh_savexmm %xmm10, 96
+  movaps %xmm11, 112(%rsp)
+  .seh_savexmm %xmm11, 112
+  movaps %xmm12, 128(%rsp)
+  .seh_savexmm %xmm12, 128
+  movaps %xmm13, 144(%rsp)
+  .seh_savexmm %xmm13, 144
+  movaps %xmm14, 160(%rsp)
+  .seh_savexmm %xmm14, 160
+  movaps %xmm15, 176(%rsp)
+  .seh_savexmm %xmm15, 176
+  .seh_endprologue
+  movq %rsp, (%r8)
+  movq %rcx, %rax
+  movq %rdx, %rcx
+  call *%rax
+  xorl %eax, %eax
+  jmp veldraRestore
+veldraAfterFault:
+  movl $1, %eax
+veldraRestore:
+  movaps 32(%rsp), %xmm6
+  movaps 48(%rsp), %xmm7
+  movaps 64(%rsp), %xmm8
+  movaps 80(%rsp), %xmm9
+  movaps 96(%rsp), %xmm10
+  movaps 112(%rsp), %xmm11
+  movaps 128(%rsp), %xmm12
+  movaps 144(%rsp), %xmm13
+  movaps 160(%rsp), %xmm14
+  movaps 176(%rsp), %xmm15
+  addq $200, %rsp
+  popq %r15
+  popq %r14
+  popq %r13
+  popq %r12
+  popq %rsi
+  popq %rdi
+  popq %rbx
+  popq %rbp
+  ret
+  .seh_handler veldraOnException, @except, @unwind
+  .seh_endproc
+)");
+
+namespace {
+
+/// What is left of a stack that is used up may not suffice for the search for handlers and the way
+/// back through the frames, so this one exception is taken before the search begins.
+LONG CALLBACK onStackOverflow(EXCEPTION_POINTERS* exception) {
+  if (exception->ExceptionRecord->ExceptionCode != EXCEPTION_STACK_OVERFLOW ||
+      !takesException(*exception->ExceptionRecord)) {
+    return EXCEPTION_CONTINUE_SEARCH;
+  }
+  exception->ContextRecord->Rip = reinterpret_cast<DWORD64>(veldraAfterFault);
+  exception->ContextRecord->Rsp = reinterpret_cast<DWORD64>(t_call->frame);
+  return EXCEPTION_CONTINUE_EXECUTION;
+}
+
+/// Makes a call the thread's innermost one until it comes back or throws.
+class Innermost {
+ public:
+  explicit Innermost(Call& call) : m_handler(AddVectoredExceptionHandler(1, onStackOverflow)) {
+    call.outer = t_call;
+    t_call = &call;
+  }
+  ~Innermost() {
+    t_call = t_call->outer;
+    RemoveVectoredExceptionHandler(m_handler);
+  }
+  Innermost(const Innermost&) = delete;
+  Innermost& operator=(const Innermost&) = delete;
+
+ private:
+  void* m_handler;
+};
+
+}  // namespace
+
+GuardedEnd callGuarded(void (*body)(void* argument), void* argument,
+                       bool (*isWanted)(unsigned long code) noexcept) {
+  Call call{{}, isWanted};
+  const Innermost innermost(call);
+  return veldraCallWithHandler(body, argument, &call.frame) != 0 ? call.end : GuardedEnd();
+}
+
+}  // namespace veldra::host
+
+#else
+#error "The fault guard knows only MSVC, and GCC or Clang for 64-bit x86."
+#endif
