@@ -35,7 +35,7 @@ configure "$windows" -DCMAKE_TOOLCHAIN_FILE="$top/cmake/mingw-w64.cmake" \
 cmake --build "$windows"
 # The interface of providers is the same in 32-bit programs, of which Debian's compiler for 64 bits
 # can at least check every declaration.
-x86_64-w64-mingw32-g++-posix -m32 -std=c++20 -fsyntax-only -I"$top" "$top/tests/structure/Interface32.cpp"
+x86_64-w64-mingw32-g++-posix -m32 -std=c++20 -fsyntax-only -I"$top" "$top/tests/structure/windows/Interface32.cpp"
 
 say "Unit tests under Wine"
 export WINEPREFIX="$build/wine"
