@@ -35,7 +35,6 @@ CallArguments callArguments(const CallValues& values) {
     arguments.add<CMLogFile>(values.comment);
   }
   arguments.add<CMWorkspace>(values.projectDirectory);
-  arguments.add<CMTargetFile>(values.projectDirectory);
   // Last, because a project may let the comment answer to every keyword.
   arguments.add<CMLog>(values.comment);
   return arguments;

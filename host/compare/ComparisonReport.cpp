@@ -1,6 +1,7 @@
 #include "host/compare/ComparisonReport.h"
 
-#include <iomanip>
+#include <algorithm>
+#include <cstddef>
 #include <string_view>
 
 #include "host/resources/MessageNumbers.h"
@@ -9,12 +10,20 @@ namespace veldra::host::compare {
 
 namespace {
 
-constexpr int TypeWidth = 12;
+constexpr std::ptrdiff_t ColumnWidth = 12;
 
 std::string inOneLine(const std::string& text) {
   std::string line;
   for (const char c : text) line += c == '\n' ? "\\n" : std::string(1, c);
   return line;
+}
+
+/// Filled up with blanks to the width of a column; a character may have several bytes.
+std::string inColumn(std::string text) {
+  const auto characters = std::ranges::count_if(
+      text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; });
+  return text.append(
+      static_cast<std::size_t>(std::max<std::ptrdiff_t>(ColumnWidth - characters, 1)), ' ');
 }
 
 void printHunk(const FileComparison& comparison, const Hunk& hunk, std::ostream& out) {
@@ -60,9 +69,8 @@ void printComparison(const FileComparison& comparison, const Texts& texts, std::
   if (const ModelComparison* const model = comparison.model()) {
     for (const Difference& difference : model->differences) {
       const std::string detail = detailOf(difference, texts);
-      out << std::left << std::setw(TypeWidth) << wordFor(difference.kind, texts)
-          << std::setw(TypeWidth) << difference.type << inOneLine(difference.path)
-          << (detail.empty() ? "" : "  ") << detail << '\n';
+      out << inColumn(wordFor(difference.kind, texts)) << inColumn(difference.type)
+          << inOneLine(difference.path) << (detail.empty() ? "" : "  ") << detail << '\n';
     }
     return;
   }

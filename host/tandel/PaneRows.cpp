@@ -43,8 +43,47 @@ std::string shownValue(const Json& value) {
   return text;
 }
 
-/// The elements of a side as an outline, each with its attributes by name.
-std::vector<Line> outline(const ElementTree& tree, const DifferenceOf& differences) {
+/// The places of a tree from the unit down, siblings in the order of another tree. Those that the
+/// other one does not have among them stay behind the neighbour that they have.
+class Order {
+ public:
+  Order(const ElementTree& tree, const ElementTree& like) : m_below(tree.size()) {
+    for (std::size_t place = 1; place < tree.size(); ++place) {
+      m_below[tree.at(place).owner].push_back(place);
+    }
+    for (std::vector<std::size_t>& siblings : m_below) sort(siblings, tree, like);
+    add(ElementTree::Unit);
+  }
+  const std::vector<std::size_t>& places() const { return m_places; }
+
+ private:
+  static void sort(std::vector<std::size_t>& siblings, const ElementTree& tree,
+                   const ElementTree& like) {
+    std::vector<std::pair<std::size_t, std::size_t>> ranked;
+    std::size_t rank = 0;
+    for (const std::size_t place : siblings) {
+      const std::size_t other = like.find(tree.keyOf(place));
+      const bool isBeside = other != ElementTree::None &&
+                            like.keyOf(like.at(other).owner) == tree.keyOf(tree.at(place).owner);
+      if (isBeside) rank = other;
+      ranked.emplace_back(rank, place);
+    }
+    std::ranges::stable_sort(ranked, {}, &std::pair<std::size_t, std::size_t>::first);
+    for (std::size_t i = 0; i < siblings.size(); ++i) siblings[i] = ranked[i].second;
+  }
+  // Recursion is bounded by the nesting that a model file may have.
+  void add(std::size_t place) {
+    m_places.push_back(place);
+    for (const std::size_t below : m_below[place]) add(below);
+  }
+
+  std::vector<std::vector<std::size_t>> m_below;
+  std::vector<std::size_t> m_places;
+};
+
+/// The elements of a side as an outline, each with its attributes by name, in the order of `like`.
+std::vector<Line> outline(const ElementTree& tree, const ElementTree& like,
+                          const DifferenceOf& differences) {
   std::vector<Line> lines;
   std::vector<std::size_t> depths(tree.size(), 0);
   const auto add = [&](const std::string& identity, std::string text) {
@@ -52,7 +91,8 @@ std::vector<Line> outline(const ElementTree& tree, const DifferenceOf& differenc
     lines.push_back(
         {identity, std::move(text), found != differences.end() ? found->second : PaneRow::None});
   };
-  for (std::size_t place = 0; place < tree.size(); ++place) {
+  const Order order(tree, like);
+  for (const std::size_t place : order.places()) {
     if (place != ElementTree::Unit) depths[place] = depths[tree.at(place).owner] + 1;
     const std::string indent(2 * depths[place], ' ');
     const std::string& key = tree.keyOf(place);
@@ -92,8 +132,8 @@ compare::Lines identitiesOf(const std::vector<Line>& lines) {
 
 std::vector<PaneRow> modelRows(const compare::ModelComparison& model) {
   const DifferenceOf differences = differencesByLine(model.differences);
-  const std::vector<Line> first = outline(model.firstTree, differences);
-  const std::vector<Line> second = outline(model.secondTree, differences);
+  const std::vector<Line> first = outline(model.firstTree, model.firstTree, differences);
+  const std::vector<Line> second = outline(model.secondTree, model.firstTree, differences);
   std::vector<PaneRow> rows;
   std::size_t a = 0;
   std::size_t b = 0;

@@ -31,9 +31,8 @@ class Arguments {
         m_label(choice.label),
         m_logFile(choice.comment),
         m_workspace(directory),
-        m_target(directory),
         m_log(choice.comment),
-        m_list{&m_mode, &m_label, &m_logFile, &m_workspace, &m_target, &m_log} {}
+        m_list{&m_mode, &m_label, &m_logFile, &m_workspace, &m_log} {}
   ArgumentList& list() { return m_list; }
 
  private:
@@ -41,7 +40,6 @@ class Arguments {
   CMLabel m_label;
   CMLogFile m_logFile;
   CMWorkspace m_workspace;
-  CMTargetFile m_target;
   // Last, because a project may let the comment answer to every keyword.
   CMLog m_log;
   ArgumentList m_list;

@@ -183,11 +183,24 @@ void CompareWindow::showFile(std::size_t file) {
   };
   m_firstName->setText(nameOf(pair.first, m_options.isFirstControlled));
   m_secondName->setText(nameOf(pair.second, m_options.isSecondControlled));
-  setWindowTitle(text(MessageNumber::TandelTitle, {pair.name, pair.name}));
+  const auto baseNameOf = [](const std::string& path) {
+    return std::filesystem::path(path).filename().string();
+  };
+  setWindowTitle(
+      text(MessageNumber::TandelTitle, {baseNameOf(pair.first), baseNameOf(pair.second)}) +
+      QStringLiteral("[*]"));
   m_files->setCurrentRow(static_cast<int>(file));
   for (int column = 0; column < DifferenceTable::Detail; ++column) {
     m_list->resizeColumnToContents(column);
   }
+  // Either side may be chosen later, and a choice is shown in bold.
+  QFont bold = m_list->font();
+  bold.setBold(true);
+  const QFontMetrics metrics(bold);
+  const int wanted = std::max(metrics.horizontalAdvance(text(MessageNumber::TakesSide)),
+                              metrics.horizontalAdvance(text(MessageNumber::TakesSide + 1)));
+  m_list->setColumnWidth(DifferenceTable::Take,
+                         std::max(m_list->columnWidth(DifferenceTable::Take), wanted + 20));
   m_list->setCurrentIndex(m_table->index(0, 0));
   updateState();
   if (comparison == nullptr) tell(problem);

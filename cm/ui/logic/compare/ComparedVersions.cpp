@@ -11,6 +11,7 @@
 #include "cm/host/IPN.h"
 #include "cm/host/MessageIds.h"
 #include "cm/templates/CMProperty.h"
+#include "cm/tool/CMToolShellInterface.h"
 #include "cm/ui/logic/HostTexts.h"
 #include "cm/ui/logic/LiveUnits.h"
 #include "cm/ui/logic/OutputFlush.h"
@@ -54,11 +55,15 @@ bool fetchTo(IUnit& unit, const std::string& label, const std::string& file,
   CMLabel version(label);
   ArgumentList arguments{&target, &mode, &version};
   UnitList units{&unit};
+  // Another comparison of this second may have left its file here.
+  installedHost()->environment().removeFile(file);
   int result = 0;
   flushCommandOutput();
   guardFaults([&] { result = fetchCall()(units, arguments, diagnostics); });
   flushCommandOutput();
-  return result != 0 && omFileExist(file);
+  const bool toolFailed =
+      CMProperty::getUseSCCtool() == 0 && theCMToolShellInterface().lastCommandEnd().failed;
+  return result != 0 && !toolFailed && omFileExist(file);
 }
 
 bool tellNotWritten(const IUnit& unit, const std::string& side) {

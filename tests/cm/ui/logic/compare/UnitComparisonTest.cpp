@@ -153,6 +153,13 @@ TEST_F(UnitComparisonTest, RefusesWhatCannotBeCompared) {
   EXPECT_EQ(m_view.asked, 0);
 }
 
+TEST_F(UnitComparisonTest, WhatAnotherComparisonFetchedIsNeverTakenForThisOnes) {
+  EXPECT_TRUE(compare());
+  m_host.scriptedProcesses.answer("fetch", Reply{});
+  EXPECT_FALSE(compare()) << "within the same second both have the same directories";
+  EXPECT_THAT(m_host.scriptedProcesses.detached, SizeIs(1));
+}
+
 TEST_F(UnitComparisonTest, EveryFailureIsToldOnceAndStartsNothing) {
   const struct {
     const char* what;
