@@ -3,8 +3,7 @@
 namespace veldra::test {
 
 void MemoryFiles::write(const std::string& path, std::string content, bool writable) {
-  const bool isBare = directoryOf(path).empty() && !m_current.empty();
-  const std::string full = isBare ? m_current + '/' + path : path;
+  const std::string full = fullName(path);
   m_files[full] = {.content = std::move(content), .writable = writable};
   makeDirectory(directoryOf(full));
 }
@@ -23,8 +22,13 @@ void MemoryFiles::makeDirectory(const std::string& path) {
 }
 
 MemoryFiles::File* MemoryFiles::find(const std::string& path) {
-  const auto found = m_files.find(path);
+  const auto found = m_files.find(fullName(path));
   return found == m_files.end() ? nullptr : &found->second;
+}
+
+std::string MemoryFiles::fullName(const std::string& path) const {
+  const bool isBare = directoryOf(path).empty() && !m_current.empty();
+  return isBare ? m_current + '/' + path : path;
 }
 
 std::string MemoryFiles::directoryOf(const std::string& path) {

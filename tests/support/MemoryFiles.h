@@ -35,6 +35,8 @@ class MemoryFiles {
   static std::string nameOf(const std::string& path);
 
  private:
+  std::string fullName(const std::string& path) const;
+
   std::map<std::string, File> m_files;
   std::set<std::string> m_directories;
   std::string m_current;

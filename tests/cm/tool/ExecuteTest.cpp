@@ -88,8 +88,9 @@ TEST_F(ExecuteTest, RedirectionCutsAtTheFirstSign) {
     EXPECT_TRUE(lastRun().redirected);
     EXPECT_EQ(m_host.scriptedProcesses.outputFiles.back(), row.file);
     EXPECT_EQ(m_output, "");
-    ASSERT_NE(m_host.files.find(row.file), nullptr) << "the file is closed when the call returns";
-    EXPECT_EQ(m_host.files.find(row.file)->content, "printed");
+    const MemoryFiles::File* const file = m_host.files.find("/plan/" + std::string(row.file));
+    ASSERT_NE(file, nullptr) << "the file is closed when the call returns";
+    EXPECT_EQ(file->content, "printed");
   }
 }
 
