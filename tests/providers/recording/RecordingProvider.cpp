@@ -58,6 +58,9 @@ SCC_EXPORT SCCRTN SccInitialize(LPVOID* context, HWND, LPCSTR caller, LPSTR name
   *capabilities = static_cast<LONG>(recorded.capabilities);
   return answer("SccInitialize", caller);
 }
+SCC_EXPORT LONG SccGetVersion() {
+  return SCC_VERSION_1_3;
+}
 SCC_EXPORT SCCRTN SccUninitialize(LPVOID) {
   return answer("SccUninitialize");
 }
