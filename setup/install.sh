@@ -27,10 +27,12 @@ if ! command -v apt-get >/dev/null 2>&1; then
   exit 1
 fi
 
+# A package counts by its name and by what it provides: some have changed their names over the years.
+installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}, ${Provides}\n' |
+  sed -n 's/^installed //p' | tr ',' '\n' | sed 's/(.*//; s/[[:space:]]//g')
 missing=""
 for package in $wanted; do
-  dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' ||
-    missing="$missing $package"
+  printf '%s\n' "$installed" | grep -qxF "$package" || missing="$missing $package"
 done
 [ -z "$missing" ] && exit 0
 
