@@ -61,7 +61,7 @@ void listDifferences() {
 void readVersions() {
   const CMHeaderReader headers;
   std::size_t known = 0;
-  for (const IUnit* unit : workspaceUnits()) known += headers.getVersion(unit).empty() ? 0 : 1;
+  for (const IUnit* unit : workspaceUnits()) known += headers.getVersion(unit).empty() ? 0U : 1U;
   if (known < ItemCount) throw std::runtime_error("the units have no versions");
 }
 
