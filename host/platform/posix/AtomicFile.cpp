@@ -136,7 +136,7 @@ std::optional<std::string> writeFileAtomically(const std::string& path, std::str
 }
 
 std::size_t restoreSetAside(const std::string& directory, const std::vector<std::string>& names) {
-  constexpr time_t LongestCommand = 15 * 60;
+  constexpr time_t LongestCommand = time_t{15} * 60;
   std::size_t restored = 0;
   for (const std::string& name : names) {
     const std::string path = (fs::path(directory) / name).string();
