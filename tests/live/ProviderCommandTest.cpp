@@ -110,7 +110,8 @@ TEST_F(ProviderCommandTest, TellsPlainlyOfACheckInThatChangedNothing) {
   m_sandbox.write("model/" + other, m_sandbox.read("model/" + other) + "\n");
   const Ended ended = in("model", {"checkin", unit, other, "-m", "changed", "--json"});
   ASSERT_EQ(ended.code, 0) << ended.err;
-  for (const auto& record : nlohmann::json::parse(ended.out)["units"]) {
+  const auto answer = nlohmann::json::parse(ended.out);
+  for (const auto& record : answer["units"]) {
     EXPECT_EQ(record["message"] == "", record["path"] == other) << record;
     EXPECT_EQ(record["mode"], "RO");
   }
