@@ -24,13 +24,6 @@ constexpr CompareFlags ModelAndItems{.recursive = true, .mergeBack = true, .cm2 
 constexpr CompareFlags TwoVersions{.cm1 = true, .cm2 = true};
 constexpr CompareFlags TwoTrees{.recursive = true, .cm1 = true, .cm2 = true};
 
-/// A template that says nothing of a target would fetch over the working file.
-bool fetchTakesTarget() {
-  std::string command;
-  return CMProperty::getToolPropertyValue(IPN::CMFetchFromArchive, command) &&
-         findNoCase(command, "targetDir") != std::string::npos;
-}
-
 void warnAboutLabels(std::initializer_list<std::string> labels) {
   if (CMProperty::getUseSCCtool() == 0) return;
   for (const std::string& label : labels) {
@@ -45,7 +38,7 @@ void warnAboutLabels(std::initializer_list<std::string> labels) {
 bool FetchFileFromArchive(CMArchiveItem& item, const std::string& label,
                           const std::string& directory, DiagnosticList& diagnostics) {
   const bool usesProvider = CMProperty::getUseSCCtool() != 0;
-  if (!usesProvider && !fetchTakesTarget()) {
+  if (!usesProvider && !fetchTakesTarget(IPN::CMFetchFromArchive)) {
     IUnit* const unit = item.getLoadedUnit();
     return unit != nullptr && fetchVersionInto(*unit, label, directory, diagnostics);
   }

@@ -27,13 +27,11 @@ bool isLoaded(const IUnit& unit) {
   return (unit.getFlags() & UnitFlag::Stub) == 0;
 }
 
-/// A tool whose template says nothing of a target would fetch over the working file. For it, and
-/// for providers, which cannot do otherwise, the call sets the working file aside meanwhile.
+/// For a tool that takes no target, and for providers, which cannot do otherwise, the call sets the
+/// working file aside meanwhile.
 FacadeCall fetchCall() {
-  std::string command;
   const bool usesTool = CMProperty::getUseSCCtool() == 0;
-  const bool takesTarget = usesTool && CMProperty::getToolPropertyValue(IPN::CMFetch, command) &&
-                           findNoCase(command, "targetDir") != std::string::npos;
+  const bool takesTarget = usesTool && fetchTakesTarget(IPN::CMFetch);
   return takesTarget ? &CMFacade::Fetch : &CMFacade::FetchForDiff;
 }
 
@@ -72,6 +70,12 @@ bool tellNotWritten(const IUnit& unit, const std::string& side) {
 }
 
 }  // namespace
+
+bool fetchTakesTarget(const std::string& property) {
+  std::string command;
+  return CMProperty::getToolPropertyValue(property, command) &&
+         findNoCase(command, "targetDir") != std::string::npos;
+}
 
 std::string fileInSide(const IUnit& unit, const IUnit& root, const std::string& side) {
   const std::string top = root.getDirectory();

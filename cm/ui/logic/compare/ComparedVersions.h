@@ -19,6 +19,10 @@ VELDRA_CM_EXPORT bool saveUnitInto(IUnit& unit, const std::string& side);
 /// The same with every unit below it that has a file and is loaded.
 VELDRA_CM_EXPORT bool saveTreeInto(IUnit& root, const std::string& side);
 
+/// Whether the tool's template of that name fetches to where it is told. One that says nothing of a
+/// target would fetch over the working file.
+VELDRA_CM_EXPORT bool fetchTakesTarget(const std::string& property);
+
 /// Fetches the archive's version of the unit into the directory. `label` is a label or version;
 /// empty means the newest. The working file, with everything that was changed in it, stays as it
 /// is. False when that failed; why is in the CM output and the diagnostics.
