@@ -31,7 +31,7 @@ say "Build for Windows"
 configure "$windows" -DCMAKE_TOOLCHAIN_FILE="$top/cmake/mingw-w64.cmake" \
   -DVELDRA_WINDOWS_PREFIX="$libraries" -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0 \
   -DVELDRA_BUILD_TESTS=ON -DVELDRA_BUILD_SUBVERSION_PROVIDER=OFF -DVELDRA_PRECOMPILE_HEADERS=ON \
-  -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=10 $qt_options
+  $qt_options
 cmake --build "$windows"
 # The interface of providers is the same in 32-bit programs, of which Debian's compiler for 64 bits
 # can at least check every declaration.
