@@ -130,6 +130,7 @@ bool HeadCache::fill(UnitHead& head, const FileFacts& facts, bool isOwn) const {
   head.facts = facts;
   head.mode = modeOf(facts);
   head.isOwn = isOwn;
+  head.remembered = true;
   head.mentionsControlled = (entry->flags & Controlled) != 0;
   head.mentionsProperties = (entry->flags & Properties) != 0;
   return true;
@@ -149,21 +150,26 @@ HeadCache::Entry HeadCache::entryOf(const UnitHead& head, std::string& texts) {
   return entry;
 }
 
+bool HeadCache::isWorthKeeping(const UnitHead& head, std::int64_t settled) {
+  const FileFacts& facts = head.facts;
+  const bool isSettled = facts.changed != 0 && facts.changed < settled;
+  return isSettled && !head.problem && facts.state == FileFacts::State::Readable;
+}
+
 void HeadCache::update(const std::vector<UnitHead>& heads) const {
   if (m_file.empty()) return;
+  const std::int64_t settled = settledBefore();
+  const auto isNew = [&](const UnitHead& head) {
+    return !head.remembered && isWorthKeeping(head, settled);
+  };
+  if (std::count_if(heads.begin(), heads.end(), isNew) < std::ptrdiff_t{ManyHeads}) return;
   std::vector<Entry> entries;
   std::string texts;
-  std::size_t unknown = 0;
-  const std::int64_t settled = settledBefore();
   for (const UnitHead& head : heads) {
-    const FileFacts& facts = head.facts;
-    const bool isSettled = facts.changed != 0 && facts.changed < settled;
-    if (head.problem || facts.state != FileFacts::State::Readable || !isSettled) continue;
-    if (find(facts, head.isOwn) == nullptr) ++unknown;
+    if (!isWorthKeeping(head, settled)) continue;
     if (texts.size() >= std::size_t{1} << 31U) return;
     entries.push_back(entryOf(head, texts));
   }
-  if (unknown < ManyHeads) return;
 
   std::sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) {
     return orderOf(a.identity) < orderOf(b.identity);

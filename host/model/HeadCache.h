@@ -42,6 +42,7 @@ class HeadCache {
     std::uint32_t nameLength = 0;
     std::uint64_t flags = 0;
   };
+  static bool isWorthKeeping(const UnitHead& head, std::int64_t settled);
   static Entry entryOf(const UnitHead& head, std::string& texts);
   const Entry* find(const FileFacts& facts, bool isOwn) const;
   bool isSound(const Entry& entry) const;

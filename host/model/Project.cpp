@@ -92,6 +92,12 @@ std::string Project::getFileExtension() const {
 
 // --- units ---
 
+void Project::expectUnits(std::size_t count) {
+  m_files.reserve(m_files.size() + count);
+  m_units.reserve(m_units.size() + count);
+  m_index.reserve(m_files.size() + count);
+}
+
 UnitCore& Project::add(UnitRecord record, UnitCore* owner) {
   const bool hasFile = !record.fileName.empty();
   std::unique_ptr<UnitCore> unit = makeUnit(*this, std::move(record));

@@ -93,6 +93,8 @@ class Project : public UnitOf<IProject> {
   UnitCore* unitByFile(std::string_view fileName) const { return m_index.find(fileName); }
   /// The units whose `qualifiedName` this is; names need not be unique.
   std::vector<UnitCore*> unitsByName(std::string_view qualifiedName) const;
+  /// Makes room for so many more units at once.
+  void expectUnits(std::size_t count);
   /// Adds a unit below `owner`.
   UnitCore& add(UnitRecord record, UnitCore* owner);
   /// Puts a new object in the place of `former`, which is dead afterwards but stays in memory until

@@ -29,6 +29,7 @@ struct UnitHead {
   FileMode mode = FileMode::Unknown;
   FileFacts facts;
   bool isOwn = false;               ///< A file of Veldra's own format, so that its text was read.
+  bool remembered = false;          ///< From the cache; the file was not opened.
   std::string header;               ///< The CM header.
   std::string unitType;             ///< As the file says; empty for files of other tools.
   std::string name;                 ///< As the file says; empty for files of other tools.

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
 namespace veldra::host {
 
@@ -16,7 +18,11 @@ class UnitIndex {
   explicit UnitIndex(std::string root) : m_root(std::move(root)) {}
 
   /// `relative` is the name below the root; an absolute name for a file outside of it.
-  void put(const std::string& relative, UnitCore* unit) { m_units[relative] = unit; }
+  void put(std::string relative, UnitCore* unit) {
+    m_units.insert_or_assign(std::move(relative), unit);
+  }
+  /// Makes room for so many units.
+  void reserve(std::size_t count) { m_units.reserve(count); }
   void remove(const std::string& relative) { m_units.erase(relative); }
   /// The unit, or null.
   UnitCore* find(std::string_view fileName) const;

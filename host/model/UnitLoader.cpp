@@ -1,9 +1,12 @@
 #include "host/model/UnitLoader.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <system_error>
+#include <unordered_map>
 #include <utility>
 
 #include "host/model/FolderScan.h"
@@ -96,16 +99,20 @@ class UnitLoader {
   /// Two names of one file are one unit: the first that is no link stays.
   void dropRepeated(std::vector<const ScannedFile*>& files, std::vector<UnitHead>& heads,
                     const std::vector<Folder*>& folders) {
+    const auto pathOf = [&](std::size_t at) {
+      return joinPath(folders[files[at]->folder]->path, files[at]->name);
+    };
     std::vector<bool> repeated(files.size(), false);
+    std::unordered_map<FileIdentity, std::size_t, IdentityHash> firsts;
+    firsts.reserve(files.size());
     for (const bool links : {false, true}) {
       for (std::size_t at = 0; at < files.size(); ++at) {
         if (heads[at].facts.state == FileFacts::State::Missing || files[at]->isLink != links)
           continue;
-        const std::string path = joinPath(folders[files[at]->folder]->path, files[at]->name);
-        const auto [known, isNew] = m_identities.try_emplace(heads[at].facts.identity, path);
+        const auto [first, isNew] = firsts.try_emplace(heads[at].facts.identity, at);
         if (isNew) continue;
         repeated[at] = true;
-        report(path, "It is the same file as " + known->second + ".",
+        report(pathOf(at), "It is the same file as " + pathOf(first->second) + ".",
                "Remove one of the two names, or make a copy of the file.");
       }
     }
@@ -125,6 +132,7 @@ class UnitLoader {
   /// A folder's own unit comes first, because it owns the others.
   void addFolderByFolder(const std::vector<const ScannedFile*>& files, std::vector<UnitHead>& heads,
                          const std::vector<Folder*>& folders) {
+    m_project.expectUnits(files.size());
     for (std::size_t begin = 0, end = 0; begin < files.size(); begin = end) {
       Folder& folder = *folders[files[begin]->folder];
       const std::string_view name = baseName(folder.path);
@@ -160,12 +168,15 @@ class UnitLoader {
     addLoaded(std::move(record), head, *owner);
   }
 
-  UnitCore& addLoaded(UnitRecord record, UnitHead& head, UnitCore& owner) {
+  void takeStub(UnitRecord& record) {
     const auto stub = m_stubs.find(joinPath(record.folder->relative, record.fileName));
-    if (stub != m_stubs.end()) {
-      record.stub = true;
-      stub->second = true;
-    }
+    if (stub == m_stubs.end()) return;
+    record.stub = true;
+    stub->second = true;
+  }
+
+  UnitCore& addLoaded(UnitRecord record, UnitHead& head, UnitCore& owner) {
+    if (!m_stubs.empty()) takeStub(record);
     const bool lists = head.mentionsControlled && !record.stub && !head.problem;
     if (head.problem) m_project.addProblem(*head.problem);
     UnitCore& unit = m_project.add(std::move(record), &owner);
@@ -259,9 +270,10 @@ class UnitLoader {
     m_project.add(std::move(record), &m_project);
   }
 
-  struct IdentityOrder {
-    bool operator()(const FileIdentity& a, const FileIdentity& b) const {
-      return a.file != b.file ? a.file < b.file : a.device < b.device;
+  struct IdentityHash {
+    std::size_t operator()(const FileIdentity& identity) const {
+      // The devices of one project are few, and its files' numbers differ.
+      return std::hash<std::uint64_t>{}(identity.file);
     }
   };
 
@@ -269,8 +281,7 @@ class UnitLoader {
   std::string m_headCache;
   bool m_everyOther = false;
   std::map<std::string, bool> m_stubs;  ///< By relative name; whether the folder has the file.
-  std::map<FileIdentity, std::string, IdentityOrder> m_identities;
-  std::vector<UnitCore*> m_listing;  ///< Units that may list controlled files.
+  std::vector<UnitCore*> m_listing;     ///< Units that may list controlled files.
 };
 
 }  // namespace
@@ -282,11 +293,14 @@ void loadUnits(Project& project, const std::string& headCache) {
 UnitRecord recordOf(Folder& folder, std::string fileName, const FileType* type, UnitHead& head) {
   UnitRecord record;
   record.folder = &folder;
-  record.name = head.name.empty() ? std::string(type ? stemOf(fileName) : fileName) : head.name;
-  record.unitType = !head.unitType.empty() ? head.unitType : type ? type->unitType : "File";
+  record.name = !head.name.empty() ? std::move(head.name)
+                                   : std::string(type ? stemOf(fileName) : fileName);
+  record.unitType = !head.unitType.empty() ? std::move(head.unitType)
+                    : type                 ? type->unitType
+                                           : "File";
   record.fileName = std::move(fileName);
   record.type = type;
-  record.header = head.header;
+  record.header = std::move(head.header);
   record.mode = head.mode;
   record.fileTime = head.facts.written;
   record.controlledFile = type == nullptr;

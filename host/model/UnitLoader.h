@@ -10,7 +10,7 @@ namespace veldra::host {
 /// becomes a problem of the project. `headCache` is the file that remembers heads; empty for none.
 void loadUnits(Project& project, const std::string& headCache);
 
-/// A record for a file, filled from its head.
+/// A record for a file, filled from its head, whose texts move into it.
 UnitRecord recordOf(Folder& folder, std::string fileName, const FileType* type, UnitHead& head);
 
 }  // namespace veldra::host
