@@ -11,8 +11,9 @@ namespace veldra::host {
 ///
 /// Guards nest, and each thread has its own. A fault in a thread without a guard, and such a signal
 /// that somebody sent on purpose, goes to whoever handled it before: by default the process dies.
-/// While no guard is active anywhere, this class leaves no trace in the process's signal handling;
-/// while one is, the guarded body must not change the handlers of these signals.
+/// Where faults are signals, their handlers are set by the first guard and stay; handlers that
+/// others set later are put in force again for what happens outside of guards, and replaced by the
+/// next one.
 class FaultGuard : public CSignal2Exception {
  public:
   /// May also throw whatever the body throws.

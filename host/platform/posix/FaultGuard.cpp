@@ -36,7 +36,6 @@ struct Frame {
 thread_local Frame* t_innermost = nullptr;
 
 std::mutex s_mutex;
-int s_activeGuards = 0;
 std::array<struct sigaction, Faults.size()> s_former;
 
 void handToFormer(int signal, const siginfo_t& info) {
@@ -58,38 +57,36 @@ void onFault(int signal, siginfo_t* info, void*) {
   siglongjmp(frame->jump, 1);
 }
 
-/// Our handlers are in force while at least one of these lives.
-class HandlersInForce {
- public:
-  HandlersInForce() {
-    const std::lock_guard lock(s_mutex);
-    if (s_activeGuards++ > 0) return;
-    struct sigaction action {};
-    action.sa_sigaction = onFault;
-    action.sa_flags = SA_SIGINFO | SA_ONSTACK;
-    sigemptyset(&action.sa_mask);
-    for (std::size_t i = 0; i < Faults.size(); ++i) {
-      sigaction(Faults[i].signal, &action, &s_former[i]);
-    }
-  }
-  ~HandlersInForce() {
-    const std::lock_guard lock(s_mutex);
-    if (--s_activeGuards > 0) return;
-    for (std::size_t i = 0; i < Faults.size(); ++i) {
-      sigaction(Faults[i].signal, &s_former[i], nullptr);
-    }
-  }
-  HandlersInForce(const HandlersInForce&) = delete;
-  HandlersInForce& operator=(const HandlersInForce&) = delete;
-};
+bool isInForce(int signal) {
+  struct sigaction present {};
+  sigaction(signal, nullptr, &present);
+  return (present.sa_flags & SA_SIGINFO) != 0 && present.sa_sigaction == onFault;
+}
 
-/// A stack for the handler, because the thread's own may be the very thing that is used up.
+/// Our handlers stay when a guard ends, because putting the former ones back costs more than most
+/// guarded calls; a fault outside of every guard is handed to them. Whoever sets handlers of its
+/// own sets them for all faults, so that one tells of the others.
+void putHandlersInForce() {
+  const std::lock_guard lock(s_mutex);
+  if (isInForce(Faults.front().signal)) return;
+  struct sigaction action {};
+  action.sa_sigaction = onFault;
+  // The handler leaves by a jump; as it blocks no signal, the jump has no mask to restore.
+  action.sa_flags = SA_SIGINFO | SA_ONSTACK | SA_NODEFER;
+  sigemptyset(&action.sa_mask);
+  for (std::size_t i = 0; i < Faults.size(); ++i) {
+    if (!isInForce(Faults[i].signal)) sigaction(Faults[i].signal, &action, &s_former[i]);
+  }
+}
+
+/// A stack for the handler, because the thread's own may be the very thing that is used up. Where
+/// the thread has one already, that one serves.
 class HandlerStack {
  public:
   HandlerStack() {
     sigaltstack(nullptr, &m_former);
     if ((m_former.ss_flags & SS_DISABLE) == 0) return;
-    m_memory = std::make_unique<char[]>(Size);
+    m_memory = std::make_unique_for_overwrite<char[]>(Size);
     stack_t mine{};
     mine.ss_sp = m_memory.get();
     mine.ss_size = Size;
@@ -131,10 +128,10 @@ class Entered {
 
 void FaultGuard::guard(const std::function<void()>& body) {
   const HandlerStack stack;
-  const HandlersInForce handlers;
+  putHandlersInForce();
   Frame frame;
   frame.outer = t_innermost;
-  if (sigsetjmp(frame.jump, 1) == 0) {
+  if (sigsetjmp(frame.jump, 0) == 0) {
     const Entered entered(frame);
     body();
     return;
