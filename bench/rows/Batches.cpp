@@ -54,7 +54,9 @@ class TwoCopies {
                "' -name '*.vcmp' | while read -r file; do svn lock -q -- \"$file@\"; done");
   }
   void unlockBoth() const {
-    runQuietly("svn unlock -q --force $(find '" + ours() + "' '" + theirs() + "' -name '*.vcmp')");
+    for (const std::string& copy : {ours(), theirs()}) {
+      runQuietly("find '" + copy + "' -name '*.vcmp' | xargs svn unlock -q --force");
+    }
   }
   void checkInOurs() const { runQuietly(program() + " checkin -r '" + ours() + "' -m changed"); }
   void checkInTheirs() const { runQuietly("svn commit -q -m changed '" + theirs() + "'"); }
