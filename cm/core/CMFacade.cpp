@@ -152,7 +152,7 @@ class UncheckoutFlags {
   HostFlags m_saved;
 };
 
-std::unique_ptr<IgnoreCGModification> ignoreCGModification() {
+std::unique_ptr<INObject::IgnoreCGModification> ignoreCGModification() {
   Host* const host = installedHost();
   return host != nullptr ? host->model().ignoreCGModification() : nullptr;
 }
@@ -202,7 +202,7 @@ int CMFacade::Properties(UnitList& units, ArgumentList& arguments, DiagnosticLis
 
 int CMFacade::CheckOut(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics) {
   return withoutEscape(TxnCheckOut, [&] {
-    const std::unique_ptr<IgnoreCGModification> ignored = ignoreCGModification();
+    const std::unique_ptr<INObject::IgnoreCGModification> ignored = ignoreCGModification();
     return runEntry(checkOutEntry, units, arguments, diagnostics);
   });
 }
