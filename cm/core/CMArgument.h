@@ -16,13 +16,15 @@ class VELDRA_CM_EXPORT CMArgument {
   CMArgument() = default;
   CMArgument(const CMArgument&) = delete;
   CMArgument& operator=(const CMArgument&) = delete;
-  virtual ~CMArgument() = default;
 
   /// Non-zero when this argument answers to the keyword.
   virtual int isNamed(const std::string& keyword) const = 0;
   /// The text that the keyword becomes; the keyword itself when this argument does not answer to
   /// it.
   virtual std::string substitute(const std::string& keyword) = 0;
+
+  // After the published functions, so that they keep the first places of the table.
+  virtual ~CMArgument() = default;
 };
 
 /// Arguments of a call, not owned, asked from first to last. Null entries are skipped.

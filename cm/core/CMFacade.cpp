@@ -135,23 +135,24 @@ constexpr ItemEntry uncheckoutItemsEntry{TxnUncheckout, AlwaysTool, &BackEnd::un
 /// Sets the host's flags for an undo check-out and puts them back on every way out.
 class UncheckoutFlags {
  public:
-  UncheckoutFlags() : m_host(installedHost()) {
-    if (m_host == nullptr) return;
-    m_saved = m_host->model().flags();
-    m_host->model().flags() = {.isOk2All = false, .reloadForDupId = true};
+  UncheckoutFlags() {
+    Host* const host = installedHost();
+    if (host == nullptr) return;
+    m_flags = &host->model().flags();
+    m_saved = std::exchange(*m_flags, {.isOk2All = false, .reloadForDupId = true});
   }
   UncheckoutFlags(const UncheckoutFlags&) = delete;
   UncheckoutFlags& operator=(const UncheckoutFlags&) = delete;
   ~UncheckoutFlags() {
-    if (m_host != nullptr) m_host->model().flags() = m_saved;
+    if (m_flags != nullptr) *m_flags = m_saved;
   }
 
  private:
-  Host* m_host;
+  HostFlags* m_flags = nullptr;
   HostFlags m_saved;
 };
 
-std::unique_ptr<IgnoreCGModification> ignoreCGModification() {
+std::unique_ptr<INObject::IgnoreCGModification> ignoreCGModification() {
   Host* const host = installedHost();
   return host != nullptr ? host->model().ignoreCGModification() : nullptr;
 }
@@ -200,8 +201,10 @@ int CMFacade::Properties(UnitList& units, ArgumentList& arguments, DiagnosticLis
 }
 
 int CMFacade::CheckOut(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics) {
-  const std::unique_ptr<IgnoreCGModification> ignored = ignoreCGModification();
-  return runEntry(checkOutEntry, units, arguments, diagnostics);
+  return withoutEscape(TxnCheckOut, [&] {
+    const std::unique_ptr<INObject::IgnoreCGModification> ignored = ignoreCGModification();
+    return runEntry(checkOutEntry, units, arguments, diagnostics);
+  });
 }
 
 int CMFacade::CheckIn(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics) {
@@ -213,8 +216,10 @@ int CMFacade::History(UnitList& units, ArgumentList& arguments, DiagnosticList& 
 }
 
 int CMFacade::Uncheckout(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics) {
-  const UncheckoutFlags flags;
-  return runEntry(uncheckoutEntry, units, arguments, diagnostics);
+  return withoutEscape(TxnUncheckout, [&] {
+    const UncheckoutFlags flags;
+    return runEntry(uncheckoutEntry, units, arguments, diagnostics);
+  });
 }
 
 int CMFacade::RecCheckOut(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics) {
@@ -283,8 +288,10 @@ int CMFacade::HistoryArcView(CMArchiveItemList& items, ArgumentList& arguments,
 
 int CMFacade::Uncheckout(CMArchiveItemList& items, ArgumentList& arguments,
                          DiagnosticList& diagnostics) {
-  const UncheckoutFlags flags;
-  return runEntry(uncheckoutItemsEntry, items, arguments, diagnostics);
+  return withoutEscape(TxnUncheckout, [&] {
+    const UncheckoutFlags flags;
+    return runEntry(uncheckoutItemsEntry, items, arguments, diagnostics);
+  });
 }
 
 int CMFacade::AddDirectory(std::string directory, ArgumentList& arguments,

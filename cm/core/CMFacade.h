@@ -28,8 +28,11 @@ class VELDRA_CM_EXPORT CMFacade {
   // --- on units ---
   static int ConnectToArchive(UnitList& units, ArgumentList& arguments,
                               DiagnosticList& diagnostics);
+  /// Needs no project and opens no transaction.
   static int ListWorkspace(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics);
   static int Fetch(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics);
+  /// Fetches what units are compared with. The provider does it, whatever the project selects,
+  /// unless hybrid mode gives it to the command-line tool.
   static int FetchForDiff(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics);
   static int LockItem(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics);
   static int UnLockItem(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics);
@@ -67,23 +70,32 @@ class VELDRA_CM_EXPORT CMFacade {
                         DiagnosticList& diagnostics);
 
   // --- on directories and names ---
+  /// Provider back end only: a command-line tool has no such operation, and the answer is 0.
   static int AddDirectory(std::string directory, ArgumentList& arguments,
                           DiagnosticList& diagnostics);
+  /// Removes a directory with all that it holds from the archive. `flag` makes the command-line
+  /// tool read its template in the metaclass named after the provider; `object` (may be null) is
+  /// for the provider.
   static int DeleteDirectory(const std::string& directory, ArgumentList& arguments,
                              DiagnosticList& diagnostics, bool flag, IDObject* object);
+  /// Both names are full file names.
   static int RenameMember(IUnit* unit, const std::string& oldName, const std::string& newName,
                           DiagnosticList& diagnostics);
   /// The same with a comment and the like.
   static int RenameMember(IUnit* unit, const std::string& oldName, const std::string& newName,
                           ArgumentList& arguments, DiagnosticList& diagnostics);
+  /// Moves what a package holds from one directory to another. `flag` as in `DeleteDirectory`.
   static int movePackageContent(IUnit* package, UnitList& units, const std::string& oldPath,
                                 const std::string& newPath, ArgumentList& arguments,
                                 DiagnosticList& diagnostics, bool flag);
 
   // --- the provider and dialogs ---
+  /// Readies the provider when a project opens; 1 under the command-line back end.
   static int doSetUpSCC();
+  /// Both let a loaded provider clean up; always 1.
   static int doCleanUpSCC();
   static int doCloseProjectSCC();
+  /// Runs the provider's own program.
   static int RunToolExe();
   /// Shows the connect-to-archive dialog; 1 whatever it answers.
   static int doConnectToArcDlg();
@@ -96,7 +108,9 @@ class VELDRA_CM_EXPORT CMFacade {
   // --- slots that the host fills once after loading the module; all start empty ---
   using SaveCallback = std::function<void()>;
   using ReloadCallback = std::function<void(IMainFrame*)>;
+  /// Saves the model; called before commands that read its files.
   static SaveCallback& saveCallbackFunc();
+  /// Called with its parameter before units are reloaded, and the other one afterwards.
   static ReloadCallback& ATMCallbackFunc();
   static IMainFrame*& ATMCallbackFuncParameter();
   static ReloadCallback& afterATMCallbackFunc();

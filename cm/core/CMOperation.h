@@ -12,10 +12,10 @@ namespace veldra {
 /// Root of the operation objects. Each is made on the stack for one call.
 class CMOperation {
  public:
-  virtual ~CMOperation() = default;
   /// 1 when a CM tool is configured for the object (null: the project); otherwise 0, with the
   /// reason in `message` when the tool is "None".
   virtual int isCMTool(std::string& message, IDObject* object, bool hybrid);
+  virtual ~CMOperation() = default;
 };
 
 /// An operation on units of the open model.

@@ -1,7 +1,9 @@
 #include "cm/core/CMTraitFacade.h"
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <system_error>
 
 #include "cm/core/BackEnd.h"
 #include "cm/core/DebugEcho.h"
@@ -50,6 +52,9 @@ std::string CMTraitFacade::getDefaultHeader() {
   std::string path;
   if (!CMProperty::getToolPropertyValue(IPN::CMHeaderFile, setting)) return {};
   CMProperty::ExpandPredefined(setting, path);
+  // Directories cannot be read, and devices may never end.
+  std::error_code unknown;
+  if (!std::filesystem::is_regular_file(path, unknown)) return {};
   std::ifstream file(path);
   std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
   // Old header files end with this byte.

@@ -53,7 +53,7 @@ class VELDRA_CM_EXPORT CMTraitFacade : public IBaseCMFacade {
   static int queryStatus(const UnitList& units, std::vector<UnitStatus>& status);
 
   /// The text of the file that the tool property "CMHeaderFile" names, up to a byte 0xFF; empty
-  /// when there is none.
+  /// when there is none or it cannot be read.
   static std::string getDefaultHeader();
   /// The version in the unit's CM header; empty when the header has none.
   static std::string getVersion(const IUnit* unit);

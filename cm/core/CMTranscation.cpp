@@ -33,12 +33,16 @@ CMTranscation::CMTranscation(const IViewParameters* view, int undoFlag, CMTransc
                              std::string operationName)
     : m_operationName(std::move(operationName)), m_transcationType(type) {
   moduleState().transcations.push_back(this);
+  Undoer* undoToClose = nullptr;
   try {
-    if (Undoer* const undoer = undoerFor(type)) undoer->startTransaction(view, undoFlag);
+    Undoer* const undoer = undoerFor(type);
+    if (undoer != nullptr) undoer->startTransaction(view, undoFlag);
+    undoToClose = undoer;
     if (IAbstractCMManager* const manager = cmManager()) manager->setCMOperationRunning(1);
     CMTranscation::markStartTranscation();
   } catch (...) {
     leave();
+    if (undoToClose != nullptr) undoToClose->endTransaction();
     throw;
   }
 }

@@ -103,7 +103,10 @@ std::string CMUnit::unitArchiveDir() const {
   if (!repository.empty() && m_unit != nullptr) {
     return CMPathMapper::getArchivePathFromLocalPath(m_unit->getDirectory());
   }
-  return std::string(cutAtLastSeparator(unitArchivePath()));
+  const std::string path = unitArchivePath();
+  const std::size_t end = lastSeparator(path);
+  // A file at the archive's root has no directory; its name is none.
+  return end == std::string::npos ? std::string() : path.substr(0, end);
 }
 
 }  // namespace veldra

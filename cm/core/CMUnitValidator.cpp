@@ -1,6 +1,5 @@
 #include "cm/core/CMUnitValidator.h"
 
-#include <exception>
 #include <utility>
 
 #include "cm/host/CSignal2Exception.h"
@@ -11,7 +10,7 @@ CMUnitValidator::~CMUnitValidator() {
   if (m_index.empty()) return;
   try {
     guardFaults([this] { reset(); });
-  } catch (const std::exception&) {
+  } catch (...) {
     // A handle that faults while it is released must not take the host down.
   }
 }
@@ -42,7 +41,7 @@ int CMUnitValidator::addUnit(IUnit* unit) {
   std::unique_ptr<IHandle> handle;
   try {
     guardFaults([&] { handle = unit->getHandle(); });
-  } catch (const std::exception&) {
+  } catch (...) {
     return 0;
   }
   if (handle == nullptr) return 0;

@@ -17,8 +17,11 @@ class IEnvironment {
   virtual int omGetEnvVar(const std::string& section, const std::string& name, std::string& value,
                           const std::string& defaultValue) = 0;
 
+  /// The directory for temporary files, without a separator at its end.
   virtual std::string omGetTempDir() = 0;
+  /// What stands between the directories of a local path.
   virtual char omPathSeparator() const = 0;
+  /// Whether the path names the same file from whichever directory.
   virtual bool omIsAbsolutePath(const std::string& path) = 0;
 
   /// The time, the date and the user as the host writes them for people.
@@ -26,6 +29,7 @@ class IEnvironment {
   virtual std::string omGetCurrentDate() = 0;
   virtual std::string omGetCurrentUser() = 0;
 
+  /// Whether the path names anything that is there.
   virtual bool omFileExist(const std::string& path) = 0;
   /// True for a file that holds at least one byte. A host that cannot tell says no.
   virtual bool omFileExistsAndNonEmpty(const std::string& path) {
@@ -54,6 +58,8 @@ class IEnvironment {
     (void)path;
     return false;
   }
+  /// Makes the directory the current one of the process. False, and nothing changed, when it cannot
+  /// be entered.
   virtual bool setCurrentDirectory(const std::string& path) = 0;
   /// The system's words for the error of the last call above that failed.
   virtual std::string omGetErrorCodeString() = 0;
@@ -61,6 +67,7 @@ class IEnvironment {
   /// Writes a new private file with these very bytes into the temporary directory. Its name
   /// contains no blank beyond those of that directory. Empty when it could not be written.
   virtual std::string createTempFile(const std::string& content) = 0;
+  /// A file that is not there, or cannot be removed, is no error.
   virtual void removeFile(const std::string& path) = 0;
   /// Gives a file another name or place, on another volume too, and makes the directories that it
   /// needs. False, and nothing changed, when that fails or something has the new name already.

@@ -14,11 +14,13 @@ struct HostFlags {
   bool reloadForDupId = false;  ///< Units whose identifiers clash are reloaded instead of refused.
 };
 
+namespace INObject {
 /// While one of these lives, changes to the model do not mark generated code as out of date.
 class IgnoreCGModification {
  public:
   virtual ~IgnoreCGModification() = default;
 };
+}  // namespace INObject
 
 /// The host's model: which project is open and which units it has. Every host has one.
 class IModel {
@@ -64,7 +66,7 @@ class IModel {
   /// The host's flags; the reference stays valid as long as the host.
   virtual HostFlags& flags() = 0;
   /// Stops code-generator tracking until the result is destroyed. Null when the host has none.
-  virtual std::unique_ptr<IgnoreCGModification> ignoreCGModification() { return nullptr; }
+  virtual std::unique_ptr<INObject::IgnoreCGModification> ignoreCGModification() { return nullptr; }
 };
 
 /// The open workspace as the module sees it. Everything is null without a host or a project.

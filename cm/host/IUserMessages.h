@@ -44,7 +44,8 @@ class IUserMessages {
   /// Tells the user something; no answer is needed.
   virtual void notifyUser(const std::string& text, int level) = 0;
 
-  /// Shows a message with the icon and buttons of `flags` and returns the answer.
+  /// Shows a message with the icon and buttons of `flags` and returns the answer. A host that
+  /// cannot ask gives the one that changes nothing: no, else cancel, else OK.
   virtual int notifyUserAndAsk(const std::string& text, int flags, int level) = 0;
 
   /// Shows a message that the user may switch off for good; `key` names it.

@@ -14,7 +14,8 @@ enum class PatternEnd { Matched, NoMatch, Invalid, GivenUp };
 /// What one match found. The views point into the text that was searched.
 struct PatternMatch {
   PatternEnd end = PatternEnd::NoMatch;
-  /// Whole match first, then the capture groups; a group that took no part is empty.
+  /// Whole match first, then the capture groups. A group that took no part is a view without data
+  /// (`data()` is null), which the module tells from one that matched the empty text.
   std::vector<std::string_view> captures;
 };
 

@@ -29,16 +29,21 @@ class VELDRA_CM_EXPORT CMProperty {
   static IDObject* getReferee(IDObject* object);
   /// The property that names the command-line tool.
   static IProperty* getCMTool(IDObject* object, bool localOnly);
+  /// Selects the command-line tool for the object. 0 when nothing names a tool yet.
   static int setCMTool(const std::string& name, IDObject* object);
-  /// `providerMetaclass` reads, under the provider back end, the metaclass named after the provider
-  /// instead of "SCC".
+  /// The property in the tool's metaclass, else under "General"; null when there is neither.
+  /// `localOnly` takes of the tool's only one that is stored on the object itself; common settings
+  /// count wherever they are stored. `providerMetaclass` reads, under the provider back end, the
+  /// metaclass named after the provider instead of "SCC".
   static IProperty* getToolProperty(const std::string& name, IDObject* object = nullptr,
                                     bool localOnly = false, bool providerMetaclass = false);
-  /// Sets the property on the object; one that is only inherited is copied to it first.
+  /// Sets the property on the object; one that is only inherited is copied to it first. 0 when
+  /// there is no such property.
   static int setToolProperty(const std::string& name, const std::string& value, IDObject* object);
   /// False, and `value` untouched, when the property does not exist.
   static bool getToolPropertyValue(const std::string& name, std::string& value,
                                    bool providerMetaclass = false);
+  /// The same for the active project.
   static int setToolPropertyValue(const std::string& name, const std::string& value);
   /// A property of the active project in a metaclass of its own, beside the tool look-up.
   static IProperty* getProjectProperty(const std::string& metaclass, const std::string& name);
@@ -105,18 +110,25 @@ class VELDRA_CM_EXPORT CMProperty {
   static void getSCCReturnLogMsg(const std::string& name, long code, std::string& out);
 
   // --- single settings ---
+  /// Whether single operations may go to the command-line tool under the provider back end.
   static int isHybridModePossible();
   /// Whether a recursive check-out from the archive still has to save the model first: -1 only
   /// asks, 0 says that it is saved, any other value that it has to be saved again. The result is
   /// what holds now; at first a save is due.
   static int saveOnCheckout(std::int16_t flag);
+  /// 0 when the project says which project of the provider's archive it belongs to.
   static int closeProjectNeeded();
+  /// 1 when the custom button has both a command and a picture.
   static int CheckCustomButton();
+  /// Whether the active project shows CM states; without one, what the last one said.
   static int getShowCMStatus();
+  /// Whether the archive is one directory without sub-directories, as in old projects.
   static bool isPre40Compatible();
+  /// The local directory that stands for the archive's root; empty without a project.
   static std::string getWorkingDir();
   /// The unit's own archive, else the main archive; 1 when there is one.
   static int getBatchArchiveRecursive(const IUnit* unit, std::string& archive);
+  /// The unit's own project in the provider's archive, else that of the active project. As above.
   static int getSccArchiveRecursive(const IUnit* unit, std::string& projName,
                                     std::string& auxProjPath);
 

@@ -1,5 +1,7 @@
 // Finding, changing and attaching CM properties.
 
+#include <optional>
+#include <string>
 #include <utility>
 
 #include "cm/core/DebugEcho.h"
@@ -13,13 +15,13 @@ namespace veldra {
 namespace {
 
 /// The metaclass of the selected tool's properties: that of the provider, or the command-line
-/// tool's name; empty when there is no tool.
-std::string toolMetaclass(IDObject* object, bool providerMetaclass) {
+/// tool's name; nothing when there is no tool.
+std::optional<std::string> toolMetaclass(IDObject* object, bool providerMetaclass) {
   if (CMProperty::getUseSCCtool() != 0) {
     return providerMetaclass ? CMProperty::getSCCToolName() : IPN::SCC;
   }
   const IProperty* const tool = CMProperty::getCMTool(object, false);
-  return tool != nullptr ? tool->getValue() : std::string();
+  return tool != nullptr ? std::optional(tool->getValue()) : std::nullopt;
 }
 
 /// Stores a changed copy of an inherited property on the object.
@@ -68,28 +70,36 @@ IProperty* CMProperty::getToolProperty(const std::string& name, IDObject* object
                                        bool providerMetaclass) {
   IDObject* const referee = getReferee(object);
   if (referee == nullptr) return nullptr;
-  const std::string metaclass = toolMetaclass(object, providerMetaclass);
-  if (IProperty* const found = referee->findProperty(IPN::CM, metaclass, name, localOnly)) {
-    return found;
-  }
+  const std::optional<std::string> metaclass = toolMetaclass(object, providerMetaclass);
+  IProperty* const found =
+      metaclass ? referee->findProperty(IPN::CM, *metaclass, name, localOnly) : nullptr;
+  if (found != nullptr) return found;
   // The common settings count wherever they are stored.
   IProperty* const common = referee->findProperty(IPN::CM, IPN::General, name, false);
   if (common == nullptr) {
-    debugEcho({"could not find the property '", name, "'", " for ", metaclass, "\n"});
+    debugEcho({"could not find the property '", name, "'", " for ", metaclass.value_or(""), "\n"});
   }
   return common;
 }
 
 int CMProperty::setToolProperty(const std::string& name, const std::string& value,
                                 IDObject* object) {
-  if (IProperty* const local = getToolProperty(name, object, true)) {
-    local->setValue(value);
+  if (getToolProperty(name, object) == nullptr) return 0;
+  IDObject& referee = *getReferee(object);
+  const std::string metaclass = toolMetaclass(object, false).value_or(IPN::General);
+  // Only a property of the object itself is changed: an inherited one belongs to others, too, and
+  // one under "General" would stay hidden behind the tool's own.
+  for (const std::string& place : {metaclass, std::string(IPN::General)}) {
+    const IProperty* const present = referee.findProperty(IPN::CM, place, name, false);
+    if (present == nullptr) continue;
+    if (IProperty* const local = referee.findProperty(IPN::CM, place, name, true)) {
+      local->setValue(value);
+    } else {
+      attachCopy(referee, metaclass, *present, value);
+    }
     return 1;
   }
-  const IProperty* const inherited = getToolProperty(name, object, false);
-  if (inherited == nullptr) return 0;
-  attachCopy(*getReferee(object), toolMetaclass(object, false), *inherited, value);
-  return 1;
+  return 0;
 }
 
 bool CMProperty::getToolPropertyValue(const std::string& name, std::string& value,

@@ -46,7 +46,8 @@ class StandardPatterns : public IPatternEngine {
       if (!std::regex_search(text.data() + from, text.data() + text.size(), found, m_regex))
         return match.end = PatternEnd::NoMatch;
       for (const auto& group : found)
-        match.captures.emplace_back(group.first, static_cast<std::size_t>(group.length()));
+        match.captures.push_back(group.matched ? std::string_view(group.first, group.second)
+                                               : std::string_view());
       return match.end = PatternEnd::Matched;
     }
     std::regex m_regex;

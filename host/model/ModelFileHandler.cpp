@@ -41,7 +41,12 @@ void ModelFileHandler::prepare(Kind kind) {
   if (!m_isProjectFile || m_prepared || !isFile(m_file)) return;
   std::error_code failed;
   // A copy from a run that died is somebody's work: it is not overwritten.
-  m_prepared = fs::copy_file(m_file, m_copy, fs::copy_options::none, failed) && !failed;
+  if (fs::exists(fs::symlink_status(m_copy, failed))) return;
+  // Half a copy, after a kill or on a full disk, would pass for what the file was before.
+  const Result<std::string> bytes = readFile(m_file, ModelFileLimit);
+  if (!bytes || writeFileAtomically(m_copy, *bytes)) return;
+  fs::permissions(m_copy, fs::status(m_file, failed).permissions(), failed);
+  m_prepared = true;
 }
 
 void ModelFileHandler::complete() {

@@ -29,7 +29,7 @@ class CopiedUnits : public IObIterator {
   std::size_t m_next = 0;
 };
 
-class JournalledCGGuard : public IgnoreCGModification {
+class JournalledCGGuard : public INObject::IgnoreCGModification {
  public:
   explicit JournalledCGGuard(Journal& journal) : m_journal(journal) { m_journal.add("cg ignored"); }
   ~JournalledCGGuard() override { m_journal.add("cg tracked"); }
@@ -121,7 +121,7 @@ std::string MemoryModel::unitTypeOfExtension(const std::string& suffix) const {
   return found == unitTypes.end() ? std::string() : found->second;
 }
 
-std::unique_ptr<IgnoreCGModification> MemoryModel::ignoreCGModification() {
+std::unique_ptr<INObject::IgnoreCGModification> MemoryModel::ignoreCGModification() {
   return std::make_unique<JournalledCGGuard>(m_journal);
 }
 

@@ -59,7 +59,7 @@ class MemoryModel : public IModel {
   std::string newFileExtension() const override { return ".vdy"; }
   std::string oldFileExtension() const override { return ".vdr"; }
   HostFlags& flags() override { return m_flags; }
-  std::unique_ptr<IgnoreCGModification> ignoreCGModification() override;
+  std::unique_ptr<INObject::IgnoreCGModification> ignoreCGModification() override;
 
  private:
   template <class Unit>

@@ -1,6 +1,7 @@
 #include "cm/ui/logic/CommandRun.h"
 
 #include "cm/core/CMArchive.h"
+#include "cm/core/CMAskOnCheckoutGuard.h"
 #include "cm/core/CMCoCiDisplayStatus.h"
 #include "cm/core/CMFacade.h"
 #include "cm/core/TextTools.h"
@@ -70,6 +71,8 @@ bool CommandRun::run(const CommandRow& row) {
   const CommandSide& side = BackEndMode::current().usesProvider ? row.provider : row.tool;
   if (!allowsSelection(side.selection, m_view.GetSelectedCount())) return false;
   traceIfAny(row.starting);
+  // An answer for all units is meant for those of this command.
+  const CMAskOnCheckoutGuard guard;
   const UndoScope undo(row.changesModel);
   return runInside(row);
 }

@@ -224,6 +224,10 @@ TEST_F(CMUnitTest, ArchiveItem) {
   CMUnit unit(&item);
   EXPECT_THAT(all(unit), ElementsAre("Engine.vcl", "/plan/drive/Engine.vcl", "/plan/drive",
                                      "/drive", "drive/Engine.vcl", "drive"));
+  CMArchiveItem atRoot("Engine.vcl", "1.1", CMArchiveItem::ReadOnly, "", "");
+  CMUnit unitAtRoot(&atRoot);
+  EXPECT_THAT(all(unitAtRoot),
+              ElementsAre("Engine.vcl", "/plan/Engine.vcl", "/plan", "", "Engine.vcl", ""));
   // The dot is looked for in the whole path first, so a name without one is cut short.
   CMArchiveItem odd("pkg.dir\\unit", "", CMArchiveItem::ReadOnly, "", "");
   EXPECT_EQ(CMUnit(&odd).substitute("Unit"), "pkg.dir\\unit");

@@ -181,6 +181,23 @@ TEST_F(CMFacadeTest, NoExceptionLeavesAnEntryPoint) {
   EXPECT_EQ(CMTranscation::getTranscationNesting(), 0);
 }
 
+TEST_F(CMFacadeTest, NoExceptionOfTheHostsModelLeavesAnEntryPoint) {
+  class Broken : public MemoryHost {
+   public:
+    IModel& model() override { throw std::runtime_error("broken model"); }
+  } broken;
+  Caller caller = callerWithUnit();
+  installHost(&broken);
+  for (const EntryRow& row : allRows()) {
+    SCOPED_TRACE(row.name);
+    EXPECT_EQ(row.call(caller), 0);
+  }
+  EXPECT_THAT(broken.memoryMessages.asked, SizeIs(allRows().size()));
+  EXPECT_EQ(broken.undo.open, 0);
+  EXPECT_EQ(CMTranscation::getTranscationNesting(), 0);
+  installHost(&m_host);
+}
+
 TEST_F(CMFacadeTest, ProviderIsSetUpOnlyWhenSelectedAndCleanedUpOnlyWhenLoaded) {
   EXPECT_EQ(CMFacade::doSetUpSCC(), 1);
   EXPECT_EQ(CMFacade::doCleanUpSCC(), 1);

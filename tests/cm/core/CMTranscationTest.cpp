@@ -273,14 +273,26 @@ TEST_F(CMTranscationTest, AHostThatThrowsLeavesNoTransactionBehind) {
       throw std::runtime_error("undo is broken");
     }
   };
+  class BrokenManager : public MemoryCMManager {
+   public:
+    using MemoryCMManager::MemoryCMManager;
+    void setCMOperationRunning(int) override { throw std::runtime_error("no window"); }
+  };
   class BrokenHost : public MemoryHost {
    public:
-    Undoer* undoer() override { return &broken; }
-    BrokenUndoer broken{journal};
+    Undoer* undoer() override { return hasUndo ? MemoryHost::undoer() : &brokenUndoer; }
+    IAbstractCMManager* cmManager() override { return &brokenManager; }
+    bool hasUndo = false;
+    BrokenUndoer brokenUndoer{journal};
+    BrokenManager brokenManager{journal};
   } host;
   installHost(&host);
-  EXPECT_ANY_THROW(CMTranscation(nullptr, 1, TxnLock, ""));
-  EXPECT_EQ(CMTranscation::getTranscationNesting(), 0);
+  for (const bool hasUndo : {false, true}) {
+    host.hasUndo = hasUndo;
+    EXPECT_ANY_THROW(CMTranscation(nullptr, 1, TxnLock, ""));
+    EXPECT_EQ(CMTranscation::getTranscationNesting(), 0);
+  }
+  EXPECT_THAT(host.journal.lines(), ElementsAre("undo-begin 1", "undo-end"));
   installHost(&m_host);
 }
 

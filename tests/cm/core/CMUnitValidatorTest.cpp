@@ -18,11 +18,12 @@ using ::testing::UnorderedElementsAre;
 /// A unit whose handle cannot be had in one way or another.
 class UnreachableUnit : public MemoryUnit {
  public:
-  enum class Way { Fault, NoHandle };
+  enum class Way { Fault, Other, NoHandle };
   UnreachableUnit(Journal& journal, MemoryFiles& files, Way way)
       : MemoryUnit(journal, files, {}), m_way(way) {}
   std::unique_ptr<IHandle> getHandle() override {
     if (m_way == Way::Fault) throw ProcessorFault("bad address");
+    if (m_way == Way::Other) throw 42;
     return nullptr;
   }
 
@@ -39,8 +40,9 @@ class CMUnitValidatorTest : public HostTest {
 
 TEST_F(CMUnitValidatorTest, RefusesNullAndUnitsWithoutAHandle) {
   UnreachableUnit faulty(m_host.journal, m_host.files, UnreachableUnit::Way::Fault);
+  UnreachableUnit throwing(m_host.journal, m_host.files, UnreachableUnit::Way::Other);
   UnreachableUnit handleless(m_host.journal, m_host.files, UnreachableUnit::Way::NoHandle);
-  for (IUnit* unit : UnitList{nullptr, &faulty, &handleless}) {
+  for (IUnit* unit : UnitList{nullptr, &faulty, &throwing, &handleless}) {
     EXPECT_EQ(m_validator.init(unit), 0);
     EXPECT_EQ(m_validator.isUnitMarkedForValidation(unit), 0);
     EXPECT_EQ(m_validator.isValidUnit(unit), 0);
@@ -133,7 +135,7 @@ TEST_F(CMUnitValidatorTest, ValidUnitsComeBucketByBucket) {
 TEST_F(CMUnitValidatorTest, FaultsWhileReleasingHandlesAreSwallowed) {
   class FaultyGuard : public CSignal2Exception {
    public:
-    void guard(const std::function<void()>&) override { throw ProcessorFault("bad address"); }
+    void guard(const std::function<void()>&) override { throw 42; }
   };
   class FaultyHost : public MemoryHost {
    public:

@@ -131,6 +131,38 @@ TEST_F(CMPropertyTest, SettingAnInheritedPropertyCopiesItToTheObject) {
             "of the project");
 }
 
+TEST_F(CMPropertyTest, SettingChangesNothingThatOthersShareAndCountsAtOnce) {
+  struct Row {
+    const char* name;
+    const char* tool;  ///< The metaclasses that others have it in.
+    const char* general;
+    bool hasOwn;  ///< The object has one of its own under "General".
+    bool hasTool;
+    const char* attachedTo;
+  };
+  for (const Row& row : std::vector<Row>{{"Site", "", "site", false, true, Tool},
+                                         {"PackAndSite", "pack", "site", false, true, Tool},
+                                         {"PackAndOwn", "pack", "", true, true, Tool},
+                                         {"Own", "", "", true, true, IPN::General},
+                                         {"NoTool", "", "site", false, false, IPN::General}}) {
+    SCOPED_TRACE(row.name);
+    const auto shared = [&](const char* metaclass) {
+      const IProperty* p = m_model.sharedSettings.findProperty(IPN::CM, metaclass, row.name, true);
+      return p != nullptr ? p->getValue() : "";
+    };
+    if (*row.tool != '\0') share(Tool, row.name, row.tool);
+    if (*row.general != '\0') share(IPN::General, row.name, row.general);
+    if (row.hasOwn) set(row.name, "own", IPN::General);
+    if (!row.hasTool) unset(IPN::CMTool, IPN::General);
+    EXPECT_EQ(CMProperty::setToolPropertyValue(row.name, "set"), 1);
+    EXPECT_EQ(valueOf(row.name), "set");
+    EXPECT_EQ(m_project.component.findProperty(IPN::CM, row.attachedTo, row.name, true)->getValue(),
+              "set");
+    EXPECT_EQ(shared(Tool), row.tool);
+    EXPECT_EQ(shared(IPN::General), row.general);
+  }
+}
+
 TEST_F(CMPropertyTest, APropertyThatExistsNowhereCannotBeSet) {
   EXPECT_EQ(CMProperty::setToolPropertyValue("Nowhere", "x"), 0);
   EXPECT_EQ(valueOf("Nowhere"), "(missing)");

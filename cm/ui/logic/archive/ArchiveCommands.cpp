@@ -73,6 +73,7 @@ bool ArchiveCommands::OnRecCheckOut(const CMArchiveItemList& selected,
 }
 
 bool ArchiveCommands::OnArcFetch() {
+  const CMAskOnCheckoutGuard guard;
   const PartialLoadAnswer nothingYet;
   if (CMProperty::useSccCompliantTool() == 0) {
     dialogError(dialogText(MessageId::ProviderNotCompliant));

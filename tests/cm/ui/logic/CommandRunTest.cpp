@@ -1,5 +1,6 @@
 #include "cm/ui/logic/CommandRun.h"
 
+#include "cm/core/CCMSyncQuestionDlg.h"
 #include "cm/ui/logic/ViewState.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/RecordingBackEnd.h"
@@ -96,6 +97,30 @@ TEST_F(CommandRunTest, AFailureKeepsTheCommentAndDoesNotRefresh) {
   EXPECT_TRUE(run(DialogCommand::CheckIn));
   EXPECT_EQ(m_view.asked.back().comment, "what I did");
   EXPECT_EQ(ViewState::unusedComment(DialogCommand::CheckIn), "") << "it is used now";
+}
+
+TEST_F(CommandRunTest, AnAnswerForAllUnitsHoldsForOneCommandOnly) {
+  class Asking : public BackEnd {
+   public:
+    int checkOut(const UnitCall&) override { return ask(); }
+    int fetch(const UnitCall&) override { return ask(); }
+
+   private:
+    static int ask() {
+      for (int unit = 0; unit < 2; ++unit) CCMSyncQuestionDlg("Overwrite it?").DoModal();
+      return 1;
+    }
+  } asking;
+  backEnds().tool = &asking;
+  m_view.selected = {&m_unit};
+  std::size_t questions = 0;
+  for (const DialogCommand command : {DialogCommand::CheckOut, DialogCommand::Fetch}) {
+    for (const char* answer : {"yestoall", "notoall"}) {
+      m_host.memoryMessages.overwriteAnswers = {answer};
+      EXPECT_TRUE(run(command));
+      EXPECT_EQ(m_host.memoryMessages.overwriteQuestions.size(), ++questions) << answer;
+    }
+  }
 }
 
 TEST_F(CommandRunTest, DescendantsTakeTheRecursiveVariant) {
