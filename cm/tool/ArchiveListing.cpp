@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <utility>
+#include <vector>
 
 #include "cm/core/CMArchiveItem.h"
 #include "cm/core/DebugEcho.h"
@@ -49,7 +50,9 @@ ArchiveListing::ArchiveListing()
 int ArchiveListing::read(std::string_view output, int status, CMArchiveItemList& items) const {
   std::string delimiter;
   if (!CMProperty::getToolPropertyValue(IPN::CMMultiRecordDelimiter, delimiter)) return status;
-  for (const std::string_view record : SPString(output).split(delimiter)) {
+  const std::vector<std::string_view> records = SPString(output).split(delimiter);
+  items.expect(records.size());
+  for (const std::string_view record : records) {
     status = readRecord(record, items);
   }
   return status;
