@@ -18,8 +18,6 @@ class VELDRA_CM_EXPORT CMArchiveItemList {
   virtual ~CMArchiveItemList() = default;
 
   void addTail(CMArchiveItem* item) { m_items.push_back(item); }
-  /// Makes room for so many more entries at once.
-  void expect(std::size_t count) { m_items.reserve(m_items.size() + count); }
   /// Takes the first entry that is this very item out of the list. False when there is none.
   bool remove(const CMArchiveItem* item);
   void removeAll() { m_items.clear(); }

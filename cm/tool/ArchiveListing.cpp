@@ -2,7 +2,6 @@
 
 #include <memory>
 #include <utility>
-#include <vector>
 
 #include "cm/core/CMArchiveItem.h"
 #include "cm/core/DebugEcho.h"
@@ -50,9 +49,7 @@ ArchiveListing::ArchiveListing()
 int ArchiveListing::read(std::string_view output, int status, CMArchiveItemList& items) const {
   std::string delimiter;
   if (!CMProperty::getToolPropertyValue(IPN::CMMultiRecordDelimiter, delimiter)) return status;
-  const std::vector<std::string_view> records = SPString(output).split(delimiter);
-  items.expect(records.size());
-  for (const std::string_view record : records) {
+  for (const std::string_view record : SPString(output).split(delimiter)) {
     status = readRecord(record, items);
   }
   return status;
