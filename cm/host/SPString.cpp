@@ -54,8 +54,8 @@ bool SPString::m(const std::string& pattern, const std::string& options,
   return true;
 }
 
-std::vector<std::string_view> SPString::split(const std::string& pattern) const {
-  std::vector<std::string_view> pieces;
+void SPString::split(const std::string& pattern,
+                     const std::function<void(std::string_view)>& take) const {
   const IPattern* const compiled = compile(pattern, "");
   std::size_t pieceStart = 0;
   std::size_t from = 0;
@@ -72,11 +72,10 @@ std::vector<std::string_view> SPString::split(const std::string& pattern) const 
     } else {
       from = start + length;
     }
-    pieces.push_back(m_text.substr(pieceStart, start - pieceStart));
+    take(m_text.substr(pieceStart, start - pieceStart));
     pieceStart = start + length;
   }
-  if (pieceStart < m_text.size()) pieces.push_back(m_text.substr(pieceStart));
-  return pieces;
+  if (pieceStart < m_text.size()) take(m_text.substr(pieceStart));
 }
 
 }  // namespace veldra

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -51,9 +52,9 @@ class SPString {
   bool m(const std::string& pattern, const std::string& options,
          std::vector<std::string_view>* captures = nullptr) const;
 
-  /// The pieces between the matches of `pattern`, as Perl's split makes them with a limit of -1,
-  /// but without a last empty piece. The views point into the text.
-  std::vector<std::string_view> split(const std::string& pattern) const;
+  /// Hands on the pieces between the matches of `pattern`, one after another, as Perl's split makes
+  /// them with a limit of -1, but without a last empty piece. The views point into the text.
+  void split(const std::string& pattern, const std::function<void(std::string_view)>& take) const;
 
  private:
   std::string_view m_text;

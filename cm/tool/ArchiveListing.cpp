@@ -49,9 +49,8 @@ ArchiveListing::ArchiveListing()
 int ArchiveListing::read(std::string_view output, int status, CMArchiveItemList& items) const {
   std::string delimiter;
   if (!CMProperty::getToolPropertyValue(IPN::CMMultiRecordDelimiter, delimiter)) return status;
-  for (const std::string_view record : SPString(output).split(delimiter)) {
-    status = readRecord(record, items);
-  }
+  SPString(output).split(delimiter,
+                         [&](std::string_view record) { status = readRecord(record, items); });
   return status;
 }
 

@@ -104,8 +104,8 @@ TEST_F(ExtractionTest, SplitAtAPattern) {
                                          {"a--b", "(unclosed", {"a--b"}}}) {
     SCOPED_TRACE(std::string(row.text) + " by " + row.pattern);
     std::vector<std::string> pieces;
-    for (const std::string_view piece : SPString(row.text).split(row.pattern))
-      pieces.emplace_back(piece);
+    SPString(row.text).split(row.pattern,
+                             [&](std::string_view piece) { pieces.emplace_back(piece); });
     EXPECT_EQ(pieces, row.pieces);
   }
 }
