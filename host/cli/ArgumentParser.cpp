@@ -4,6 +4,9 @@
 #include <algorithm>
 #include <string_view>
 
+#include "host/cli/printing/BytesAsText.h"
+#include "host/packs/NearestName.h"
+
 namespace veldra::host::cli {
 
 namespace {
@@ -94,6 +97,22 @@ void addOptions(CLI::App& app, unsigned sets, Options& options) {
   }
 }
 
+/// What is printed for wrong arguments. The parser itself does not name a command that it does not
+/// know.
+std::string failureText(const CLI::App* app, const CLI::Error& error) {
+  const std::vector<std::string> unknown = app->remaining();
+  const std::string word = unknown.empty() ? "" : unguarded(unknown.front());
+  if (word.empty() || word.starts_with('-') || !app->get_subcommands().empty()) {
+    return CLI::FailureMessage::simple(app, error);
+  }
+  std::vector<std::string> names;
+  for (const Command& command : commandTable()) names.emplace_back(command.name);
+  const std::string meant = nearestName(word, names);
+  std::string text = "There is no command \"" + linesForPeople(word) + "\".";
+  if (!meant.empty()) text += " Did you mean \"" + meant + "\"?";
+  return text + "\nRun with --help for more information.\n";
+}
+
 }  // namespace
 
 ParsedArguments parseArguments(const std::vector<std::string>& arguments, Console& console) {
@@ -102,6 +121,7 @@ ParsedArguments parseArguments(const std::vector<std::string>& arguments, Consol
   app.footer(Footer);
   app.set_version_flag("--version", "veldra-cm " VELDRA_VERSION);
   app.require_subcommand(1);
+  app.failure_message(failureText);
   addOptions(app, OptionSet::Everywhere, parsed.options);
   for (const Command& command : commandTable()) {
     CLI::App* const sub = app.add_subcommand(command.name, command.summary);

@@ -43,6 +43,27 @@ TEST_F(ArgumentParserTest, UnitsArriveAsTheyAre) {
   }
 }
 
+TEST_F(ArgumentParserTest, AnUnknownCommandIsNamedWithTheOneThatWasMeant) {
+  struct Row {
+    Words arguments;
+    const char* told;
+  };
+  const Row rows[] = {
+      {{"statsu"}, "no command \"statsu\". Did you mean \"status\"?"},
+      {{"-p", "x", "blurb"}, "no command \"blurb\".\n"},
+      {{"st\x1B[31matus"}, "no command \"st\\x1b[31matus\""},
+      {{"status", "--blurb"}, "not expected: --blurb"},
+      {{}, "subcommand is required"},
+  };
+  for (const Row& row : rows) {
+    m_err.str({});
+    const ParsedArguments parsed = parse(row.arguments);
+    EXPECT_EQ(parsed.command, nullptr);
+    EXPECT_EQ(parsed.end, ExitCode::WrongUsage);
+    EXPECT_NE(m_err.str().find(row.told), std::string::npos) << m_err.str();
+  }
+}
+
 TEST_F(ArgumentParserTest, CommentsArriveAsTheyAre) {
   struct Row {
     Words arguments;
