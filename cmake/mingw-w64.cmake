@@ -22,7 +22,8 @@ set(ENV{PKG_CONFIG_LIBDIR} ${VELDRA_WINDOWS_PREFIX}/lib/pkgconfig)
 # The compiler's own libraries go into each program and library: a machine that has never seen the
 # compiler can run them.
 foreach(kind EXE SHARED MODULE)
-  set(CMAKE_${kind}_LINKER_FLAGS_INIT -static)
+  set(CMAKE_${kind}_LINKER_FLAGS_INIT
+    "-static -wrapper \"${CMAKE_CURRENT_LIST_DIR}/../setup/mingw-lld\"")
 endforeach()
 
 set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../setup/wine)

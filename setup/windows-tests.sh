@@ -12,7 +12,6 @@ case "${1:-}" in
 esac
 
 . "$top/setup/common.sh"
-jobs=$(nproc 2>/dev/null || echo 2)
 windows="$build/windows"
 libraries="$build/windows-libraries"
 
@@ -29,7 +28,7 @@ echo "All packages and libraries are there."
 say "Build for Windows"
 # shellcheck disable=SC2086  # a list of options on purpose
 configure "$windows" -DCMAKE_TOOLCHAIN_FILE="$top/cmake/mingw-w64.cmake" \
-  -DVELDRA_WINDOWS_PREFIX="$libraries" -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0 \
+  -DVELDRA_WINDOWS_PREFIX="$libraries" -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O1 \
   -DVELDRA_BUILD_TESTS=ON -DVELDRA_BUILD_SUBVERSION_PROVIDER=OFF -DVELDRA_PRECOMPILE_HEADERS=ON \
   $qt_options
 cmake --build "$windows"
@@ -47,30 +46,65 @@ mkdir -p "$WINEPREFIX"
 trap '/usr/lib/wine/wineserver -k || true' EXIT
 "$top/setup/wine" cmd /c exit </dev/null >/dev/null 2>&1
 
-# run_tests NAME: the program's tests in as many parts as there are processors; says how many ran.
-run_tests() {
-  logs="$windows/logs/$1"
-  rm -rf "$logs"
-  mkdir -p "$logs"
-  part=0
-  running=""
-  while [ "$part" -lt "$jobs" ]; do
-    GTEST_TOTAL_SHARDS=$jobs GTEST_SHARD_INDEX=$part GTEST_COLOR=no \
-      timeout 300 "$top/setup/wine" "$windows/bin/$1.exe" </dev/null >"$logs/$part" 2>&1 &
-    running="$running $!"
-    part=$((part + 1))
-  done
-  failed=no
-  for process in $running; do wait "$process" || failed=yes; done
-  # A skipped test says why on the line before its mark.
-  grep -h -B2 '^\[  SKIPPED \] .*ms)' "$logs"/* | sed 's/\r$//' | grep -v '^\[ RUN\|^--' || true
-  if [ "$failed" = yes ]; then
-    grep -h -B12 '^\[  FAILED  \] .*ms)' "$logs"/* >&2 || tail -n 5 "$logs"/* >&2
-    echo "Tests failed under Wine; all output is in $logs." >&2
+# names_of PROGRAM ROOM: "Suite.test" of each test, without those of a room of the platform's; with the
+# third word "only", those alone.
+names_of() {
+  rm -f "$logs/list.xml"
+  (cd "$logs" && $1 --gtest_list_tests --gtest_output=xml:list.xml >/dev/null)
+  awk -v room="/platform/$2/" -v only="${3:-}" '
+    match($0, /<testsuite name="[^"]*/) { suite = substr($0, RSTART + 17, RLENGTH - 17) }
+    match($0, /<testcase name="[^"]*/) {
+      name = substr($0, RSTART + 16, RLENGTH - 16)
+      if ((index($0, room) > 0) == (only == "only")) print suite "." name
+    }' "$logs/list.xml" | LC_ALL=C sort
+}
+
+# by_suite: how many of the tests that come in are in each suite, on one line.
+by_suite() {
+  sed 's/\..*//' | uniq -c | awk '{ printf "%s%s %s", NR > 1 ? ", " : "", $1, $2 } END { print "" }'
+}
+
+# compare_with_linux NAME: every test that this system has, Windows has too, but for the room's own.
+compare_with_linux() {
+  if [ ! -x "$build/bin/$1" ]; then
+    echo "The same program for this system is not built, so its tests are not compared: ./test does."
+    return
+  fi
+  names_of "$build/bin/$1" posix >"$logs/linux"
+  names_of "$windows_program" win32 >"$logs/windows"
+  echo "$(wc -l <"$logs/linux") tests are common to Linux and Windows." \
+    "On Linux alone run, about what Windows does not have: $(names_of "$build/bin/$1" posix only | by_suite)."
+  if ! diff "$logs/linux" "$logs/windows" >"$logs/difference"; then
+    echo "The tests of $1 differ between Linux (<) and Windows (>):" >&2
+    cat "$logs/difference" >&2
     exit 1
   fi
-  sed -n 's/^\[==========\] \([0-9]*\) tests\{0,1\} from .* ran\..*/\1/p' "$logs"/* |
-    awk -v name="$1" '{ all += $1 } END { print all " tests of " name " ran under Wine." }'
+}
+
+# run_tests NAME: runs the program's tests; says how many ran, and why each skipped one was.
+run_tests() {
+  logs="$windows/logs/$1"
+  windows_program="$top/setup/wine $windows/bin/$1.exe"
+  rm -rf "$logs"
+  mkdir -p "$logs"
+  failed=no
+  GTEST_COLOR=no timeout 300 $windows_program </dev/null >"$logs/output" 2>&1 || failed=yes
+  # A skipped test says why on the line before its mark.
+  grep -B2 '^\[  SKIPPED \] .*ms)' "$logs/output" | sed 's/\r$//' | grep -v '^\[ RUN\|^--' || true
+  if [ "$failed" = yes ]; then
+    grep -B12 '^\[  FAILED  \] .*ms)' "$logs/output" >&2 || tail -n 5 "$logs/output" >&2
+    echo "Tests failed under Wine; all output is in $logs/output." >&2
+    exit 1
+  fi
+  ran=$(sed -n 's/^\[==========\] \([0-9]*\) tests\{0,1\} from .* ran\..*/\1/p' "$logs/output")
+  skipped=$(grep -c '^\[  SKIPPED \] .*ms)' "$logs/output") || true
+  listed=$($windows_program --gtest_list_tests </dev/null | grep -c '^  ')
+  if [ "$ran" != "$listed" ]; then
+    echo "$1 has $listed tests, of which $ran ran." >&2
+    exit 1
+  fi
+  compare_with_linux "$1"
+  echo "$ran tests of $1 ran under Wine, $skipped of them skipped with the reasons above."
 }
 
 run_tests veldra_unit_tests

@@ -59,6 +59,7 @@ struct ModuleState {
   std::string sccToolName;
   bool providerLoaded = false;
   std::unique_ptr<BackEndMemory> provider;  ///< Made by the provider back end at its first use.
+  std::uint32_t providerBreakdowns = 0;     ///< Calls that ended in a crash or an exception.
   int showCMStatus = 0;
   bool saveOnCheckoutDue = true;  ///< See `CMProperty::saveOnCheckout`.
 

@@ -47,7 +47,9 @@ UnitReport::UnitReport(const char* operation, std::size_t position, std::size_t 
 }
 
 UnitReport::~UnitReport() {
-  if (std::uncaught_exceptions() > m_exceptions) m_end = UnitEnd::ToolFailed;
+  // An exception out of a library with a language runtime of its own upsets the count in ours.
+  const bool isBrokenDown = moduleState().providerBreakdowns != m_breakdowns;
+  if (isBrokenDown || std::uncaught_exceptions() > m_exceptions) m_end = UnitEnd::ToolFailed;
   if (progress() != nullptr) progress()->unitEnded(m_step, m_end, m_words);
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <exception>
 #include <string>
 
 #include "cm/core/CMArgument.h"
+#include "cm/core/ModuleState.h"
 #include "cm/host/IProgress.h"
 #include "cm/host/IUnit.h"
 
@@ -51,7 +53,7 @@ class ReloadBracket {
 };
 
 /// Reports one unit's or item's way through an operation to the host. One that is left by an
-/// exception has failed.
+/// exception has failed, and so has one during which a provider broke down.
 class UnitReport {
  public:
   UnitReport(const char* operation, std::size_t position, std::size_t count, std::string unit);
@@ -68,6 +70,7 @@ class UnitReport {
  private:
   ProgressStep m_step;
   int m_exceptions = std::uncaught_exceptions();
+  std::uint32_t m_breakdowns = moduleState().providerBreakdowns;
   UnitEnd m_end = UnitEnd::Done;
   std::string m_words;
 };

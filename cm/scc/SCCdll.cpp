@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include "cm/core/ModuleState.h"
 #include "cm/host/Host.h"
 #include "cm/host/MessageIds.h"
 #include "cm/scc/CallbackThread.h"
@@ -58,6 +59,7 @@ void SCCdll::guarded(const char* name, const std::function<void()>& body) {
 }
 
 void SCCdll::breakDown(const char* name, const char* what) {
+  ++moduleState().providerBreakdowns;
   m_breakdown = formatMessage(MessageId::ProviderFailed, {name, what});
   VELDRA_TRACE(m_breakdown);
   abandon();

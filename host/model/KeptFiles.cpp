@@ -35,9 +35,15 @@ bool isSame(const std::string& a, const std::string& b) {
   return left && right && *left == *right;
 }
 
+void remove(const std::string& file) {
+  std::error_code failed;
+  removeEntry(file, failed);
+  if (failed) throw fs::filesystem_error("cannot be removed", file, failed);
+}
+
 void copyOver(const std::string& from, const std::string& to) {
   fs::create_directories(fs::path(to).parent_path());
-  fs::remove(to);
+  remove(to);
   fs::copy_file(from, to);
   fs::permissions(to, fs::status(from).permissions());
 }
@@ -95,7 +101,7 @@ std::optional<std::string> KeptFiles::restore(const std::string& other) {
       file = name.empty() ? m_path : joinPath(m_path, name);
       copy = kept;
       if (!isSame(file, kept)) copyOver(kept, file);
-      if (!other.empty()) fs::remove(name.empty() ? other : joinPath(other, name));
+      if (!other.empty()) remove(name.empty() ? other : joinPath(other, name));
     }
     if (!other.empty()) removeEmptyFolders(other);
   } catch (const fs::filesystem_error& failure) {
@@ -121,7 +127,7 @@ void KeptFiles::moveOriginals(const std::string& path) const {
 void KeptFiles::removeOriginals() const {
   std::error_code failed;
   for (const auto& [name, kept] : m_copies) {
-    fs::remove(name.empty() ? m_path : joinPath(m_path, name), failed);
+    removeEntry(name.empty() ? m_path : joinPath(m_path, name), failed);
   }
   removeEmptyFolders(m_path);
 }

@@ -9,6 +9,7 @@
 #include "host/model/ModelText.h"
 #include "host/model/PathNames.h"
 #include "host/platform/AtomicFile.h"
+#include "host/platform/RemoveTree.h"
 
 namespace veldra::host {
 namespace fs = std::filesystem;
@@ -53,7 +54,7 @@ void ModelFileHandler::complete() {
   if (!m_prepared) return;
   m_prepared = false;
   std::error_code failed;
-  fs::remove(m_copy, failed);
+  removeEntry(m_copy, failed);
 }
 
 void ModelFileHandler::restore() noexcept {
@@ -66,7 +67,7 @@ void ModelFileHandler::restore() noexcept {
     if (!same && writeFileAtomically(m_file, *kept, ReadOnlyFile::Replace)) return;
     std::error_code failed;
     fs::permissions(m_file, fs::status(m_copy, failed).permissions(), failed);
-    fs::remove(m_copy, failed);
+    removeEntry(m_copy, failed);
   } catch (...) {
     // Runs in a destructor; the copy is still there and is reported when the project is opened.
   }
@@ -97,7 +98,7 @@ std::optional<Problem> leftBehindCopy(const std::string& projectFile) {
   if (before && now && *before == *now) {
     // Nothing had happened to the file yet.
     std::error_code failed;
-    fs::remove(copy, failed);
+    removeEntry(copy, failed);
     return std::nullopt;
   }
   return Problem{

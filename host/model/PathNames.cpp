@@ -85,6 +85,16 @@ std::optional<std::string> plainRelative(std::string_view name) {
   return plain;
 }
 
+std::string storedName(std::string relative) {
+  std::ranges::replace(relative, HostSeparator, '/');
+  return relative;
+}
+
+std::string nameFromStored(std::string stored) {
+  std::ranges::replace(stored, '/', HostSeparator);
+  return stored;
+}
+
 std::string realPath(const std::string& path) {
   std::error_code failed;
   const fs::path real = fs::canonical(path, failed);

@@ -39,6 +39,11 @@ bool isInside(std::string_view directory, std::string_view path);
 /// separator may be given. Nothing for an absolute name or one that leads out of its root.
 std::optional<std::string> plainRelative(std::string_view name);
 
+/// A relative name as model files keep it, with slashes on every system, so that a project made on
+/// one opens on the others; and back.
+std::string storedName(std::string relative);
+std::string nameFromStored(std::string stored);
+
 /// The absolute form of a directory with all links resolved; empty when it does not exist.
 std::string realPath(const std::string& path);
 

@@ -55,10 +55,11 @@ bool changeStubs(Json& body, const std::string& from, const std::string& to) {
   for (Json& stub : *stubs) {
     const Json* file = stub.is_object() ? member(stub, "file") : nullptr;
     const std::optional<std::string> name = file ? scalarText(*file) : std::nullopt;
-    const std::optional<std::string> other = name ? changedName(*name, from, to) : std::nullopt;
+    const std::optional<std::string> other =
+        name ? changedName(nameFromStored(*name), from, to) : std::nullopt;
     changes = changes || other;
     if (other && other->empty()) continue;
-    if (other) stub["file"] = jsonOfBytes(*other);
+    if (other) stub["file"] = jsonOfBytes(storedName(*other));
     kept.push_back(std::move(stub));
   }
   *stubs = std::move(kept);

@@ -1,6 +1,9 @@
 #include "host/model/ProjectFile.h"
 
+#include <algorithm>
 #include <utility>
+
+#include "host/model/PathNames.h"
 
 namespace veldra::host {
 namespace {
@@ -32,7 +35,7 @@ void readStubs(ProjectFile& file, Problems& problems) {
     const std::string name = textMember(object, "file");
     const Json* load = member(object, "load");
     if (name.empty() || (load && !load->is_boolean())) return false;
-    if (!load || !load->get<bool>()) file.stubs.push_back(name);
+    if (!load || !load->get<bool>()) file.stubs.push_back(nameFromStored(name));
     return true;
   });
 }
@@ -54,8 +57,8 @@ UnitArchives archivesOf(const Json& body, Problems& problems) {
   eachObject(body, "archives", problems, [&archives](const Json& object) {
     const std::string name = textMember(object, "file");
     if (name.empty()) return false;
-    archives[name] = {textMember(object, "archive"), textMember(object, "projName"),
-                      textMember(object, "auxProjPath")};
+    archives[nameFromStored(name)] = {textMember(object, "archive"), textMember(object, "projName"),
+                                      textMember(object, "auxProjPath")};
     return true;
   });
   return archives;
@@ -64,7 +67,7 @@ UnitArchives archivesOf(const Json& body, Problems& problems) {
 Json archivesJson(const UnitArchives& archives) {
   Json list = Json::array();
   for (const auto& [name, archive] : archives) {
-    Json entry = {{"file", jsonOfBytes(name)}};
+    Json entry = {{"file", jsonOfBytes(storedName(name))}};
     if (!archive.archive.empty()) entry["archive"] = jsonOfBytes(archive.archive);
     if (!archive.projName.empty()) entry["projName"] = jsonOfBytes(archive.projName);
     if (!archive.auxProjPath.empty()) entry["auxProjPath"] = jsonOfBytes(archive.auxProjPath);
@@ -73,9 +76,15 @@ Json archivesJson(const UnitArchives& archives) {
   return list;
 }
 
-Json listJson(const std::vector<std::string>& texts) {
+std::vector<std::string> controlledOf(const Json& body, Problems& problems) {
+  std::vector<std::string> names = textList(body, "controlled", problems);
+  std::ranges::transform(names, names.begin(), nameFromStored);
+  return names;
+}
+
+Json controlledJson(const std::vector<std::string>& names) {
   Json list = Json::array();
-  for (const std::string& text : texts) list.push_back(jsonOfBytes(text));
+  for (const std::string& name : names) list.push_back(jsonOfBytes(storedName(name)));
   return list;
 }
 
@@ -134,7 +143,7 @@ std::optional<ProjectFile> parseProjectFile(std::string_view bytes, Problem& fat
   file.text = std::move(*text);
   const Json& body = file.text.body;
   file.name = textMember(body, "name");
-  file.controlled = textList(body, "controlled", problems);
+  file.controlled = controlledOf(body, problems);
   file.references = textList(body, "references", problems);
   readStubs(file, problems);
   readFileTypes(file, problems);
@@ -148,8 +157,8 @@ std::optional<ProjectFile> parseProjectFile(std::string_view bytes, Problem& fat
 void updateProjectText(ProjectFile& file, const std::vector<PropertyEntry>& properties) {
   Json& body = file.text.body;
   Problems known;
-  if (textList(body, "controlled", known) != file.controlled) {
-    putUnlessEmpty(body, "controlled", listJson(file.controlled));
+  if (controlledOf(body, known) != file.controlled) {
+    putUnlessEmpty(body, "controlled", controlledJson(file.controlled));
   }
   if (archivesOf(body, known) != file.archives) {
     putUnlessEmpty(body, "archives", archivesJson(file.archives));

@@ -7,6 +7,7 @@
 
 #include "host/model/FolderScan.h"
 #include "host/model/PathNames.h"
+#include "host/platform/RemoveTree.h"
 
 namespace veldra::host {
 namespace fs = std::filesystem;
@@ -206,7 +207,7 @@ std::optional<std::string> Rearrangement::takeBack() {
   if (!m_newFile.empty()) {
     other = m_wholeFolder ? std::string(parentPath(m_newFile)) : m_newFile;
     std::error_code failed;
-    fs::remove(m_newFile, failed);
+    removeEntry(m_newFile, failed);
   }
   std::optional<std::string> failure = m_kept->restore(other);
   if (!m_newName.empty()) m_unit->forgetContent(m_oldName);

@@ -2,8 +2,10 @@
 
 #include <cctype>
 #include <cstdlib>
+#include <filesystem>
 
 #include "host/platform/Clock.h"
+#include "host/platform/Program.h"
 #include "host/platform/SystemError.h"
 
 namespace veldra::host {
@@ -20,6 +22,13 @@ std::string variableName(const std::string& setting) {
 }
 
 }  // namespace
+
+std::string findInstallationRoot() {
+  if (const char* root = std::getenv("VELDRA_ROOT"); root != nullptr && *root != '\0') return root;
+  const std::filesystem::path folder = programFolder();
+  if (folder.empty()) return {};
+  return (folder.parent_path() / "share" / "veldra-cm").string();
+}
 
 std::string unusableDirectory(const std::string& path, int error) {
   const std::string name = path.empty() ? "The current directory" : "The directory '" + path + "'";

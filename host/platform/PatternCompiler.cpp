@@ -59,7 +59,8 @@ bool PatternCompiler::parseOptions(std::string_view letters, std::uint32_t& bits
     const std::uint32_t bit = bitOf(letter);
     bits |= bit;
     if (bit != 0) continue;
-    error = std::string("there is no pattern option \"") + letter + "\"";
+    error = "there is no pattern option \"";
+    error.append(1, letter).append("\"");
     return false;
   }
   return true;

@@ -1,6 +1,5 @@
 #include "host/platform/RemoveTree.h"
 
-#include <system_error>
 #include <vector>
 
 namespace veldra::host {
@@ -18,24 +17,25 @@ std::vector<fs::path> entriesOf(const fs::path& folder) {
   return entries;
 }
 
-bool removeOne(const fs::path& path) {
-  std::error_code failed;
-  if (fs::remove(path, failed)) return true;
-  // Windows removes no file that is read-only.
-  fs::permissions(path, fs::perms::owner_write, fs::perm_options::add | fs::perm_options::nofollow,
-                  failed);
-  return fs::remove(path, failed);
-}
-
 bool removeWithContent(const fs::path& path) {
   std::error_code failed;
   if (fs::symlink_status(path, failed).type() == fs::file_type::directory) {
     for (const fs::path& entry : entriesOf(path)) removeWithContent(entry);
   }
-  return removeOne(path);
+  return removeEntry(path, failed);
 }
 
 }  // namespace
+
+bool removeEntry(const fs::path& path, std::error_code& failed) {
+  const bool isRemoved = fs::remove(path, failed);
+  if (!failed) return isRemoved;
+  // Windows removes no file that is read-only.
+  std::error_code ignored;
+  fs::permissions(path, fs::perms::owner_write, fs::perm_options::add | fs::perm_options::nofollow,
+                  ignored);
+  return fs::remove(path, failed);
+}
 
 bool removeTree(const fs::path& path) noexcept {
   try {

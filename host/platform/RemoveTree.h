@@ -1,8 +1,13 @@
 #pragma once
 
 #include <filesystem>
+#include <system_error>
 
 namespace veldra::host {
+
+/// Removes a file, one that is read-only too, or an empty folder. True when there was one.
+/// `failed` says why it is still there.
+bool removeEntry(const std::filesystem::path& path, std::error_code& failed);
 
 /// Removes a file, or a folder with everything in it, read-only files too. Links are removed, not
 /// followed. True when there was something and nothing of it is left.

@@ -144,7 +144,7 @@ DoctorChecks checkProject(Session& session) {
   } else {
     checks.back().finding += ", " + std::to_string(content.files.size()) + " files";
   }
-  if (isLocalPlace(archive) && archive.starts_with('/') && !canWriteInto(archive)) {
+  if (isLocalPlace(archive) && fs::path(archive).is_absolute() && !canWriteInto(archive)) {
     checks.push_back({.name = "rights",
                       .isFine = false,
                       .finding = "You may not write to " + archive + ".",

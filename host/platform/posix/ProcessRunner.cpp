@@ -1,4 +1,4 @@
-#include "host/platform/posix/ProcessRunner.h"
+#include "host/platform/ProcessRunner.h"
 
 #include <errno.h>
 #include <fcntl.h>
@@ -9,6 +9,8 @@
 #include <array>
 
 #include "host/platform/SystemError.h"
+#include "host/platform/posix/OutputFile.h"
+#include "host/platform/posix/PolledWait.h"
 
 namespace veldra::host {
 
@@ -34,9 +36,9 @@ bool workingDirectoryIsGone() {
 
 }  // namespace
 
-ProcessRunner::ProcessRunner(std::string command, const ChildSettings& settings,
-                             const CancelSignal& cancel, Output output, const OutputFile* file)
-    : CommandRun(std::move(command), settings), m_cancel(cancel), m_output(output), m_file(file) {}
+bool ProcessRunner::isCancelled() const {
+  return m_cancel.isRaised();
+}
 
 Result<CommandRun::Ending> ProcessRunner::runChild(Start& start, std::uint32_t timeout) {
   OutputPipe output(this->output(), settings().watch);
@@ -58,7 +60,7 @@ std::string ProcessRunner::startChild(Start& start, ChildProcess& child, OutputP
   FileDescriptor nowhere;
   int childOutput = -1;
   if (m_output == Output::Kept) childOutput = output.open();
-  if (m_output == Output::File) childOutput = m_file->descriptor();
+  if (m_output == Output::File) childOutput = static_cast<const OutputFile*>(m_file)->descriptor();
   if (m_output == Output::Nowhere) {
     nowhere = aboveStandard(FileDescriptor(::open("/dev/null", O_WRONLY | O_CLOEXEC)));
     childOutput = nowhere.get();

@@ -9,9 +9,11 @@
 #include <filesystem>
 #include <random>
 
+#include "host/platform/FileHead.h"
 #include "host/platform/FileNames.h"
 #include "host/platform/Program.h"
 #include "host/platform/SystemError.h"
+#include "host/platform/win32/FileOwner.h"
 #include "host/platform/win32/OpenFile.h"
 #include "host/platform/win32/WideText.h"
 
@@ -96,6 +98,11 @@ bool Environment::omFileExist(const std::string& path) {
   return attributesOf(path) != INVALID_FILE_ATTRIBUTES;
 }
 
+bool Environment::omFileExistsAndNonEmpty(const std::string& path) {
+  const FileFacts facts = readFileFacts(path);
+  return facts.state == FileFacts::State::Readable && facts.size > 0;
+}
+
 bool Environment::omFileHasWritePermission(const std::string& path) {
   const DWORD attributes = attributesOf(path);
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) == 0;
@@ -116,6 +123,21 @@ std::string Environment::omGetFullPathOfDirectory(const std::string& path, std::
   return {};
 }
 
+bool Environment::createDirectory(const std::string& path) {
+  const std::wstring name = nativePath(path);
+  PrivateAccess access;
+  if (name.empty() || windowsNameProblem(path)) {
+    m_lastError = ERROR_INVALID_NAME;
+    return false;
+  }
+  if (CreateDirectoryW(name.c_str(), access.attributes())) return true;
+  m_lastError = lastError();
+  if (m_lastError != ERROR_ALREADY_EXISTS) return false;
+  // The name can be guessed; what somebody else has put there is not used, nor a link of his.
+  bool exists = false;
+  return belongsToUser(path) && isDirectory(path, exists);
+}
+
 bool Environment::setCurrentDirectory(const std::string& path) {
   if (SetCurrentDirectoryW(nativePath(path).c_str())) return true;
   m_lastError = lastError();
@@ -126,10 +148,11 @@ std::string Environment::createTempFile(const std::string& content) {
   const std::string start = omGetTempDir() + "\\veldra-cm-" + std::to_string(processNumber()) + "-";
   std::string name;
   SystemHandle file;
+  PrivateAccess access;
   do {
     name = start + randomEnding();
-    file.reset(CreateFileW(nativePath(name).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                           FILE_ATTRIBUTE_TEMPORARY, nullptr));
+    file.reset(CreateFileW(nativePath(name).c_str(), GENERIC_WRITE, 0, access.attributes(),
+                           CREATE_NEW, FILE_ATTRIBUTE_TEMPORARY, nullptr));
     m_lastError = file ? 0 : lastError();
   } while (m_lastError == ERROR_FILE_EXISTS);
   if (m_lastError == 0) m_lastError = static_cast<int>(writeFully(file.get(), content));

@@ -143,13 +143,20 @@ veldraRestore:
 
 namespace {
 
+/// True when there is no memory at the address, as after a library has been unloaded.
+bool isNowhere(const void* code) {
+  MEMORY_BASIC_INFORMATION place{};
+  return VirtualQuery(code, &place, sizeof place) == 0 || place.State != MEM_COMMIT;
+}
+
 /// What is left of a stack that is used up may not suffice for the search for handlers and the way
-/// back through the frames, so this one exception is taken before the search begins.
-LONG CALLBACK onStackOverflow(EXCEPTION_POINTERS* exception) {
-  if (exception->ExceptionRecord->ExceptionCode != EXCEPTION_STACK_OVERFLOW ||
-      !takesException(*exception->ExceptionRecord)) {
-    return EXCEPTION_CONTINUE_SEARCH;
-  }
+/// back through the frames, and code that is gone has taken along how its frames are left. Such
+/// exceptions are taken before the search begins.
+LONG CALLBACK onHopelessFault(EXCEPTION_POINTERS* exception) {
+  const EXCEPTION_RECORD& record = *exception->ExceptionRecord;
+  const bool isHopeless =
+      record.ExceptionCode == EXCEPTION_STACK_OVERFLOW || isNowhere(record.ExceptionAddress);
+  if (!isHopeless || !takesException(record)) return EXCEPTION_CONTINUE_SEARCH;
   exception->ContextRecord->Rip = reinterpret_cast<DWORD64>(veldraAfterFault);
   exception->ContextRecord->Rsp = reinterpret_cast<DWORD64>(t_call->frame);
   return EXCEPTION_CONTINUE_EXECUTION;
@@ -158,7 +165,7 @@ LONG CALLBACK onStackOverflow(EXCEPTION_POINTERS* exception) {
 /// Makes a call the thread's innermost one until it comes back or throws.
 class Innermost {
  public:
-  explicit Innermost(Call& call) : m_handler(AddVectoredExceptionHandler(1, onStackOverflow)) {
+  explicit Innermost(Call& call) : m_handler(AddVectoredExceptionHandler(1, onHopelessFault)) {
     call.outer = t_call;
     t_call = &call;
   }

@@ -1,11 +1,13 @@
-#include "host/platform/win32/ProcessRunner.h"
+#include "host/platform/ProcessRunner.h"
 
 #include <array>
 #include <cstdio>
 #include <span>
 
 #include "host/platform/SystemError.h"
+#include "host/platform/win32/EventWait.h"
 #include "host/platform/win32/OpenFile.h"
+#include "host/platform/win32/OutputFile.h"
 
 namespace veldra::host {
 
@@ -46,9 +48,9 @@ const char* textOf(std::span<const KnownNumber> known, DWORD number) {
 
 }  // namespace
 
-ProcessRunner::ProcessRunner(std::string command, const ChildSettings& settings,
-                             const CancelSignal& cancel, Output output, const OutputFile* file)
-    : CommandRun(std::move(command), settings), m_cancel(cancel), m_output(output), m_file(file) {}
+bool ProcessRunner::isCancelled() const {
+  return m_cancel.isRaised();
+}
 
 Result<CommandRun::Ending> ProcessRunner::runChild(Start& start, std::uint32_t timeout) {
   OutputPipe output(this->output(), settings().watch);
@@ -61,12 +63,12 @@ Result<CommandRun::Ending> ProcessRunner::runChild(Start& start, std::uint32_t t
   return Ending{stop, child.finish(wait.wasForced()), errors.endsInsideLine()};
 }
 
-std::string ProcessRunner::startChild(const Start& start, ChildProcess& child, OutputPipe& output,
+std::string ProcessRunner::startChild(Start& start, ChildProcess& child, OutputPipe& output,
                                       OutputPipe& errors) {
   SystemHandle nowhere;
   HANDLE childOutput = nullptr;
   if (m_output == Output::Kept) childOutput = output.open();
-  if (m_output == Output::File) childOutput = m_file->handle();
+  if (m_output == Output::File) childOutput = static_cast<const OutputFile*>(m_file)->handle();
   if (m_output == Output::Nowhere) {
     nowhere.reset(CreateFileW(L"NUL", GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
                               OPEN_EXISTING, 0, nullptr));

@@ -4,6 +4,8 @@
 #include <stdlib.h>
 #include <windows.h>
 
+#include <filesystem>
+
 #include "host/platform/win32/SystemHandle.h"
 #include "host/platform/win32/WideText.h"
 
@@ -32,10 +34,10 @@ void setVariable(const char* name, const char* value) {
 }
 
 std::string programFolder() {
-  char path[MAX_PATH] = {};
-  const DWORD length = GetModuleFileNameA(nullptr, path, MAX_PATH);
-  const std::string name(path, length < MAX_PATH ? length : 0);
-  return name.substr(0, name.find_last_of('\\') == std::string::npos ? 0 : name.find_last_of('\\'));
+  // No path is longer, and one that is cut would name another folder.
+  std::wstring program(32768, L'\0');
+  program.resize(GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size())));
+  return fromWide(std::filesystem::path(program).parent_path().native());
 }
 
 void addOwnFolderToPath() {
@@ -51,11 +53,6 @@ bool canWriteInto(const std::string& folder) {
       SystemHandle(CreateFileW(nativePath(folder).c_str(), FILE_ADD_FILE,
                                FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                                OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr)));
-}
-
-bool belongsToUser(const std::string& path) {
-  // The folder for temporary files lies in the user's own profile.
-  return canWriteInto(path);
 }
 
 long processNumber() {

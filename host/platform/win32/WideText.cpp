@@ -3,6 +3,8 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <array>
+#include <cwchar>
 
 namespace veldra::host {
 
@@ -57,3 +59,39 @@ std::wstring nativePath(std::string_view path) {
 }
 
 }  // namespace veldra::host
+
+#if defined(__MINGW32__)
+
+// With this function GCC's library turns the narrow name of a std::filesystem::path into a wide
+// one. The C runtime's own takes every byte for a character, whatever the program's code page says;
+// the way back is UTF-8 as it is. What is no UTF-8 becomes the replacement character, which names
+// nothing, because a path that throws would be worse.
+extern "C" std::size_t mbrtowc(wchar_t* to, const char* from, std::size_t size,
+                               std::mbstate_t* state) {
+  if (from == nullptr) return 0;
+  if (size == 0) return static_cast<std::size_t>(-2);
+  if (state != nullptr && *state != 0) {
+    // The second half of a pair, for which the last byte was left.
+    if (to != nullptr) *to = static_cast<wchar_t>(*state);
+    *state = 0;
+    return 1;
+  }
+  const auto first = static_cast<unsigned char>(*from);
+  std::size_t bytes = first < 0x80 ? 1 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
+  std::array<wchar_t, 2> wide{};
+  const int count = bytes > size ? 0
+                                 : MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, from,
+                                                       static_cast<int>(bytes), wide.data(), 2);
+  if (count == 0) {
+    bytes = 1;
+    wide[0] = L'\xFFFD';
+  }
+  if (count == 2 && state != nullptr) {
+    --bytes;
+    *state = wide[1];
+  }
+  if (to != nullptr) *to = wide[0];
+  return wide[0] == L'\0' ? 0 : bytes;
+}
+
+#endif

@@ -43,7 +43,20 @@ class MainJobTest : public ProcessesTest {
            fromArchive +
            "forbid-writing \"$UnitPath\"'\n"
            "Lock = '" +
-           tool + "err refused exit 3'\n";
+           tool +
+           "err refused exit 3'\n"
+           "Archive = ''\nConnectToCMRepository = '" +
+           tool + "touch \"" + m_folder.file("connected") +
+           "\"'\n"
+           "History = '" +
+           tool +
+           "out \"$Unit was drawn\"'\n"
+           "ListArchive = '" +
+           tool +
+           "out Pump.mo|7|ro|'\n"
+           "MultiRecordDelimiter = '\\n(?=.)'\n"
+           "ListArchiveItsWorkingFile = '^([^|]*)\\|'\n"
+           "ListArchiveItsVersion = '^[^|]*\\|([^|]*)'\n";
   }
 
   Outcome cm(std::vector<std::string> arguments) {
@@ -69,6 +82,8 @@ class MainJobTest : public ProcessesTest {
 TEST_F(MainJobTest, aUnitGoesToTheArchiveAndBack) {
   const std::string unit = "model/Pump.mo";
   done({"init", m_folder.file("model"), "--name", "Plant"});
+  done({"connect", "--archive", m_folder.file("archive")});
+  EXPECT_TRUE(std::filesystem::exists(m_folder.file("connected")));
   done({"add", "Pump.mo", "-m", "As drawn"});
   EXPECT_EQ(m_folder.read("archive/Pump.mo"), m_folder.read(unit));
   EXPECT_FALSE(isWritable(unit));
@@ -79,6 +94,8 @@ TEST_F(MainJobTest, aUnitGoesToTheArchiveAndBack) {
   EXPECT_EQ(m_folder.read("archive/Pump.mo"), "model Pump\r\nend Pump;\r\n");
   EXPECT_EQ(m_folder.read("comment"), "Finer: 100% \xC3\xA4 \"quoted\" > all");
   EXPECT_FALSE(isWritable(unit));
+  EXPECT_THAT(cm({"history", "Pump.mo"}).output, HasSubstr("Pump.mo was drawn"));
+  EXPECT_THAT(cm({"ls"}).output, testing::AllOf(HasSubstr("Pump.mo"), HasSubstr("7")));
   const Outcome failed = cm({"lock", "Pump.mo"});
   EXPECT_EQ(failed.code, 3);
   EXPECT_THAT(failed.errors, HasSubstr("refused"));

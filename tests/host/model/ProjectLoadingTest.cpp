@@ -3,7 +3,7 @@
 #include "host/model/FolderScan.h"
 #include "host/model/NewProject.h"
 #include "tests/host/model/TempModel.h"
-#include "tests/host/platform/Links.h"
+#include "tests/host/platform/FileSystem.h"
 
 namespace veldra::host {
 namespace {
@@ -222,7 +222,7 @@ TEST(ProjectLoading, knowsStubsAndUnitsOfOtherProjects) {
   model.putProject(
       "\"stubs\": [{\"file\": \"There.vcmp\", \"load\": false}, {\"file\": \"P/Gone.vpkg\"}, "
       "{\"file\": \"Loaded.vcmp\", \"load\": true}], \"references\": [\"" +
-      other.path() + "\", \"nowhere\"]");
+      std::filesystem::path(other.path()).generic_string() + "\", \"nowhere\"]");
   model.putUnit("There.vcmp");
   model.putUnit("Loaded.vcmp");
   const auto project = model.load();
@@ -244,7 +244,8 @@ TEST(ProjectLoading, findsUnitsByAnyNameOfTheirFile) {
   model.putProject();
   model.putUnit("A/A.vpkg");
   model.putUnit("A/b\\c.vcmp");
-  const std::string odd = "A/ -x 'q' \"$HOME\" > \xff\n.vcmp";
+  const std::string odd =
+      AnyByteInNames ? "A/ -x 'q' \"$HOME\" > \xff\n.vcmp" : "A/ -x 'q' $HOME & \xC3\xA4.vcmp";
   model.put(odd, TempModel::unitText("Component", "Odd"));
   const auto project = model.load();
   EXPECT_EQ(allProblems(*project), "");

@@ -102,7 +102,7 @@ TEST_F(Saving, archivesOfUnitsAreInheritedAndKept) {
   EXPECT_FALSE(project->isModified());
   project->setSccArchive("Main", "aux");
   project->unitByFile("A/A.vpkg")->unit().setSccArchive("Own", "\xff");
-  project->setBatchArchive("A/A.vpkg", "/archive");
+  project->setBatchArchive(project->unitByFile("A/A.vpkg")->relativeFileName(), "/archive");
   EXPECT_TRUE(project->saveModified().empty());
   project.reset();
   project = model.load();

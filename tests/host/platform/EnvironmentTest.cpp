@@ -102,6 +102,24 @@ TEST(Environment, aFileIsMovedOnlyToAFreeName) {
   EXPECT_FALSE(environment.moveFile(from, directory.file("again")));
 }
 
+TEST(Environment, aDirectoryOfOnesOwnMayBeThereAlready) {
+  const TempDirectory directory;
+  Environment environment("");
+  const std::string folder = directory.file("new");
+  EXPECT_TRUE(environment.createDirectory(folder));
+  EXPECT_TRUE(environment.createDirectory(folder));
+  EXPECT_TRUE(belongsToUser(folder));
+  directory.write("new/inside", "x");
+  EXPECT_TRUE(environment.omFileExistsAndNonEmpty(directory.file("new/inside")));
+  EXPECT_FALSE(environment.omFileExistsAndNonEmpty(folder));
+  for (const std::string& wrong :
+       {directory.write("f", ""), directory.file("absent/deep"), folder + std::string("\0x", 2)}) {
+    EXPECT_FALSE(environment.createDirectory(wrong)) << wrong;
+    EXPECT_FALSE(environment.omFileExistsAndNonEmpty(wrong)) << wrong;
+    EXPECT_NE(environment.omGetErrorCodeString(), "") << wrong;
+  }
+}
+
 TEST(Environment, aNameWithANulByteNamesNothing) {
   const TempDirectory directory;
   const std::string file = directory.write("f", "");

@@ -9,6 +9,7 @@
 #include "host/tandel/MergeTarget.h"
 #include "host/tandel/PaneRows.h"
 #include "tests/host/model/TempModel.h"
+#include "tests/host/platform/Variable.h"
 
 namespace veldra::host::tandel {
 namespace {
@@ -21,15 +22,6 @@ using testing::HasSubstr;
 /// Programs of the test find neither settings nor state of this user.
 class TandelTest : public testing::Test {
  protected:
-  TandelTest() {
-    ::setenv("XDG_STATE_HOME", home.file("state").c_str(), 1);
-    ::setenv("XDG_CONFIG_HOME", home.file("config").c_str(), 1);
-  }
-  ~TandelTest() override {
-    ::unsetenv("XDG_STATE_HOME");
-    ::unsetenv("XDG_CONFIG_HOME");
-  }
-
   TandelEnd run(const std::vector<std::string>& arguments, const ShowWindow& show = {}) {
     out.str("");
     errors.str("");
@@ -40,6 +32,8 @@ class TandelTest : public testing::Test {
   }
 
   TempDirectory home;
+  Variable state{"XDG_STATE_HOME", home.file("state")};
+  Variable config{"XDG_CONFIG_HOME", home.file("config")};
   std::ostringstream out;
   std::ostringstream errors;
 };

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <windows.h>
 
+#include <filesystem>
 #include <thread>
 
 #include "host/platform/AtomicFile.h"
@@ -9,6 +10,7 @@
 #include "host/platform/FolderList.h"
 #include "host/platform/Libraries.h"
 #include "host/platform/Processes.h"
+#include "host/platform/win32/WideText.h"
 #include "tests/host/platform/LibraryHead.h"
 #include "tests/host/platform/TempDirectory.h"
 
@@ -79,6 +81,24 @@ TEST(FilesOfWindows, pathsOfThreeHundredCharactersWork) {
   EXPECT_EQ(listFolder(folder, error).size(), 2U);
   EXPECT_EQ(error, "");
   EXPECT_EQ(environment.omGetFullPathOfDirectory(folder, error), folder);
+}
+
+TEST(FilesOfWindows, aLongNameTakesTheFormWithoutALimitWhateverItsRoot) {
+  const std::string part = "/" + std::string(200, 'p');
+  const std::wstring wide = L"\\" + std::wstring(200, L'p');
+  EXPECT_EQ(nativePath("c:" + part + part), L"\\\\?\\c:" + wide + wide);
+  EXPECT_EQ(nativePath("//server/share" + part + part), L"\\\\?\\UNC\\server\\share" + wide + wide);
+  EXPECT_EQ(nativePath("\\\\server\\share/short"), L"\\\\server\\share\\short");
+}
+
+TEST(FilesOfWindows, theLibrarysPathsTakeNamesForUtf8) {
+  const std::pair<const char*, const wchar_t*> rows[] = {
+      {"\xC3\xA4/\xE2\x82\xAC.mo", L"\u00E4/\u20AC.mo"},
+      {"a\xF0\x9F\x98\x80z", L"a\U0001F600z"},
+      {"a\xFF\xC3", L"a\xFFFD\xFFFD"},
+  };
+  for (const auto& [narrow, wide] : rows)
+    EXPECT_EQ(std::filesystem::path(narrow).native(), wide) << narrow;
 }
 
 TEST(FilesOfWindows, bothSeparatorsAreTaken) {

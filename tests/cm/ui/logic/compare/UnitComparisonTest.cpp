@@ -1,5 +1,7 @@
 #include "cm/ui/logic/compare/UnitComparison.h"
 
+#include <regex>
+
 #include "cm/host/IPN.h"
 #include "cm/ui/logic/compare/ComparedVersions.h"
 #include "tests/support/HostTest.h"
@@ -93,10 +95,10 @@ TEST_F(UnitComparisonTest, WritesBothSidesAndStartsTheTool) {
   EXPECT_EQ(onSide('1', "A.vcl"), "content of A.vcl");
   EXPECT_EQ(onSide('2', "A.vcl"), "archived");
   EXPECT_EQ(contentOf("/plan/A.vcl"), "content of A.vcl");
-  constexpr char Side[] = "/tmp/_tmp[0-9]+_[0-9]+_[0-9]+_[0-9]+_[0-9]+_";
-  EXPECT_THAT(started(), MatchesRegex(std::string("Tandel.exe \"") + Side + "1/A.vcl\" \"" + Side +
-                                      "2/A.vcl\" -fromVeldra -mergeBack -origId Plant_7_of_9 "
-                                      "-cm1  -cm2 "));
+  const std::string side = "/tmp/_tmp\\d+_\\d+_\\d+_\\d+_\\d+_";
+  const std::regex command("Tandel\\.exe \"" + side + "1/A\\.vcl\" \"" + side +
+                           "2/A\\.vcl\" -fromVeldra -mergeBack -origId Plant_7_of_9 -cm1  -cm2 ");
+  EXPECT_TRUE(std::regex_match(started(), command)) << started();
   EXPECT_THAT(m_host.scriptedProcesses.commands().back(), HasSubstr("at \"two words\""));
   EXPECT_THAT(m_host.journal.only({"reload"}), IsEmpty());
 }
