@@ -50,7 +50,7 @@ UnitList unitsOfItems(const CMArchiveItemList& items, bool recursive) {
     if (unit != nullptr) units.push_back(unit);
   }
   CMFacade::removeDuplicatesFromItemList(units);
-  return recursive ? withUnitsBelow(units) : units;
+  return recursive ? withNestedFiles(units) : units;
 }
 
 }  // namespace veldra

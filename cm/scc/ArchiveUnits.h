@@ -12,7 +12,7 @@ class CMArchiveItem;
 /// The loaded unit of an item's file, or null.
 IUnit* unitOfItem(const CMArchiveItem& item);
 
-/// The loaded units of the items' files, each once; with the units below them when `recursive`.
+/// The loaded units of the items' files, each once; with those that lie in them when `recursive`.
 UnitList unitsOfItems(const CMArchiveItemList& items, bool recursive);
 
 /// The units whose files lie in a directory, at any depth.

@@ -259,9 +259,14 @@ TEST_F(MemberOperationsSccTest, FilesOfTheArchiveAreCheckedOutAndLoaded) {
 }
 
 TEST_F(MemberOperationsSccTest, ARecursiveCheckOutTakesWhatLiesBelow) {
-  m_units = {&addPackage()};
+  MemoryPackage& package = addPackage();
+  // What lies in a unit need not lie in its directory.
+  package.record.packageDirectory.clear();
+  package.record.aggregates = {&m_a};
+  m_units = {&package};
   EXPECT_EQ(call(CMFacade::RecCheckOut), 0);
-  EXPECT_THAT(calls("SccCheckout"), SizeIs(2));
+  EXPECT_THAT(calls("SccCheckout"), ElementsAre("SccCheckout /plan/Brewing/Brewing.vpk '' 0",
+                                                "SccCheckout /plan/A.vcl '' 0"));
 }
 
 TEST_F(MemberOperationsSccTest, AComparisonLeavesTheWorkingFileUntouched) {

@@ -58,16 +58,14 @@ TEST_F(SccQueryTest, NothingIsAskedInVain) {
   EXPECT_THAT(shown(), IsEmpty());
 }
 
-TEST_F(SccQueryTest, ItemsStandForTheirUnitsAndWhatLiesBelow) {
+TEST_F(SccQueryTest, ItemsStandForTheirUnitsAndWhatLiesInThem) {
   MemoryPackage& package = m_model.addPackage("Brewing/Brewing.vpk");
-  package.record.packageDirectory = "Brewing";
-  m_model.addUnit("Brewing/Boiler.vcl");
+  package.record.aggregates = {&m_model.addUnit("Boiler.vcl")};
   m_model.fullPathRepFiles = true;
   addItem("Brewing/Brewing.vpk");
   addItem("Gone.vcl");
   SccQuery::queryAndSetStatus(m_items, m_context, true);
-  EXPECT_THAT(calls(), ElementsAre("SccQueryInfo /plan/Brewing/Brewing.vpk "
-                                   "/plan/Brewing/Boiler.vcl"));
+  EXPECT_THAT(calls(), ElementsAre("SccQueryInfo /plan/Brewing/Brewing.vpk /plan/Boiler.vcl"));
 }
 
 TEST_F(SccQueryTest, CodesBecomeMessages) {
