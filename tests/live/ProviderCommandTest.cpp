@@ -70,6 +70,10 @@ TEST_F(ProviderCommandTest, InstallsWhatIsAProviderAndNothingElse) {
     EXPECT_EQ(ended.code, code) << arguments.front();
     EXPECT_THAT(ended.err, HasSubstr(words));
   }
+  m_sandbox.set("VELDRA_PROVIDER_FAULT", "crash");
+  const Ended crashed = m_sandbox.cm({"provider", "install", VELDRA_MISBEHAVING_PROVIDER});
+  EXPECT_EQ(crashed.code, 3) << "the provider's crash is not the program's";
+  EXPECT_THAT(crashed.err, HasSubstr(VELDRA_MISBEHAVING_PROVIDER));
   m_sandbox.write("user.toml", "[broken\n");
   const Ended ended = m_sandbox.cm({"provider", "install", VELDRA_SUBVERSION_PROVIDER});
   EXPECT_EQ(ended.code, 3);
