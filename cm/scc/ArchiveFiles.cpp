@@ -29,7 +29,8 @@ std::vector<std::string> archiveFilesBelow(const std::string& directory, scc::SC
   std::vector<std::string>& names = CMProperty::getFileNamesList();
   names.clear();
   if (!providerState().dll.has(providerState().dll.SccPopulateList)) {
-    for (const IUnit* unit : unitsBelow(directory)) names.push_back(unit->getFullFileName());
+    for (const IUnit* unit : UnitsByFile().below(directory))
+      names.push_back(unit->getFullFileName());
     return names;
   }
   if (!succeeds(populate(directory, command, context), nullptr)) return {};
