@@ -380,11 +380,19 @@ TEST_F(MemberOperationsSccTest, AnActivityIsAskedForOncePerBatch) {
   call(CMFacade::CheckOut);
   EXPECT_THAT(calls("SccCheckout"), IsEmpty());
   EXPECT_THAT(ends(), ElementsAre(UnitEnd::Declined, UnitEnd::Declined));
+  call(CMFacade::CheckOut);
+  EXPECT_THAT(m_host.memoryMessages.lastProposals, ElementsAre("bug-7")) << "not forgotten by that";
 }
 
 TEST_F(MemberOperationsSccTest, ATaskIsChosenOrMadeWhereThereIsNone) {
   CMProperty::setSCCToolName("Corvane");
   m_provider->tasks = {"paint", "polish"};
+  call(CMFacade::CheckOut);
+  EXPECT_THAT(m_host.memoryMessages.textQuestions, SizeIs(1));
+  EXPECT_THAT(calls("SccCheckout"), IsEmpty()) << "the user gave up";
+  EXPECT_THAT(ends(), ElementsAre(UnitEnd::Declined, UnitEnd::Declined));
+  forget();
+  m_units = {&m_a, &m_b};
   m_host.memoryMessages.textAnswer = "sand";
   call(CMFacade::CheckOut);
   EXPECT_THAT(m_host.memoryMessages.lastProposals, ElementsAre("paint", "polish"));
@@ -394,7 +402,7 @@ TEST_F(MemberOperationsSccTest, ATaskIsChosenOrMadeWhereThereIsNone) {
   forget();
   m_provider->defaultTask = "sand";
   call(CMFacade::CheckOut);
-  EXPECT_THAT(m_host.memoryMessages.textQuestions, SizeIs(1)) << "there is one already";
+  EXPECT_THAT(m_host.memoryMessages.textQuestions, SizeIs(2)) << "there is one already";
 }
 
 TEST_F(MemberOperationsSccTest, TaskCommandsReachTheProviderOrSayThatItLacksThem) {
