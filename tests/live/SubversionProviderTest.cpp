@@ -439,6 +439,60 @@ TEST_F(SubversionProviderTest, KnowsDirectories) {
                                            SCC_DIRSTATUS_EMPTYPROJ));
 }
 
+TEST_F(SubversionProviderTest, ListsDirectoriesAndWhatDiffers) {
+  controlled("p/a");
+  controlled("b");
+  ASSERT_EQ(m_provider.checkOut({file("b")}), SCC_OK);
+  m_sandbox.write("work/b", "changed");
+  const Names names = {file("p/a"), file("b")};
+  LONG different[2] = {7, 7};
+  EXPECT_EQ(m_provider.entry<SccEnumChangedFilesFn>("SccEnumChangedFiles")(
+                m_provider.context(), nullptr, 2, pointersTo(names).data(), different),
+            SCC_OK);
+  EXPECT_THAT(different, testing::ElementsAre(0, 1));
+
+  static std::string seen;
+  const POPDIRLISTFUNC collect = [](LPVOID, BOOL isFolder, LPCSTR name) -> BOOL {
+    seen += fs::path(name).filename().string() + (isFolder != 0 ? "/ " : " ");
+    return SCC_OK;
+  };
+  const auto list = [&](LONG flags) {
+    seen.clear();
+    const std::string top = m_sandbox.path("work");
+    LPCSTR directory = top.c_str();
+    EXPECT_EQ(m_provider.entry<SccPopulateDirListFn>("SccPopulateDirList")(
+                  m_provider.context(), 1, &directory, collect, nullptr, flags),
+              SCC_OK);
+    return seen;
+  };
+  EXPECT_EQ(list(SCC_PDL_ONELEVEL), "p/ ");
+  EXPECT_EQ(list(SCC_PDL_RECURSIVE | SCC_PDL_INCLUDEFILES), "b p/ a ");
+}
+
+TEST_F(SubversionProviderTest, MakesProjectsInProjects) {
+  const auto create = m_provider.entry<SccCreateSubProjectFn>("SccCreateSubProject");
+  const auto parentOf = m_provider.entry<SccGetParentProjectPathFn>("SccGetParentProjectPath");
+  char aux[SCC_PRJPATH_SIZE] = {};
+  char made[SCC_PRJPATH_SIZE] = {};
+  LPVOID const context = m_provider.context();
+  const std::string url = m_provider.url();
+  EXPECT_EQ(create(context, nullptr, nullptr, url.c_str(), "a part", aux, made), SCC_OK);
+  EXPECT_EQ(made, url + "/a%20part");
+  EXPECT_EQ(m_provider.open(made, m_sandbox.path("part")), SCC_E_PROJECTALREADYOPEN);
+  ASSERT_EQ(m_provider.close(), SCC_OK);
+  EXPECT_EQ(m_provider.open(made, m_sandbox.path("part")), SCC_OK);
+  char parent[SCC_PRJPATH_SIZE] = {};
+  EXPECT_EQ(parentOf(context, nullptr, nullptr, made, aux, parent), SCC_OK);
+  EXPECT_EQ(parent, url);
+  EXPECT_EQ(parentOf(context, nullptr, nullptr, std::string(aux).c_str(), aux, parent), SCC_OK);
+  EXPECT_STREQ(parent, aux) << "the root is its own parent";
+  for (const char* name : {"", ".", "..", "a/b"}) {
+    EXPECT_EQ(create(context, nullptr, nullptr, url.c_str(), name, aux, made), SCC_E_PROJSYNTAXERR)
+        << name;
+  }
+  EXPECT_EQ(create(context, nullptr, nullptr, "no url", "a", aux, made), SCC_E_PROJSYNTAXERR);
+}
+
 TEST_F(SubversionProviderTest, OpensSeveralProjectsAtOnceFromSeveralThreads) {
   const auto work = [this](const std::string& folder) {
     ProviderSession own;
