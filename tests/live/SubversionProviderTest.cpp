@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <thread>
 
+#include "cm/scc/StoredFileEntryPoint.h"
 #include "tests/live/ProviderSession.h"
 #include "tests/live/Sandbox.h"
 
@@ -437,6 +438,27 @@ TEST_F(SubversionProviderTest, KnowsDirectories) {
             SCC_OK);
   EXPECT_THAT(status, testing::ElementsAre(SCC_DIRSTATUS_CONTROLLED, SCC_DIRSTATUS_NOTCONTROLLED,
                                            SCC_DIRSTATUS_EMPTYPROJ));
+}
+
+TEST_F(SubversionProviderTest, WritesTheStoresVersionBesideAndForgetsNothing) {
+  const std::string a = controlled("a", "$Id$\n");
+  aliceCommits("a", "newer\\n");
+  ASSERT_EQ(alice("mkdir d && echo new >d/b && svn add -q d && svn ci -q -m d").code, 0);
+  const auto getTo = [this](const std::string& name, const std::string& target) {
+    return m_provider.entry<SccGetToFn>("SccGetTo")(m_provider.context(), nullptr,
+                                                    file(name).c_str(), target.c_str());
+  };
+  const std::string target = m_sandbox.path("side");
+  m_sandbox.write("side", "of another comparison");
+  EXPECT_EQ(getTo("a", target), SCC_OK);
+  EXPECT_EQ(m_sandbox.read("side"), "newer\n");
+  EXPECT_EQ(m_provider.status(a), SCC_STATUS_CONTROLLED | SCC_STATUS_OUTOFDATE);
+  EXPECT_THAT(m_sandbox.read("work/a"), HasSubstr("$Id: a"));
+  EXPECT_EQ(getTo("d/b", target), SCC_OK);
+  EXPECT_EQ(m_sandbox.read("side"), "new\n");
+  EXPECT_FALSE(fs::exists(file("d")));
+  EXPECT_EQ(getTo("nowhere", target), SCC_E_FILENOTCONTROLLED);
+  EXPECT_EQ(m_sandbox.read("side"), "new\n");
 }
 
 TEST_F(SubversionProviderTest, ListsDirectoriesAndWhatDiffers) {

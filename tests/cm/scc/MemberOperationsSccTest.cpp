@@ -318,8 +318,14 @@ TEST_F(MemberOperationsSccTest, AComparisonIsRefusedWhereItWouldLoseChanges) {
   EXPECT_EQ(call(CMFacade::FetchForDiff), 0);
   EXPECT_THAT(m_diagnostics, SizeIs(1)) << "no target";
   m_arguments = {&target};
-  m_provider->status["/plan/A.vcl"] = 0x821;
-  EXPECT_EQ(call(CMFacade::FetchForDiff), 0);
+  // The provider would take what comes back for changes to the newer version.
+  for (const auto& [status, message] : {std::pair(0x821, "60211"), std::pair(0x21, "60870")}) {
+    forget();
+    m_provider->status["/plan/A.vcl"] = status;
+    EXPECT_EQ(call(CMFacade::FetchForDiff), 0);
+    EXPECT_THAT(shown(), ElementsAre(HasSubstr(message)));
+    EXPECT_THAT(calls("SccGet"), IsEmpty());
+  }
   m_host.files.write("/plan/A.vcl_temp", "of another comparison");
   m_provider->status.clear();
   EXPECT_EQ(call(CMFacade::FetchForDiff), 0);
