@@ -45,6 +45,7 @@ TEST_F(SccQueryTest, ManyUnitsInOneCallOrOneByOne) {
 TEST_F(SccQueryTest, NothingIsAskedInVain) {
   std::int32_t status = 7;
   EXPECT_EQ(SccQuery::query({"a"}, &status, nullptr), -1);
+  SccQuery::queryAndSetStatus(UnitList{nullptr}, m_context);
   m_project.showsStatus = false;
   SccQuery::queryAndSetStatus(m_units, m_context);
   SccQuery::queryAndSetStatusOneByOne(m_units, m_context);
