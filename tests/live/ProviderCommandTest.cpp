@@ -161,6 +161,24 @@ TEST_F(ProviderCommandTest, ARenamedUnitStandsAsWithTools) {
   EXPECT_EQ(m_sandbox.run({"svnadmin", "lslocks", m_sandbox.path("archive")}).out, "");
 }
 
+TEST_F(ProviderCommandTest, AComparisonWithANewerVersionLeavesTheFileAsItIs) {
+  connectSample();
+  const std::string unit = "Brewing/Grinder.vcmp";
+  ASSERT_EQ(in("model", {"add", "--all", "-m", "all"}).code, 0);
+  const Ended changed = m_sandbox.shell(
+      "svn co -q file://$PWD/archive other --username alice --no-auth-cache && cd other &&\n"
+      "svn lock -q --username alice --no-auth-cache Brewing/Grinder.vcmp &&\n"
+      "sed -i 's/\"Grinder\"/\"Mill\"/' Brewing/Grinder.vcmp &&\n"
+      "svn ci -q -m hers --username alice --no-auth-cache");
+  ASSERT_EQ(changed.code, 0) << changed.err;
+  const std::string before = m_sandbox.read("model/" + unit);
+  const Ended compared = in("model", {"compare", unit});
+  EXPECT_EQ(compared.code, 1) << compared.err;
+  EXPECT_THAT(compared.out, HasSubstr("Mill"));
+  EXPECT_EQ(m_sandbox.read("model/" + unit), before);
+  EXPECT_EQ(m_sandbox.shell("svn status -q model").out, "") << "hers would be undone by a check-in";
+}
+
 TEST_F(ProviderCommandTest, AnInterruptEndsACallThatHangs) {
   m_sandbox.copySample("model");
   makeProject();
