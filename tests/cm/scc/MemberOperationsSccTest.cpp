@@ -240,6 +240,13 @@ TEST_F(MemberOperationsSccTest, TheArchiveIsListedWithVersionHolderAndStatus) {
   const CMArchiveItem& others = **std::next(items.list().begin());
   EXPECT_EQ(others.getLocker(), "bob");
   EXPECT_THAT(others.getStatus(), HasSubstr("49763"));
+
+  // Where names have either separator, they have either case as well.
+  m_host.memoryEnvironment.separator = '\\';
+  m_provider->listed = {"/PLAN\\A.vcl", "\\plan/Sub\\..\\..\\B.vcl"};
+  CMArchiveItemListWrapper again;
+  EXPECT_EQ(CMFacade::ListArchive(again.list(), m_arguments, m_diagnostics), 1);
+  EXPECT_EQ(again.list().size(), 1U);
 }
 
 TEST_F(MemberOperationsSccTest, FilesOfTheArchiveAreCheckedOutAndLoaded) {

@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 #include <thread>
 
@@ -137,6 +138,8 @@ SCC_EXPORT SCCRTN SccPopulateList(LPVOID, SCCCOMMAND, LONG, LPCSTR* files, POPLI
   populate(data, 1, 1, endless);
   char outside[] = "/somewhere/else.vcl";
   populate(data, 1, 1, outside);
+  std::string climbing = std::string(files[0]) + "/a/../../else.vcl";
+  populate(data, 1, 1, climbing.data());
   populate(data, 1, 1, nullptr);
   return wordCode();
 }
