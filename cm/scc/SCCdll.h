@@ -50,6 +50,8 @@ class SCCdll : public PDLL {
  public:
   template <class Function>
   bool has(EntrySlot<Function>& slot) {
+    // A broken provider lacks nothing: what is wrong with it is to be told, not that.
+    refuseIfBroken();
     return resolve(slot) != nullptr;
   }
 
