@@ -131,6 +131,25 @@ TEST_F(ProviderCommandTest, ShowsPropertiesAndWhereUnitsStand) {
   EXPECT_THAT(in("model", {"refresh"}).out, HasSubstr("checked out  1\n"));
 }
 
+TEST_F(ProviderCommandTest, TakesWhatIsInPackagesAlong) {
+  connectSample();
+  ASSERT_EQ(in("model", {"add", "--all", "-m", "all"}).code, 0);
+  const auto locks = [this] {
+    return m_sandbox.run({"svnadmin", "lslocks", m_sandbox.path("archive")}).out;
+  };
+  const Ended taken = in("model", {"checkout", "-r", "Brewing"});
+  EXPECT_EQ(taken.code, 0) << taken.err;
+  EXPECT_THAT(locks(), HasSubstr("Grinder.vcmp"));
+  for (const std::string command : {"lock", "unlock"}) {
+    const Ended refused = in("model", {command, "Brewing/Grinder.vcmp"});
+    EXPECT_EQ(refused.code, 3);
+    EXPECT_THAT(refused.err, HasSubstr("provider"));
+  }
+  const Ended undone = in("model", {"undo", "-r", "Brewing"});
+  EXPECT_EQ(undone.code, 0) << undone.err;
+  EXPECT_EQ(locks(), "");
+}
+
 TEST_F(ProviderCommandTest, ADryRunCallsNothing) {
   connectSample();
   const std::string unit = "Brewing/Grinder.vcmp";
