@@ -443,7 +443,8 @@ TEST_F(SubversionProviderTest, KnowsDirectories) {
 TEST_F(SubversionProviderTest, WritesTheStoresVersionBesideAndForgetsNothing) {
   const std::string a = controlled("a", "$Id$\n");
   aliceCommits("a", "newer\\n");
-  ASSERT_EQ(alice("mkdir d && echo new >d/b && svn add -q d && svn ci -q -m d").code, 0);
+  const Ended added = alice("mkdir d && echo new >d/b && svn add -q d && svn ci -q -m new");
+  ASSERT_EQ(added.code, 0) << added.err;
   const auto getTo = [this](const std::string& name, const std::string& target) {
     return m_provider.entry<SccGetToFn>("SccGetTo")(m_provider.context(), nullptr,
                                                     file(name).c_str(), target.c_str());
