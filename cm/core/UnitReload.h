@@ -27,7 +27,8 @@ void updateHeaderAndMode(IUnit& unit);
 IUnit* loadItem(const CMArchiveItem& item, const std::string& name);
 
 /// Lets a file that followed its unit's name follow the name that a reload brought. Nothing happens
-/// unless the recorded name `nameBefore` equals the unit's former file name `nameNow`.
+/// unless the recorded name `nameBefore` equals `nameNow`, the name that the file had, or was to
+/// have, before the reload.
 void renameToComputedName(IUnit* unit, const std::string& nameBefore, const std::string& nameNow);
 
 }  // namespace veldra

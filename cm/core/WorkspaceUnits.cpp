@@ -2,6 +2,9 @@
 
 #include <memory>
 
+#include "cm/core/CMFacade.h"
+#include "cm/host/ATMRecursiveHelper.h"
+
 namespace veldra {
 
 namespace {
@@ -28,6 +31,17 @@ UnitList workspaceUnits() {
     if (belongsToWorkspace(*unit)) units.push_back(unit);
   }
   return units;
+}
+
+UnitList withNestedFiles(const UnitList& units) {
+  UnitList all;
+  for (IUnit* unit : units) {
+    const UnitList nested = ATMRecursiveHelper::getListOFFilesIn(unit, true);
+    if (nested.empty()) all.push_back(unit);
+    all.insert(all.end(), nested.begin(), nested.end());
+  }
+  CMFacade::removeDuplicatesFromItemList(all);
+  return all;
 }
 
 }  // namespace veldra

@@ -75,6 +75,7 @@ inline constexpr int FileNotMoved = 60209;     ///< File.
 inline constexpr int NowhereToMove = 60210;    ///< File.
 inline constexpr int ChangedAndStale = 60211;  ///< File.
 
+inline constexpr int Stale = 60870;  ///< The archive has a newer version: file.
 /// A check-in that made no revision: file.
 inline constexpr int NothingChanged = 60250;
 

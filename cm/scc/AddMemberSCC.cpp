@@ -90,7 +90,7 @@ int AddMemberSCC::operator()(UnitList& units, ArgumentList& arguments, Diagnosti
 
 int AddMemberSCC::AddDirectory(const std::string& directory, ArgumentList& arguments,
                                DiagnosticList& diagnostics) {
-  UnitList inside = unitsBelow(directory);
+  UnitList inside = UnitsByFile().below(directory);
   if (!inside.empty()) return AddMemberSCC()(inside, arguments, diagnostics, false);
   const pvContextStruct* const context = contextFor(nullptr, AddContextLine);
   if (context == nullptr || !offers(providerState().dll.SccAdd, "Add Directory", diagnostics)) {

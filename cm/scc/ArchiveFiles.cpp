@@ -1,5 +1,9 @@
 #include "cm/scc/ArchiveFiles.h"
 
+#include <algorithm>
+#include <string_view>
+
+#include "cm/core/TextTools.h"
 #include "cm/host/IEnvironment.h"
 #include "cm/scc/ArchiveUnits.h"
 #include "cm/scc/ProviderCall.h"
@@ -21,20 +25,47 @@ long populate(const std::string& directory, scc::SCCCOMMAND command, void* conte
                                   scc::LPVOID{nullptr}, &status, scc::LONG{scc::SCC_PL_DIR}));
 }
 
+bool isSeparator(char c) {
+  return c == '/' || c == omPathSeparator();
+}
+
+/// Where a name may have either separator, it may be in either case too.
+bool isSameInPath(char a, char b) {
+  if (a == b) return true;
+  if (omPathSeparator() != '\\') return false;
+  return (isSeparator(a) && isSeparator(b)) || lowerCase(a) == lowerCase(b);
+}
+
+bool stepsBack(std::string_view name) {
+  while (!name.empty()) {
+    const auto end = std::ranges::find_if(name, isSeparator);
+    const auto length = static_cast<std::size_t>(end - name.begin());
+    if (name.substr(0, length) == "..") return true;
+    name.remove_prefix(std::min(length + 1, name.size()));
+  }
+  return false;
+}
+
+bool isBelow(std::string_view name, std::string_view directory) {
+  return name.size() > directory.size() && isSeparator(name[directory.size()]) &&
+         std::ranges::equal(name.substr(0, directory.size()), directory, isSameInPath) &&
+         !stepsBack(name.substr(directory.size()));
+}
+
 }  // namespace
 
 std::vector<std::string> archiveFilesBelow(const std::string& directory, scc::SCCCOMMAND command,
                                            void* context) {
-  const std::string prefix = directory + omPathSeparator();
   std::vector<std::string>& names = CMProperty::getFileNamesList();
   names.clear();
   if (!providerState().dll.has(providerState().dll.SccPopulateList)) {
-    for (const IUnit* unit : unitsBelow(directory)) names.push_back(unit->getFullFileName());
+    for (const IUnit* unit : UnitsByFile().below(directory))
+      names.push_back(unit->getFullFileName());
     return names;
   }
   if (!succeeds(populate(directory, command, context), nullptr)) return {};
   // Names are input from outside: nothing beyond the directory is ever touched for them.
-  std::erase_if(names, [&](const std::string& name) { return !name.starts_with(prefix); });
+  std::erase_if(names, [&](const std::string& name) { return !isBelow(name, directory); });
   return names;
 }
 

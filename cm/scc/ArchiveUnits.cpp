@@ -1,6 +1,6 @@
 #include "cm/scc/ArchiveUnits.h"
 
-#include <string>
+#include <algorithm>
 
 #include "cm/core/CMArchiveItem.h"
 #include "cm/core/CMFacade.h"
@@ -15,28 +15,39 @@ IUnit* unitOfItem(const CMArchiveItem& item) {
                                                       : item.getFileName());
 }
 
-UnitList unitsBelow(const std::string& directory) {
+UnitsByFile::UnitsByFile() : m_units(workspaceUnits()) {
+  m_places.reserve(m_units.size());
+  for (const IUnit* unit : m_units) m_places.emplace_back(unit->getFullFileName(), m_places.size());
+  std::ranges::sort(m_places);
+}
+
+UnitList UnitsByFile::below(const std::string& directory) const {
   const std::string prefix = directory + omPathSeparator();
-  UnitList units = workspaceUnits();
-  std::erase_if(units,
-                [&](const IUnit* unit) { return !unit->getFullFileName().starts_with(prefix); });
+  std::vector<std::size_t> found;
+  for (auto at = std::ranges::lower_bound(m_places, prefix, {}, &Place::first);
+       at != m_places.end() && at->first.starts_with(prefix); ++at) {
+    found.push_back(at->second);
+  }
+  std::ranges::sort(found);
+  UnitList units;
+  for (const std::size_t place : found) units.push_back(m_units[place]);
   return units;
 }
 
-UnitList withUnitsBelow(IUnit& unit) {
+UnitList UnitsByFile::with(IUnit& unit) const {
   UnitList units{&unit};
   if (!isPackageWithDirectory(&unit)) return units;
-  const UnitList below = unitsBelow(unit.getDirectory());
-  units.insert(units.end(), below.begin(), below.end());
+  const UnitList inside = below(unit.getDirectory());
+  units.insert(units.end(), inside.begin(), inside.end());
   CMFacade::removeDuplicatesFromItemList(units);
   return units;
 }
 
-UnitList withUnitsBelow(const UnitList& units) {
+UnitList UnitsByFile::with(const UnitList& units) const {
   UnitList all;
   for (IUnit* unit : units) {
     if (unit == nullptr) continue;
-    const UnitList found = withUnitsBelow(*unit);
+    const UnitList found = with(*unit);
     all.insert(all.end(), found.begin(), found.end());
   }
   CMFacade::removeDuplicatesFromItemList(all);
@@ -50,7 +61,7 @@ UnitList unitsOfItems(const CMArchiveItemList& items, bool recursive) {
     if (unit != nullptr) units.push_back(unit);
   }
   CMFacade::removeDuplicatesFromItemList(units);
-  return recursive ? withUnitsBelow(units) : units;
+  return recursive ? withNestedFiles(units) : units;
 }
 
 }  // namespace veldra

@@ -1,5 +1,6 @@
 #include "cm/scc/CallbackThread.h"
 
+#include <algorithm>
 #include <mutex>
 #include <thread>
 #include <utility>
@@ -9,22 +10,33 @@ namespace veldra {
 
 namespace {
 
+struct Step {
+  std::function<void()> action;
+  const void* place;
+};
+
 // Not part of the module's state: other threads come here at any time.
 std::mutex theMutex;
 std::thread::id callingThread;
 int callDepth = 0;
-std::vector<std::function<void()>> kept;
+std::vector<Step> kept;
+std::vector<const void*> places;
 
-bool keepIfForeign(std::function<void()>& step) {
+bool keepIfForeign(Step& step) {
   const std::lock_guard lock(theMutex);
   if (callDepth > 0 && std::this_thread::get_id() == callingThread) return false;
   kept.push_back(std::move(step));
   return true;
 }
 
-void runQuietly(const std::function<void()>& step) noexcept {
+bool isThere(const void* place) {
+  const std::lock_guard lock(theMutex);
+  return place == nullptr || std::ranges::find(places, place) != places.end();
+}
+
+void runQuietly(const Step& step) noexcept {
   try {
-    step();
+    if (isThere(step.place)) step.action();
   } catch (...) {
     // A callback's text or name is lost; a frame of the provider must not be unwound for it.
   }
@@ -39,16 +51,28 @@ CallbackThread::Scope::Scope() {
 }
 
 CallbackThread::Scope::~Scope() {
-  std::vector<std::function<void()>> steps;
+  std::vector<Step> steps;
   {
     const std::lock_guard lock(theMutex);
     if (--callDepth == 0) steps.swap(kept);
   }
-  for (const auto& step : steps) runQuietly(step);
+  for (const Step& step : steps) runQuietly(step);
 }
 
-void CallbackThread::run(std::function<void()> step) noexcept {
+CallbackThread::Place::Place(const void* data) {
+  const std::lock_guard lock(theMutex);
+  places.push_back(data);
+}
+
+CallbackThread::Place::~Place() {
+  // The newest goes first: calls nest.
+  const std::lock_guard lock(theMutex);
+  places.pop_back();
+}
+
+void CallbackThread::run(std::function<void()> action, const void* place) noexcept {
   try {
+    Step step{std::move(action), place};
     if (!keepIfForeign(step)) runQuietly(step);
   } catch (...) {
     // No memory to keep it.

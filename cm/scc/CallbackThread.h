@@ -17,10 +17,22 @@ class CallbackThread {
     ~Scope();
   };
 
-  /// Runs `step` now on the thread of the running call; from any other thread it is kept for the
+  /// What the callbacks of one call fill in, known by its address for as long as this lives.
+  class Place {
+   public:
+    explicit Place(const void* data);
+    Place(const Place&) = delete;
+    Place& operator=(const Place&) = delete;
+    ~Place();
+  };
+
+  /// Runs `action` now on the thread of the running call; from any other thread it is kept for the
   /// end of that call, or of the next one. Lets no exception out, because its callers are a
   /// provider's functions.
-  static void run(std::function<void()> step) noexcept;
+  ///
+  /// With a `place` that is gone the action is dropped: nobody keeps a provider from calling back
+  /// after its call.
+  static void run(std::function<void()> action, const void* place = nullptr) noexcept;
 };
 
 }  // namespace veldra

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <utility>
 
 #include "cm/core/FacadeEntry.h"
 #include "cm/host/IUserMessages.h"
@@ -41,12 +40,8 @@ bool setOrCreate(const TaskCalls& calls, const std::string& task,
   return succeeds(calls.set(task), nullptr);
 }
 
-}  // namespace
-
-bool CorvaneAdapter::beforeCheckOut(const pvContextStruct& context, std::string& /*comment*/) {
-  SCCdll& dll = providerState().dll;
-  if (std::exchange(m_isAsked, true) || !dll.has(dll.SccSetTask)) return true;
-  const TaskCalls calls(context);
+/// Sees to it that there is a task that work belongs to; false when there is none in the end.
+bool chooseTask(const TaskCalls& calls) {
   std::string task;
   if (!succeeds(calls.getDefault(task), nullptr)) return false;
   if (!task.empty()) return true;
@@ -54,6 +49,14 @@ bool CorvaneAdapter::beforeCheckOut(const pvContextStruct& context, std::string&
   if (!succeeds(calls.list(tasks), nullptr)) return false;
   const std::optional<std::string> chosen = askForText(loadMessage(MessageId::TaskQuestion), tasks);
   return chosen && !chosen->empty() && setOrCreate(calls, *chosen, tasks);
+}
+
+}  // namespace
+
+bool CorvaneAdapter::beforeCheckOut(const pvContextStruct& context, std::string& /*comment*/) {
+  if (!providerState().dll.has(providerState().dll.SccSetTask)) return true;
+  if (!m_hasTask) m_hasTask = chooseTask(TaskCalls(context));
+  return *m_hasTask;
 }
 
 int CorvaneAdapter::ListTasks(std::vector<std::string>& tasks) {

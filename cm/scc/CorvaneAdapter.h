@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,7 +31,7 @@ class VELDRA_CM_EXPORT CorvaneAdapter : public ProviderAdapter {
   static int ShowTask(const std::string& task);
 
  private:
-  bool m_isAsked = false;
+  std::optional<bool> m_hasTask;  ///< Nothing as long as nobody was asked.
 };
 
 }  // namespace veldra

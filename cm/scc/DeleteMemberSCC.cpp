@@ -41,7 +41,7 @@ bool removeBatch(ProviderBatch& batch, const std::string& comment) {
 
 int DeleteMemberSCC::operator()(UnitList& units, ArgumentList& arguments,
                                 DiagnosticList& diagnostics, bool /*hybrid*/) {
-  const UnitList all = withUnitsBelow(units);
+  const UnitList all = UnitsByFile().with(units);
   std::vector<ProviderBatch> batches = batchesOf(all, DeleteName, DeleteContextLine);
   if (batches.empty() || !offers(providerState().dll.SccRemove, DeleteName, diagnostics)) return 0;
   const std::string comment = argumentValue(arguments, "log");

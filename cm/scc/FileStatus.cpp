@@ -17,9 +17,10 @@ using Holders = std::unordered_map<std::string, std::string>;
 scc::BOOL SCC_CALL collectHolder(scc::LPVOID holders, scc::LPCSTR fileName, scc::LPCSTR holder) {
   if (holders == nullptr || fileName == nullptr || holder == nullptr) return 1;
   auto* const collected = static_cast<Holders*>(holders);
-  CallbackThread::run([collected, file = std::string(fileName), name = std::string(holder)] {
+  const auto collect = [collected, file = std::string(fileName), name = std::string(holder)] {
     collected->insert_or_assign(file, name);
-  });
+  };
+  CallbackThread::run(collect, collected);
   return 1;
 }
 
@@ -28,6 +29,7 @@ Holders holdersOf(const std::vector<std::string>& names, void* context) {
   SCCdll& dll = providerState().dll;
   if (!dll.has(dll.SccQueryHolders)) return holders;
   FileNames files(names);
+  const CallbackThread::Place place(&holders);
   const TracedCall traced("SccQueryHolders", files, 1, CallLines::PreAndReturn);
   traced.returned(dll.call(dll.SccQueryHolders, context, files.count(), files.data(),
                            &collectHolder, static_cast<void*>(&holders)));

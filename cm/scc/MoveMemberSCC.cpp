@@ -47,14 +47,15 @@ std::string rebased(const std::string& file, const std::string& from, const std:
       to, file.starts_with(prefix) ? std::string_view(file).substr(prefix.size()) : baseName(file));
 }
 
-void planMove(IUnit& unit, const std::string& target, std::vector<Move>& moves) {
+void planMove(IUnit& unit, const UnitsByFile& files, const std::string& target,
+              std::vector<Move>& moves) {
   if (!isPackageWithDirectory(&unit)) {
     moves.emplace_back(&unit, joinPath(target, unit.getFileName()));
     return;
   }
   const std::string directory = unit.getDirectory();
   const std::string newDirectory = joinPath(target, baseName(directory));
-  for (IUnit* below : withUnitsBelow(unit)) {
+  for (IUnit* below : files.with(unit)) {
     moves.emplace_back(below, rebased(below->getFullFileName(), directory, newDirectory));
   }
 }
@@ -64,6 +65,7 @@ void planMove(IUnit& unit, const std::string& target, std::vector<Move>& moves) 
 int MoveMemberSCC::operator()(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics,
                               bool /*hybrid*/) {
   const std::string target = argumentValue(arguments, "targetDir");
+  const UnitsByFile files;
   std::vector<Move> moves;
   for (IUnit* unit : units) {
     if (unit == nullptr) continue;
@@ -74,7 +76,7 @@ int MoveMemberSCC::operator()(UnitList& units, ArgumentList& arguments, Diagnost
                                unit);
       continue;
     }
-    planMove(*unit, directory, moves);
+    planMove(*unit, files, directory, moves);
   }
   return carryOut(moves, arguments, diagnostics);
 }
@@ -83,7 +85,7 @@ int MoveMemberSCC::movePackageContent(IUnit* package, UnitList& units, const std
                                       const std::string& newPath, ArgumentList& arguments,
                                       DiagnosticList& diagnostics, bool /*flag*/) {
   UnitList all;
-  if (package != nullptr) all = withUnitsBelow(*package);
+  if (package != nullptr) all = UnitsByFile().with(*package);
   all.insert(all.end(), units.begin(), units.end());
   std::erase(all, nullptr);
   CMFacade::removeDuplicatesFromItemList(all);

@@ -18,7 +18,7 @@ bool OrbisAdapter::beforeCheckOut(const pvContextStruct& context, std::string& c
     std::vector<std::string> proposals;
     if (!state.lastActivity.empty()) proposals.push_back(state.lastActivity);
     m_activity = askForText(loadMessage(MessageId::ActivityQuestion), proposals).value_or("");
-    state.lastActivity = m_activity;
+    if (!m_activity.empty()) state.lastActivity = m_activity;
     if (!m_activity.empty() && state.dll.has(state.dll.SccSetTask) &&
         !succeeds(TaskCalls(context).set(m_activity), nullptr)) {
       m_activity.clear();

@@ -81,14 +81,14 @@ void reportUnloaded(const std::string& file, UnitReport& report) {
 IUnit* reloadTraced(IUnit& unit, const std::string& file, CMUnitValidator& validator,
                     ReloadMode mode, UnitReport& report) {
   const std::string recordedName = unit.getRecordedFileName();
-  const std::string fileName = unit.getFileName();
+  const std::string oldName = unit.getComputedFileName();
   VELDRA_TRACE("Performing ATM for the file ", file);
   bool canReload = false;
   IUnit* reloaded = reloadInPlace(unit, canReload);
   if (!canReload) {
     reloaded = addAgain(unit);
   } else if (mode == ReloadMode::FollowsName) {
-    renameToComputedName(reloaded, recordedName, fileName);
+    renameToComputedName(reloaded, recordedName, oldName);
   }
   if (reloaded != nullptr) {
     validator.replaceUnit(&unit, reloaded);

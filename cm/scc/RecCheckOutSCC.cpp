@@ -1,13 +1,13 @@
 #include "cm/scc/RecCheckOutSCC.h"
 
-#include "cm/scc/ArchiveUnits.h"
+#include "cm/core/WorkspaceUnits.h"
 #include "cm/scc/CheckOutSCC.h"
 
 namespace veldra {
 
 int RecCheckOutSCC::operator()(UnitList& units, ArgumentList& arguments,
                                DiagnosticList& diagnostics, bool hybrid) {
-  units = withUnitsBelow(units);
+  units = withNestedFiles(units);
   return CheckOutSCC()(units, arguments, diagnostics, hybrid);
 }
 

@@ -50,11 +50,13 @@ std::string targetFile(const std::string& target, const std::string& file) {
   return isDirectory ? joinPath(target, baseName(file)) : target;
 }
 
-bool isChangedAndStale(const std::string& file, void* context) {
-  constexpr std::int32_t Both = scc::SCC_STATUS_MODIFIED | scc::SCC_STATUS_OUTOFDATE;
+/// Why a file cannot be fetched over and come back; 0 when it can.
+int objectionTo(const std::string& file, void* context) {
   std::int32_t status = scc::SCC_STATUS_INVALID;
-  return SccQuery::query(file, status, context) == 0 && status != scc::SCC_STATUS_INVALID &&
-         (status & Both) == Both;
+  const bool isKnown =
+      SccQuery::query(file, status, context) == 0 && status != scc::SCC_STATUS_INVALID;
+  if (!isKnown || (status & scc::SCC_STATUS_OUTOFDATE) == 0) return 0;
+  return (status & scc::SCC_STATUS_MODIFIED) != 0 ? MessageId::ChangedAndStale : MessageId::Stale;
 }
 
 bool getFile(const std::string& file, void* context, UnitReport& report) {
@@ -62,6 +64,16 @@ bool getFile(const std::string& file, void* context, UnitReport& report) {
   return succeeds(callOnFiles(providerState().dll.SccGet, CallLines::PrePostAndReturn, context,
                               parentWindow(), files, scc::LONG{0}, CMProperty::getPvOptions()),
                   &report);
+}
+
+bool getFileTo(const std::string& file, const std::string& target, void* context,
+               UnitReport& report) {
+  SCCdll& dll = providerState().dll;
+  const std::string to = targetFile(target, file);
+  const TracedCall traced("SccGetTo", file, CallLines::PrePostAndReturn);
+  const long code =
+      traced.returned(dll.call(dll.SccGetTo, context, parentWindow(), file.c_str(), to.c_str()));
+  return succeeds(code, &report);
 }
 
 }  // namespace
@@ -88,7 +100,11 @@ bool fetchBesideByProvider(IUnit* unit, const std::string& file, const std::stri
     return false;
   }
   void* const provider = context->getpvContextPtr();
-  if (isChangedAndStale(file, provider)) return refuse(MessageId::ChangedAndStale, file, report);
+  if (providerState().dll.has(providerState().dll.SccGetTo)) {
+    return getFileTo(file, target, provider, report);
+  }
+  const int objection = objectionTo(file, provider);
+  if (objection != 0) return refuse(objection, file, report);
   return fetchBeside(
       file, target,
       [provider](const std::string& name, UnitReport& way) { return getFile(name, provider, way); },

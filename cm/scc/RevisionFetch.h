@@ -19,8 +19,9 @@ using FetchToPlace = std::function<bool(const std::string& file, UnitReport& rep
 bool fetchBeside(const std::string& file, const std::string& target, const FetchToPlace& fetch,
                  UnitReport& report);
 
-/// The same by `SccGet`. A file that was changed here while the archive has a newer version is
-/// refused: the get would make the provider take the changes for ones to that newer version.
+/// The same by `SccGetTo` where the provider has it, else by `SccGet`. Then a file of which the
+/// archive has a newer version is refused: after the get the provider would take what came back for
+/// changes to that newer version.
 bool fetchBesideByProvider(IUnit* unit, const std::string& file, const std::string& target,
                            UnitReport& report);
 

@@ -23,9 +23,9 @@
 namespace veldra {
 
 int SCCFacade::doSetUpSCC() {
+  // The choice of the provider has looked for its library, and told when there is none.
   if (CMProperty::getUseSCCtool() == 0) return 1;
   if (CMProperty::getIsLoaded()) return doCloseProjectSCC();
-  locateProvider();
   loadProviderOnce();
   return 1;
 }

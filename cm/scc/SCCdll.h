@@ -7,6 +7,7 @@
 #include "cm/scc/HolderEntryPoint.h"
 #include "cm/scc/PDLL.h"
 #include "cm/scc/SccInterface.h"
+#include "cm/scc/StoredFileEntryPoint.h"
 #include "cm/scc/TaskEntryPoints.h"
 
 namespace veldra {
@@ -49,6 +50,8 @@ class SCCdll : public PDLL {
  public:
   template <class Function>
   bool has(EntrySlot<Function>& slot) {
+    // A broken provider lacks nothing: what is wrong with it is to be told, not that.
+    refuseIfBroken();
     return resolve(slot) != nullptr;
   }
 
@@ -88,6 +91,7 @@ class SCCdll : public PDLL {
   EntrySlot<scc::SccShowTaskFn> SccShowTask{{"SccShowTask"}};
   EntrySlot<scc::SccListTasksFn> SccListTasks{{"SccListTasks"}};
   EntrySlot<scc::SccQueryHoldersFn> SccQueryHolders{{"SccQueryHolders"}};
+  EntrySlot<scc::SccGetToFn> SccGetTo{{"SccGetTo"}};
 
  private:
   EntryPoint resolve(EntryName& slot) const;

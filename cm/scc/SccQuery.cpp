@@ -52,6 +52,7 @@ void SccQuery::queryAndSetStatus(const UnitList& units, void* context) {
   for (const IUnit* unit : units) {
     if (unit != nullptr) names.push_back(unit->getFullFileName());
   }
+  if (names.empty()) return;
   // What a provider leaves out of a half-filled array stays invalid.
   std::vector<std::int32_t> status(units.size(), scc::SCC_STATUS_INVALID);
   if (query(names, status.data(), context) != 0) return;

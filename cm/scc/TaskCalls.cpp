@@ -11,7 +11,7 @@ namespace {
 scc::BOOL SCC_CALL collectTask(scc::LPVOID tasks, scc::LPCSTR name) {
   if (tasks == nullptr || name == nullptr) return 1;
   auto* const list = static_cast<std::vector<std::string>*>(tasks);
-  CallbackThread::run([list, task = std::string(name)] { list->push_back(task); });
+  CallbackThread::run([list, task = std::string(name)] { list->push_back(task); }, list);
   return 1;
 }
 
@@ -26,6 +26,7 @@ long callTraced(EntrySlot<Function>& slot, Arguments... arguments) {
 }  // namespace
 
 long TaskCalls::list(std::vector<std::string>& tasks) const {
+  const CallbackThread::Place place(&tasks);
   return callTraced(providerState().dll.SccListTasks, m_context, parentWindow(), &collectTask,
                     static_cast<void*>(&tasks));
 }

@@ -6,6 +6,7 @@
 
 #include "cm/scc/SccInterface.h"
 #include "host/cli/ExitCode.h"
+#include "host/platform/FaultGuard.h"
 #include "host/platform/Libraries.h"
 #include "host/platform/RegistryPlace.h"
 
@@ -58,6 +59,26 @@ std::vector<InstalledProvider> installedProviders(Registry& registry) {
   return providers;
 }
 
+namespace {
+
+/// Answers what the provider calls itself, or nothing; `result` is what it returned. Buffers have
+/// more room than the interface gives them, for providers that fill them beyond their end.
+std::string askForName(const ILibrary& provider, SCCRTN& result) {
+  const auto initialize = reinterpret_cast<SccInitializeFn*>(provider.find("SccInitialize"));
+  const auto uninitialize = reinterpret_cast<SccUninitializeFn*>(provider.find("SccUninitialize"));
+  LPVOID context = nullptr;
+  std::array<char, 512> name{};
+  std::array<char, 512> label{};
+  LONG number = 0;
+  result =
+      initialize(&context, nullptr, "Veldra", name.data(), &number, label.data(), &number, &number);
+  if (result == SCC_OK) uninitialize(context);
+  name[SCC_NAME_SIZE - 1] = '\0';
+  return name.data();
+}
+
+}  // namespace
+
 std::string providerNameOf(const std::string& library) {
   std::string error;
   const std::unique_ptr<ILibrary> loaded = Libraries().load(library, error);
@@ -68,22 +89,21 @@ std::string providerNameOf(const std::string& library) {
         ExitCode::NothingDone,
         "The library " + library + " is no provider: it has no entry point " + name + ".");
   }
-  const auto initialize = reinterpret_cast<SccInitializeFn*>(loaded->find("SccInitialize"));
-  const auto uninitialize = reinterpret_cast<SccUninitializeFn*>(loaded->find("SccUninitialize"));
-  LPVOID context = nullptr;
-  std::array<char, SCC_NAME_SIZE> name{};
-  std::array<char, SCC_AUXLABEL_SIZE> label{};
-  LONG number = 0;
-  const SCCRTN result =
-      initialize(&context, nullptr, "Veldra", name.data(), &number, label.data(), &number, &number);
+  SCCRTN result = SCC_OK;
+  std::string name;
+  try {
+    FaultGuard().guard([&] { name = askForName(*loaded, result); });
+  } catch (const std::exception& failure) {
+    throw CommandError(ExitCode::NothingDone, "The provider " + library +
+                                                  " fails when it is initialised: " +
+                                                  failure.what() + " Install another one.");
+  }
   if (result != SCC_OK) {
     throw CommandError(ExitCode::NothingDone, "The provider " + library +
                                                   " cannot be initialised; it returned " +
                                                   std::to_string(result) + ".");
   }
-  uninitialize(context);
-  name.back() = '\0';
-  return name[0] != '\0' ? name.data() : std::filesystem::path(library).stem().string();
+  return !name.empty() ? name : std::filesystem::path(library).stem().string();
 }
 
 void installProvider(const std::string& place, const std::string& name,

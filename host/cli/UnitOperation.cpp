@@ -77,9 +77,11 @@ class UnitBatch {
     const CMAskOnCheckoutGuard guard;
     UnitList units = m_selection.units;
     if (units.empty()) return;
+    const bool usesProvider = CMProperty::useSccCompliantTool() != 0;
     // A provider runs no commands that could be held back.
-    if (options.dryRun && CMProperty::useSccCompliantTool() != 0) return planAll();
-    const bool isRecursive = options.recursive && m_operation.runRecursive;
+    if (options.dryRun && usesProvider) return planAll();
+    // What lies in packages has been selected; a provider takes each unit and loads it anew.
+    const bool isRecursive = options.recursive && m_operation.runRecursive && !usesProvider;
     const UnitOperation::Run& run = isRecursive ? m_operation.runRecursive : m_operation.run;
     run(units, arguments.list(), m_diagnostics);
     if (isRecursive && m_operation.recursiveReloads && !options.dryRun) reload();
@@ -274,8 +276,10 @@ ExitCode runUnitOperation(const Invocation& invocation, const UnitOperation& ope
   std::string comment = readComment(invocation.options, invocation.console.in);
   Session session(invocation, operation.outputIsResult ? WindowUse::Result : WindowUse::Quiet);
   session.openProject();
-  if (operation.byTool != nullptr && CMProperty::useSccCompliantTool() == 0) {
-    return operation.byTool(session, invocation);
+  const bool usesProvider = CMProperty::useSccCompliantTool() != 0;
+  if (operation.byTool != nullptr && !usesProvider) return operation.byTool(session, invocation);
+  if (operation.providerAdvice != nullptr && usesProvider) {
+    throw CommandError(ExitCode::NothingDone, operation.providerAdvice);
   }
   if ((invocation.command.options & OptionSet::Comment) != 0) offerLastComment(session, comment);
   checkComment(comment);

@@ -33,6 +33,8 @@ struct UnitOperation {
   /// Does it where the project works with a command-line tool, and the module has only the
   /// provider's way.
   ExitCode (*byTool)(Session& session, const Invocation& invocation) = nullptr;
+  /// Why providers do not have it, and what to do instead; null when they do.
+  const char* providerAdvice = nullptr;
 };
 
 /// The sequence that all of them share: comment and label, project, units, the call, the report.

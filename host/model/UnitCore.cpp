@@ -133,9 +133,12 @@ void UnitCore::setFileName(const std::string& fileName) {
 }
 
 bool UnitCore::approveRename(const std::string& fileName) const {
-  // The model takes another name only when the CM tool has already given it to the file.
+  // The model takes another name only when the CM tool has already given it to the file, and never
+  // that of another unit's file.
+  const std::string newName = joinPath(m_record.folder->path, fileName);
+  const UnitCore* const known = m_project.unitByFile(newName);
   std::error_code unknown;
-  return std::filesystem::is_regular_file(joinPath(m_record.folder->path, fileName), unknown);
+  return (known == nullptr || known == this) && std::filesystem::is_regular_file(newName, unknown);
 }
 
 void UnitCore::takeHead(const UnitHead& head) {

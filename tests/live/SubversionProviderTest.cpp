@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <thread>
 
+#include "cm/scc/StoredFileEntryPoint.h"
 #include "tests/live/ProviderSession.h"
 #include "tests/live/Sandbox.h"
 
@@ -437,6 +438,82 @@ TEST_F(SubversionProviderTest, KnowsDirectories) {
             SCC_OK);
   EXPECT_THAT(status, testing::ElementsAre(SCC_DIRSTATUS_CONTROLLED, SCC_DIRSTATUS_NOTCONTROLLED,
                                            SCC_DIRSTATUS_EMPTYPROJ));
+}
+
+TEST_F(SubversionProviderTest, WritesTheStoresVersionBesideAndForgetsNothing) {
+  const std::string a = controlled("a", "$Id$\n");
+  aliceCommits("a", "newer\\n");
+  const Ended added = alice("mkdir d && echo new >d/b && svn add -q d && svn ci -q -m new");
+  ASSERT_EQ(added.code, 0) << added.err;
+  const auto getTo = [this](const std::string& name, const std::string& target) {
+    return m_provider.entry<SccGetToFn>("SccGetTo")(m_provider.context(), nullptr,
+                                                    file(name).c_str(), target.c_str());
+  };
+  const std::string target = m_sandbox.path("side");
+  m_sandbox.write("side", "of another comparison");
+  EXPECT_EQ(getTo("a", target), SCC_OK);
+  EXPECT_EQ(m_sandbox.read("side"), "newer\n");
+  EXPECT_EQ(m_provider.status(a), SCC_STATUS_CONTROLLED | SCC_STATUS_OUTOFDATE);
+  EXPECT_THAT(m_sandbox.read("work/a"), HasSubstr("$Id: a"));
+  EXPECT_EQ(getTo("d/b", target), SCC_OK);
+  EXPECT_EQ(m_sandbox.read("side"), "new\n");
+  EXPECT_FALSE(fs::exists(file("d")));
+  EXPECT_EQ(getTo("nowhere", target), SCC_E_FILENOTCONTROLLED);
+  EXPECT_EQ(m_sandbox.read("side"), "new\n");
+}
+
+TEST_F(SubversionProviderTest, ListsDirectoriesAndWhatDiffers) {
+  controlled("p/a");
+  controlled("b");
+  ASSERT_EQ(m_provider.checkOut({file("b")}), SCC_OK);
+  m_sandbox.write("work/b", "changed");
+  const Names names = {file("p/a"), file("b")};
+  LONG different[2] = {7, 7};
+  EXPECT_EQ(m_provider.entry<SccEnumChangedFilesFn>("SccEnumChangedFiles")(
+                m_provider.context(), nullptr, 2, pointersTo(names).data(), different),
+            SCC_OK);
+  EXPECT_THAT(different, testing::ElementsAre(0, 1));
+
+  static std::string seen;
+  const POPDIRLISTFUNC collect = [](LPVOID, BOOL isFolder, LPCSTR name) -> BOOL {
+    seen += fs::path(name).filename().string() + (isFolder != 0 ? "/ " : " ");
+    return SCC_OK;
+  };
+  const auto list = [&](LONG flags) {
+    seen.clear();
+    const std::string top = m_sandbox.path("work");
+    LPCSTR directory = top.c_str();
+    EXPECT_EQ(m_provider.entry<SccPopulateDirListFn>("SccPopulateDirList")(
+                  m_provider.context(), 1, &directory, collect, nullptr, flags),
+              SCC_OK);
+    return seen;
+  };
+  EXPECT_EQ(list(SCC_PDL_ONELEVEL), "p/ ");
+  EXPECT_EQ(list(SCC_PDL_RECURSIVE | SCC_PDL_INCLUDEFILES), "b p/ a ");
+}
+
+TEST_F(SubversionProviderTest, MakesProjectsInProjects) {
+  const auto create = m_provider.entry<SccCreateSubProjectFn>("SccCreateSubProject");
+  const auto parentOf = m_provider.entry<SccGetParentProjectPathFn>("SccGetParentProjectPath");
+  char aux[SCC_PRJPATH_SIZE] = {};
+  char made[SCC_PRJPATH_SIZE] = {};
+  LPVOID const context = m_provider.context();
+  const std::string url = m_provider.url();
+  EXPECT_EQ(create(context, nullptr, nullptr, url.c_str(), "a part", aux, made), SCC_OK);
+  EXPECT_EQ(made, url + "/a%20part");
+  EXPECT_EQ(m_provider.open(made, m_sandbox.path("part")), SCC_E_PROJECTALREADYOPEN);
+  ASSERT_EQ(m_provider.close(), SCC_OK);
+  EXPECT_EQ(m_provider.open(made, m_sandbox.path("part")), SCC_OK);
+  char parent[SCC_PRJPATH_SIZE] = {};
+  EXPECT_EQ(parentOf(context, nullptr, nullptr, made, aux, parent), SCC_OK);
+  EXPECT_EQ(parent, url);
+  EXPECT_EQ(parentOf(context, nullptr, nullptr, std::string(aux).c_str(), aux, parent), SCC_OK);
+  EXPECT_STREQ(parent, aux) << "the root is its own parent";
+  for (const char* name : {"", ".", "..", "a/b"}) {
+    EXPECT_EQ(create(context, nullptr, nullptr, url.c_str(), name, aux, made), SCC_E_PROJSYNTAXERR)
+        << name;
+  }
+  EXPECT_EQ(create(context, nullptr, nullptr, "no url", "a", aux, made), SCC_E_PROJSYNTAXERR);
 }
 
 TEST_F(SubversionProviderTest, OpensSeveralProjectsAtOnceFromSeveralThreads) {

@@ -19,7 +19,12 @@ IUnit* carryOut(ReloadScript::Outcome outcome, MemoryModel& model, IUnit* unit) 
 
 IUnit* MemoryQuickATM::reloadUnit(IUnit* unit) {
   m_journal.add("reload " + unit->getFileName());
-  return carryOut(m_script.quickReload, m_model, unit);
+  IUnit* const reloaded = carryOut(m_script.quickReload, m_model, unit);
+  auto* const known = dynamic_cast<MemoryUnit*>(reloaded);
+  if (known != nullptr && !m_script.computedFileName.empty()) {
+    known->record.computedFileName = m_script.computedFileName;
+  }
+  return reloaded;
 }
 
 IUnit* MemoryATM::addToModel(const std::string& fileName) {

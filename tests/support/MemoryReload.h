@@ -18,6 +18,8 @@ struct ReloadScript {
   Outcome addToModel = Outcome::Replace;
   Outcome fileCompare = Outcome::SameObject;
   int compareAnswer = 0;  ///< Non-zero lets the unit stay the same object.
+  /// The file name that follows from the name which a quick reload brings; empty: as before.
+  std::string computedFileName{};
 };
 
 class MemoryQuickATM : public QuickATMFacade {

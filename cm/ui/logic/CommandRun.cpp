@@ -5,6 +5,7 @@
 #include "cm/core/CMCoCiDisplayStatus.h"
 #include "cm/core/CMFacade.h"
 #include "cm/core/TextTools.h"
+#include "cm/core/WorkspaceUnits.h"
 #include "cm/host/Host.h"
 #include "cm/host/IPN.h"
 #include "cm/host/IUserMessages.h"

@@ -4,7 +4,6 @@
 #include "cm/core/CMFacade.h"
 #include "cm/core/UnitBatch.h"
 #include "cm/core/UnitReload.h"
-#include "cm/host/ATMRecursiveHelper.h"
 #include "cm/host/CSignal2Exception.h"
 #include "cm/host/IProject.h"
 #include "cm/templates/CMProperty.h"
@@ -24,17 +23,6 @@ bool isUnitFile(const std::string& fileName) {
 }
 
 }  // namespace
-
-UnitList withNestedFiles(const UnitList& units) {
-  UnitList all;
-  for (IUnit* unit : units) {
-    const UnitList nested = ATMRecursiveHelper::getListOFFilesIn(unit, true);
-    if (nested.empty()) all.push_back(unit);
-    all.insert(all.end(), nested.begin(), nested.end());
-  }
-  CMFacade::removeDuplicatesFromItemList(all);
-  return all;
-}
 
 void CmGetArcItemsFor(const IUnit& unit, CMArchiveItemListWrapper& items) {
   items.addTail(new CMArchiveItem(nameNShortPath(&unit), {}, CMArchiveItem::ReadOnly, {}, {}));

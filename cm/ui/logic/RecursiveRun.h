@@ -10,9 +10,6 @@
 
 namespace veldra {
 
-/// The units and every unit with a file that lies in them, each once.
-UnitList withNestedFiles(const UnitList& units);
-
 /// Appends an archive item for the unit's file. The wrapper owns it.
 void CmGetArcItemsFor(const IUnit& unit, CMArchiveItemListWrapper& items);
 

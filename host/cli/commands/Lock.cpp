@@ -10,7 +10,10 @@ ExitCode runLock(const Invocation& invocation) {
                                        .pastAction = "locked",
                                        .mode = CMMode::ReadWrite,
                                        .all = AllUnits::ReadOnly,
-                                       .lock = "taken"};
+                                       .lock = "taken",
+                                       .providerAdvice =
+                                           "A source control provider locks units when it checks "
+                                           "them out: use \"veldra-cm checkout\"."};
   return runUnitOperation(invocation, operation);
 }
 

@@ -10,7 +10,10 @@ ExitCode runUnlock(const Invocation& invocation) {
                                        .pastAction = "unlocked",
                                        .mode = CMMode::ReadOnly,
                                        .all = AllUnits::Writable,
-                                       .lock = "given back"};
+                                       .lock = "given back",
+                                       .providerAdvice =
+                                           "A source control provider gives locks back when it "
+                                           "checks units in, or at \"veldra-cm undo\"."};
   return runUnitOperation(invocation, operation);
 }
 

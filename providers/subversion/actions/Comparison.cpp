@@ -3,6 +3,7 @@
 #include <svn_io.h>
 
 #include "cm/scc/interface/SccCommands.h"
+#include "providers/subversion/actions/StoredVersion.h"
 #include "providers/subversion/runtime/Failure.h"
 
 namespace veldra::subversion {
@@ -12,8 +13,7 @@ using namespace scc;
 bool hasOtherBytes(Project& project, const std::string& file) {
   const Pool pool;
   svn_stringbuf_t* const stored = svn_stringbuf_create_empty(pool);
-  check(svn_client_cat3(nullptr, svn_stream_from_stringbuf(stored, pool), file.c_str(), &NoRevision,
-                        &HeadRevision, TRUE, project.client, pool, pool));
+  readStoredVersion(project, file, svn_stream_from_stringbuf(stored, pool));
   svn_stringbuf_t* present = nullptr;
   check(svn_stringbuf_from_file2(&present, file.c_str(), pool));
   return !svn_stringbuf_compare(stored, present);

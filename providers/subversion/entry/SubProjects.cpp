@@ -1,6 +1,8 @@
 #include <svn_dirent_uri.h>
 #include <svn_path.h>
 
+#include <string_view>
+
 #include "cm/scc/interface/SccEntryPoints.h"
 #include "providers/subversion/entry/Frame.h"
 #include "providers/subversion/entry/ProjectBuffers.h"
@@ -24,6 +26,11 @@ std::string projectUrl(LPCSTR project) {
   return url;
 }
 
+/// One part of a URL, and not one that means another folder.
+bool isFolderName(std::string_view name) {
+  return !name.empty() && name != "." && name != ".." && name.find('/') == std::string_view::npos;
+}
+
 }  // namespace
 
 SCCRTN SCC_CALL SccCreateSubProject(LPVOID pointer, HWND, LPSTR user, LPCSTR parentProject,
@@ -32,8 +39,7 @@ SCCRTN SCC_CALL SccCreateSubProject(LPVOID pointer, HWND, LPSTR user, LPCSTR par
     const TextOutput nobody;
     Client client(nobody, user ? user : "");
     const std::string parent = projectUrl(parentProject);
-    if (!name || *name == '\0' || std::string(name).find('/') != std::string::npos)
-      return SCC_E_PROJSYNTAXERR;
+    if (!name || !isFolderName(name)) return SCC_E_PROJSYNTAXERR;
     if (!isFolderInStore(client, parent)) return SCC_E_UNKNOWNPROJECT;
     const Pool pool;
     const std::string url = svn_path_url_add_component2(parent.c_str(), name, pool);

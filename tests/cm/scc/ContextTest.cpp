@@ -20,10 +20,12 @@ class ContextTest : public ProviderTest {
     return SCCConnectToCMRepository().getSccContext(m_context, unit);
   }
   std::size_t contexts() const { return CMProperty::getPvContextStructList().size(); }
-  /// Makes the module look for the library again.
-  void lookAgain() {
+  /// Sets a project up as if it had just been opened.
+  void openAnew() {
     forget();
-    CMFacade::doSetUpSCC();
+    moduleState().backEnd = {};
+    CMProperty::setIsLoaded(false);
+    EXPECT_EQ(CMFacade::doSetUpSCC(), 1);
   }
 
   pvContextStruct* m_context = nullptr;
@@ -42,8 +44,7 @@ TEST_F(ContextTest, TheRegistryNamesTheLibrary) {
     m_host.memoryRegistry = {};
     m_host.memoryRegistry.write(Key, "ProviderRegKey", c.format);
     m_host.memoryRegistry.write(c.subkey, "SccServerPath", VELDRA_RECORDING_PROVIDER);
-    CMProperty::setIsLoaded(false);
-    lookAgain();
+    openAnew();
     EXPECT_THAT(shown(), IsEmpty());
     EXPECT_TRUE(CMProperty::getDLLokay());
     EXPECT_EQ(CMProperty::getSCCProviderDLL(), VELDRA_RECORDING_PROVIDER);
@@ -57,8 +58,7 @@ TEST_F(ContextTest, AProviderThatIsNotFoundIsReportedAndStaysSelected) {
     m_host.memoryRegistry = {};
     if (missing > 0) m_host.memoryRegistry.write(Key, "ProviderRegKey", "Software\\A");
     if (missing > 1) m_host.memoryRegistry.write("Software\\A", "SccServerPath", path);
-    CMProperty::setIsLoaded(false);
-    lookAgain();
+    openAnew();
     EXPECT_THAT(shown(), ElementsAre("46563: %1 %2"));
     EXPECT_FALSE(CMProperty::getDLLokay());
     EXPECT_EQ(CMProperty::getUseSCCtool(), 1);

@@ -240,6 +240,13 @@ TEST_F(MemberOperationsSccTest, TheArchiveIsListedWithVersionHolderAndStatus) {
   const CMArchiveItem& others = **std::next(items.list().begin());
   EXPECT_EQ(others.getLocker(), "bob");
   EXPECT_THAT(others.getStatus(), HasSubstr("49763"));
+
+  // Where names have either separator, they have either case as well.
+  m_host.memoryEnvironment.separator = '\\';
+  m_provider->listed = {"/PLAN\\A.vcl", "\\plan/Sub\\..\\..\\B.vcl"};
+  CMArchiveItemListWrapper again;
+  EXPECT_EQ(CMFacade::ListArchive(again.list(), m_arguments, m_diagnostics), 1);
+  EXPECT_EQ(again.list().size(), 1U);
 }
 
 TEST_F(MemberOperationsSccTest, FilesOfTheArchiveAreCheckedOutAndLoaded) {
@@ -259,9 +266,14 @@ TEST_F(MemberOperationsSccTest, FilesOfTheArchiveAreCheckedOutAndLoaded) {
 }
 
 TEST_F(MemberOperationsSccTest, ARecursiveCheckOutTakesWhatLiesBelow) {
-  m_units = {&addPackage()};
+  MemoryPackage& package = addPackage();
+  // What lies in a unit need not lie in its directory.
+  package.record.packageDirectory.clear();
+  package.record.aggregates = {&m_a};
+  m_units = {&package};
   EXPECT_EQ(call(CMFacade::RecCheckOut), 0);
-  EXPECT_THAT(calls("SccCheckout"), SizeIs(2));
+  EXPECT_THAT(calls("SccCheckout"), ElementsAre("SccCheckout /plan/Brewing/Brewing.vpk '' 0",
+                                                "SccCheckout /plan/A.vcl '' 0"));
 }
 
 TEST_F(MemberOperationsSccTest, AComparisonLeavesTheWorkingFileUntouched) {
@@ -313,8 +325,14 @@ TEST_F(MemberOperationsSccTest, AComparisonIsRefusedWhereItWouldLoseChanges) {
   EXPECT_EQ(call(CMFacade::FetchForDiff), 0);
   EXPECT_THAT(m_diagnostics, SizeIs(1)) << "no target";
   m_arguments = {&target};
-  m_provider->status["/plan/A.vcl"] = 0x821;
-  EXPECT_EQ(call(CMFacade::FetchForDiff), 0);
+  // The provider would take what comes back for changes to the newer version.
+  for (const auto& [status, message] : {std::pair(0x821, "60211"), std::pair(0x21, "60870")}) {
+    forget();
+    m_provider->status["/plan/A.vcl"] = status;
+    EXPECT_EQ(call(CMFacade::FetchForDiff), 0);
+    EXPECT_THAT(shown(), ElementsAre(HasSubstr(message)));
+    EXPECT_THAT(calls("SccGet"), IsEmpty());
+  }
   m_host.files.write("/plan/A.vcl_temp", "of another comparison");
   m_provider->status.clear();
   EXPECT_EQ(call(CMFacade::FetchForDiff), 0);
@@ -375,11 +393,19 @@ TEST_F(MemberOperationsSccTest, AnActivityIsAskedForOncePerBatch) {
   call(CMFacade::CheckOut);
   EXPECT_THAT(calls("SccCheckout"), IsEmpty());
   EXPECT_THAT(ends(), ElementsAre(UnitEnd::Declined, UnitEnd::Declined));
+  call(CMFacade::CheckOut);
+  EXPECT_THAT(m_host.memoryMessages.lastProposals, ElementsAre("bug-7")) << "not forgotten by that";
 }
 
 TEST_F(MemberOperationsSccTest, ATaskIsChosenOrMadeWhereThereIsNone) {
   CMProperty::setSCCToolName("Corvane");
   m_provider->tasks = {"paint", "polish"};
+  call(CMFacade::CheckOut);
+  EXPECT_THAT(m_host.memoryMessages.textQuestions, SizeIs(1));
+  EXPECT_THAT(calls("SccCheckout"), IsEmpty()) << "the user gave up";
+  EXPECT_THAT(ends(), ElementsAre(UnitEnd::Declined, UnitEnd::Declined));
+  forget();
+  m_units = {&m_a, &m_b};
   m_host.memoryMessages.textAnswer = "sand";
   call(CMFacade::CheckOut);
   EXPECT_THAT(m_host.memoryMessages.lastProposals, ElementsAre("paint", "polish"));
@@ -389,7 +415,7 @@ TEST_F(MemberOperationsSccTest, ATaskIsChosenOrMadeWhereThereIsNone) {
   forget();
   m_provider->defaultTask = "sand";
   call(CMFacade::CheckOut);
-  EXPECT_THAT(m_host.memoryMessages.textQuestions, SizeIs(1)) << "there is one already";
+  EXPECT_THAT(m_host.memoryMessages.textQuestions, SizeIs(2)) << "there is one already";
 }
 
 TEST_F(MemberOperationsSccTest, TaskCommandsReachTheProviderOrSayThatItLacksThem) {

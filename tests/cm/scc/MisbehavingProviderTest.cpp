@@ -13,6 +13,7 @@ namespace {
 using ::testing::AllOf;
 using ::testing::Contains;
 using ::testing::Each;
+using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
@@ -20,6 +21,8 @@ using ::testing::SizeIs;
 /// A project whose archive project names the provider's fault.
 class MisbehavingProviderTest : public ProviderTest {
  protected:
+  using Operation = int (*)(UnitList&, ArgumentList&, DiagnosticList&);
+
   MisbehavingProviderTest() {
     m_host.guard = &m_guard;
     registerProvider(VELDRA_MISBEHAVING_PROVIDER);
@@ -57,9 +60,11 @@ TEST_F(MisbehavingProviderTest, ACrashEndsTheOperationAndTheProviderButNothingEl
     EXPECT_EQ(m_host.memoryProgress.openProviderCalls, 0);
     EXPECT_EQ(m_host.undo.open, 0);
     // Whatever it may have broken, it is not asked again.
-    forget();
-    EXPECT_EQ(CMFacade::CheckIn(m_units, m_arguments, m_diagnostics), 0);
-    EXPECT_THAT(shown(), Contains(HasSubstr("60201: SccGet")));
+    for (const Operation operation : {&CMFacade::CheckIn, &CMFacade::History}) {
+      forget();
+      EXPECT_EQ(operation(m_units, m_arguments, m_diagnostics), 0);
+      EXPECT_THAT(shown(), ElementsAre(HasSubstr("60201: SccGet")));
+    }
   }
 }
 
@@ -160,7 +165,6 @@ TEST_F(MisbehavingProviderTest, AProviderWithoutEntryPointsReadsAsSuccessOrIsRep
   EXPECT_EQ(CMFacade::Uncheckout(m_units, m_arguments, m_diagnostics), 0);
   EXPECT_THAT(shown(), IsEmpty());
   EXPECT_THAT(m_diagnostics, IsEmpty());
-  using Operation = int (*)(UnitList&, ArgumentList&, DiagnosticList&);
   for (const Operation operation :
        {&CMFacade::History, &CMFacade::Properties, &CMFacade::AddMember, &CMFacade::DeleteMember}) {
     m_diagnostics.clear();

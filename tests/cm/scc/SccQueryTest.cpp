@@ -45,6 +45,7 @@ TEST_F(SccQueryTest, ManyUnitsInOneCallOrOneByOne) {
 TEST_F(SccQueryTest, NothingIsAskedInVain) {
   std::int32_t status = 7;
   EXPECT_EQ(SccQuery::query({"a"}, &status, nullptr), -1);
+  SccQuery::queryAndSetStatus(UnitList{nullptr}, m_context);
   m_project.showsStatus = false;
   SccQuery::queryAndSetStatus(m_units, m_context);
   SccQuery::queryAndSetStatusOneByOne(m_units, m_context);
@@ -58,16 +59,14 @@ TEST_F(SccQueryTest, NothingIsAskedInVain) {
   EXPECT_THAT(shown(), IsEmpty());
 }
 
-TEST_F(SccQueryTest, ItemsStandForTheirUnitsAndWhatLiesBelow) {
+TEST_F(SccQueryTest, ItemsStandForTheirUnitsAndWhatLiesInThem) {
   MemoryPackage& package = m_model.addPackage("Brewing/Brewing.vpk");
-  package.record.packageDirectory = "Brewing";
-  m_model.addUnit("Brewing/Boiler.vcl");
+  package.record.aggregates = {&m_model.addUnit("Boiler.vcl")};
   m_model.fullPathRepFiles = true;
   addItem("Brewing/Brewing.vpk");
   addItem("Gone.vcl");
   SccQuery::queryAndSetStatus(m_items, m_context, true);
-  EXPECT_THAT(calls(), ElementsAre("SccQueryInfo /plan/Brewing/Brewing.vpk "
-                                   "/plan/Brewing/Boiler.vcl"));
+  EXPECT_THAT(calls(), ElementsAre("SccQueryInfo /plan/Brewing/Brewing.vpk /plan/Boiler.vcl"));
 }
 
 TEST_F(SccQueryTest, CodesBecomeMessages) {

@@ -193,7 +193,10 @@ TEST_F(UnitOperationsSccTest, AFailedCheckInPutsTheProjectFileBack) {
 TEST_F(UnitOperationsSccTest, UndoRestoresFileByFile) {
   MemoryEmbeddedFile& notes = m_model.addEmbeddedFile("notes.txt");
   m_a.record.recordedFileName = "A.vcl";
-  m_a.record.computedFileName = "Engine.vcl";
+  // Never followed its unit's name, and does not begin to.
+  m_b.record.recordedFileName = "B.vcl";
+  m_b.record.computedFileName = "Wheel.vcl";
+  m_host.reloads.computedFileName = "Engine.vcl";
   m_units = {&m_a, &notes, &m_b};
   m_provider->results["SccUncheckout"] = 0;
   EXPECT_EQ(undo(), 0);

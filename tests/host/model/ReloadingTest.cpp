@@ -166,12 +166,14 @@ TEST(Reload, modeIsTheOwnersWritePermissionOrTheToolsWord) {
   }
 }
 
-TEST(Rename, isApprovedOnlyForAFileThatIsThere) {
+TEST(Rename, isApprovedOnlyForAFileThatIsThereAndNoOtherUnits) {
   TempModel model;
   model.putProject();
   model.put("Old.vcmp", TempModel::unitText("Component", "New: name"));
+  model.putUnit("Other.vcmp");
   const auto project = model.load();
   IUnit& unit = project->unitByFile("Old.vcmp")->unit();
+  EXPECT_FALSE(unit._approveCMRename("Other.vcmp"));
   EXPECT_EQ(unit.getComputedFileName(), "New_ name.vcmp");
   EXPECT_FALSE(unit._approveCMRename("New_ name.vcmp"));
   fs::rename(model.path("Old.vcmp"), model.path("New_ name.vcmp"));

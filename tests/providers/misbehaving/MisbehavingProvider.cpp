@@ -1,11 +1,14 @@
 // A provider with one fault per archive project: the project's name is that of the fault. The
-// faults show in SccGet unless they are about another call.
+// faults show in SccGet unless they are about another call. Before there is a project, the variable
+// VELDRA_PROVIDER_FAULT names one.
 
 #include <atomic>
 #include <chrono>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 #include <thread>
 
@@ -61,6 +64,7 @@ SCC_EXPORT void releaseMisbehaving() {
 
 SCC_EXPORT SCCRTN SccInitialize(LPVOID* context, HWND, LPCSTR, LPSTR name, LPLONG capabilities,
                                 LPSTR label, LPLONG, LPLONG) {
+  if (std::getenv("VELDRA_PROVIDER_FAULT") != nullptr) crash();
   *context = &isReleased;
   // What kind of fault it is, only SccOpenProject learns; full buffers hurt nobody.
   fillUp(name, SCC_NAME_SIZE);
@@ -83,8 +87,26 @@ SCC_EXPORT SCCRTN SccOpenProject(LPVOID, HWND, LPSTR user, LPCSTR project, LPCST
   return SCC_OK;
 }
 
+SCC_EXPORT LONG SccGetVersion() {
+  return SCC_VERSION_1_1;
+}
 SCC_EXPORT SCCRTN SccCloseProject(LPVOID) {
   return SCC_OK;
+}
+SCC_EXPORT SCCRTN SccSetOption(LPVOID, LONG, LONG) {
+  return SCC_OK;
+}
+SCC_EXPORT SCCRTN SccCheckout(LPVOID, HWND, LONG, LPCSTR*, LPCSTR, LONG, LPCMDOPTS) {
+  return wordCode();
+}
+SCC_EXPORT SCCRTN SccUncheckout(LPVOID, HWND, LONG, LPCSTR*, LONG, LPCMDOPTS) {
+  return wordCode();
+}
+SCC_EXPORT SCCRTN SccCheckin(LPVOID, HWND, LONG, LPCSTR*, LPCSTR, LONG, LPCMDOPTS) {
+  return wordCode();
+}
+SCC_EXPORT SCCRTN SccAdd(LPVOID, HWND, LONG, LPCSTR*, LPCSTR, LPLONG, LPCMDOPTS) {
+  return wordCode();
 }
 SCC_EXPORT SCCRTN SccUninitialize(LPVOID) {
   return SCC_OK;
@@ -116,6 +138,8 @@ SCC_EXPORT SCCRTN SccPopulateList(LPVOID, SCCCOMMAND, LONG, LPCSTR* files, POPLI
   populate(data, 1, 1, endless);
   char outside[] = "/somewhere/else.vcl";
   populate(data, 1, 1, outside);
+  std::string climbing = std::string(files[0]) + "/a/../../else.vcl";
+  populate(data, 1, 1, climbing.data());
   populate(data, 1, 1, nullptr);
   return wordCode();
 }

@@ -6,6 +6,7 @@
 #include "cm/core/CMArguments.h"
 #include "cm/core/CMFacade.h"
 #include "cm/core/TextTools.h"
+#include "cm/core/WorkspaceUnits.h"
 #include "cm/host/CSignal2Exception.h"
 #include "cm/host/Host.h"
 #include "cm/host/IPN.h"
@@ -15,7 +16,6 @@
 #include "cm/ui/logic/HostTexts.h"
 #include "cm/ui/logic/LiveUnits.h"
 #include "cm/ui/logic/OutputFlush.h"
-#include "cm/ui/logic/RecursiveRun.h"
 
 namespace veldra {
 
