@@ -4,7 +4,7 @@
 . "${0%/*}/common.sh"
 
 name_files "$2" "$3"
-[ -f "$archived" ] || fail "'$archived' does not exist; the file is not in the archive."
+in_archive
 case ${4:-} in
   --to=*)
     co -q "-p${1#-r}" "$archived" >"${4#--to=}"

@@ -1,9 +1,9 @@
 # Sourced by the helpers beside it.
 #
 # They name a file by its archive file ("...,v") and the directory that it is worked on in, which
-# ends with a slash. The tools print no translated texts, and names and contents are bytes to them.
-LC_ALL=C
-export LC_ALL
+# ends with a slash. The tools print no translated texts, and names and contents are bytes to them. Only
+# what ends in ",v" is an archive file: by default so is everything below any directory "RCS".
+export LC_ALL=C RCSINIT=-x,v
 
 newline='
 '
@@ -16,6 +16,11 @@ fail() {
 for program in ci co rcs rcsdiff rlog; do
   command -v "$program" >/dev/null || fail "The program '$program' is not installed or not in PATH."
 done
+
+# in_archive: fails unless $archived exists.
+in_archive() {
+  [ -f "$archived" ] || fail "'$archived' does not exist; the file is not in the archive."
+}
 
 # newest: the newest revision of $archived.
 newest() {

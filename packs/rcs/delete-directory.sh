@@ -45,5 +45,6 @@ each delete_and_note || {
   fail "'$working' could not be deleted; nothing is."
 }
 # Only what is empty goes.
-find "$directory" -depth -type d ! -name RCS ! -path '*/RCS/*' -exec rmdir {} + 2>/dev/null
+(cd "$directory" && find . -mindepth 1 -depth -type d ! -name RCS ! -path '*/RCS/*' -exec rmdir {} +) 2>/dev/null
+rmdir "$directory" 2>/dev/null
 exit 0
