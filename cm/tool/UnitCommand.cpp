@@ -166,10 +166,11 @@ int UnitCommand::runCommand(UnitRun& run, const UnitCallFrame& call, UnitProgres
   int status = expanded;
   bool isUnchanged = false;
   if (expanded == 1) {
-    std::string output;
-    status = runTraced(command, row().traceBefore, row().traceAfter, output, run.errorText);
+    ToolAnswer answer;
+    status = runTraced(command, row(), answer);
     isUnchanged = status == 1 && row().tellsUnchanged &&
-                  markedFiles(output, UnchangedMark).contains(run.unit->getFullFileName());
+                  answer.marked(UnchangedMark).contains(run.unit->getFullFileName());
+    run.errorText = std::move(answer.errorText);
   }
   progress.endsByCommand(expanded, status);
   if (isUnchanged && !theCMToolShellInterface().lastCommandEnd().failed) {

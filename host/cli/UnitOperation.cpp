@@ -183,8 +183,8 @@ class UnitBatch {
   void tell(const UnitTrace& trace) {
     const Options& options = m_session.options();
     const auto at = m_indexOf.find(trace.file);
-    const bool isShown = trace.end == UnitEnd::Done && !options.json && !options.dryRun &&
-                         at != m_indexOf.end();
+    const bool isShown =
+        trace.end == UnitEnd::Done && !options.json && !options.dryRun && at != m_indexOf.end();
     if (!isShown) return;
     std::ostream& out = m_session.console().out;
     if (m_operation.outputIsResult) {

@@ -43,17 +43,15 @@ commit() {
   return 1
 }
 
-# refuse: says why a commit failed; beside files that are done the reason goes to the same output.
+# refuse: says why a commit failed, beside the names of the files that are done.
 refuse() {
   case $answer in
     *'Up-to-date check failed'*)
       answer="$pack: The archive has a newer revision. Fetch first, then do it again.$newline$answer"
       ;;
   esac
-  [ -s "$work/done" ] || give_up
   cat "$work/done"
-  show
-  exit 1
+  give_up
 }
 
 attach_label() {
@@ -61,3 +59,4 @@ attach_label() {
 }
 
 open_work
+: >"$work/done"

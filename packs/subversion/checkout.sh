@@ -31,17 +31,12 @@ answer=$(lock) && show && exit
 printf '%s\n' "$answer" | sed -n "s/^'\(.*\)' locked by user '[^']*'\.\$/\1/p" >"$work/locked"
 tell "done" "$work/locked"
 case $units$(cat "$work/refused") in
-  @*)
-    # Beside error lines the lines above would be lost, so this goes the same way.
-    cat "$work/refused"
-    exit 1
-    ;;
+  @*) ;;
   # The working copy is behind the archive, or does not have the file yet.
   *W160042:* | *E160042:* | *E155010:* | *E155007:*)
     update HEAD && svn lock --targets "$targets"
-    ;;
-  *)
-    cat "$work/refused" >&2
-    exit 1
+    exit
     ;;
 esac
+cat "$work/refused" >&2
+exit 1
