@@ -36,3 +36,19 @@ name_files() {
     *,v) fail "RCS takes every name that ends in ',v' for an archive file; rename '$working'." ;;
   esac
 }
+
+# lockers ARCHIVEFILE: who holds locks, one a line.
+lockers() {
+  rlog -h "$1" | sed -n '/^locks:/,/^access list:/ s/^\t\([^:]*\):.*/\1/p'
+}
+
+# user: the name that the RCS tools take for the user's.
+user() {
+  printf '%s\n' "${LOGNAME:-${USER:-$(id -un)}}"
+}
+
+# is_checked_out: whether the user holds $archived, and may write $working.
+is_checked_out() {
+  [ -n "$(find "$working" -maxdepth 0 -type f -perm -u+w 2>/dev/null)" ] &&
+    lockers "$archived" | grep -q -x -F -e "$(user)"
+}
