@@ -168,7 +168,13 @@ int CMToolShellInterface::Execute(const std::string& command, std::string& outpu
   }
   workingDirectory = workingDirectoryOfProject();
   if (!enterDirectory(workingDirectory, errorText)) return 0;
-  runCommand(command, output, errorText);
+  try {
+    runCommand(command, output, errorText);
+  } catch (...) {
+    // The host failed; its process goes on where it was.
+    installedHost()->environment().setCurrentDirectory(previous);
+    throw;
+  }
   return enterDirectory(previous, errorText) ? 1 : 0;
 }
 
