@@ -1,8 +1,8 @@
 # Sourced by the helpers beside it.
 #
-# They name a file by its archive file ("...,v") and the directory that it is worked on in, which
-# ends with a slash. The tools print no translated texts, and names and contents are bytes to them. Only
-# what ends in ",v" is an archive file: by default so is everything below any directory "RCS".
+# They name a file by its archive file ("...,v") and the directory that it is worked on in, which ends
+# with a slash. The first "/./" in a place of the archive tells where the archive itself ends. The tools
+# print no translated texts, and names and contents are bytes to them. Only what ends in ",v" is an archive file: by default so is everything below any directory "RCS".
 export LC_ALL=C RCSINIT=-x,v
 
 newline='
@@ -17,6 +17,19 @@ for program in ci co rcs rcsdiff rlog; do
   command -v "$program" >/dev/null || fail "The program '$program' is not installed or not in PATH."
 done
 
+# find_archive PLACE: sets $place, without the mark in it. Fails when there is no archive: a disk that is
+# away must not look like an empty one.
+find_archive() {
+  place=$1
+  case $1 in
+    */./*)
+      root=${1%%/./*}
+      place=$root/${1#*/./}
+      [ -d "$root" ] || fail "The archive '$root' is not a directory; connect to it first."
+      ;;
+  esac
+}
+
 # in_archive: fails unless $archived exists.
 in_archive() {
   [ -f "$archived" ] || fail "'$archived' does not exist; the file is not in the archive."
@@ -29,7 +42,8 @@ newest() {
 
 # name_files ARCHIVEFILE DIRECTORY: sets $archived and $working.
 name_files() {
-  archived=$1
+  find_archive "$1"
+  archived=$place
   working=${archived##*/}
   working=$2${working%,v}
   case $working in

@@ -102,7 +102,10 @@ show() {
   [ -z "$answer" ] || printf '%s\n' "$answer"
 }
 
+# give_up: tells the reason, without the progress that svn has told before it.
 give_up() {
+  reason=$(printf '%s\n' "$answer" | sed -n '/^svn[a-z]*: \|^subversion: /,$p')
+  answer=${reason:-$answer}
   show >&2
   exit 1
 }

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <map>
+#include <utility>
 
 #include "tests/live/Tool.h"
 
@@ -103,6 +105,30 @@ TEST_P(FailureAdviceTest, AFolderThatIsNotConnected) {
   for (const char* command : {"lock", "checkin", "history"}) {
     expectAdvice({command, m_unit}, "veldra-cm connect");
   }
+}
+
+TEST_P(FailureAdviceTest, WhatTheArchiveSaysAgainstACheckInIsRead) {
+  const std::string hook = m_sandbox.path("hook");
+  const std::map<std::string, std::pair<std::string, std::string>> hooks = {
+      {"Subversion", {"hooks/pre-commit", "#!/bin/sh\nexec sh '" + hook + "'\n"}},
+      {"Git", {"hooks/pre-receive", "#!/bin/sh\nexec sh '" + hook + "'\n"}},
+      {"Mercurial", {".hg/hgrc", "[hooks]\npretxnchangegroup.x = sh '" + hook + "'\n"}},
+      {"CVS", {"CVSROOT/commitinfo", "ALL sh " + hook + " %r/%p %s\n"}}};
+  const auto at = hooks.find(GetParam());
+  if (at == hooks.end()) GTEST_SKIP() << GetParam() << " has no such thing";
+  m_sandbox.write("hook", "echo 'not on Fridays' >&2\nexit 1\n");
+  ASSERT_EQ(cm({"checkout", m_unit, m_other}).code, 0);
+  for (const std::string& unit : {m_unit, m_other}) {
+    m_sandbox.write("model/" + unit, m_sandbox.read("model/" + unit) + "\n");
+  }
+  m_sandbox.shell("chmod -f u+w archive/" + at->second.first);
+  m_sandbox.write("archive/" + at->second.first, at->second.second);
+  m_sandbox.shell("chmod +x archive/" + at->second.first);
+  const Ended refused = cm({"checkin", m_unit, m_other, "-m", "today"});
+  EXPECT_EQ(refused.code, 3);
+  EXPECT_EQ(refused.out, "");
+  EXPECT_THAT(refused.err, HasSubstr("not on Fridays"));
+  EXPECT_TRUE(m_sandbox.isWritable("model/" + m_unit));
 }
 
 TEST_P(FailureAdviceTest, ANewerRevisionInTheArchiveMeansFetchFirst) {
