@@ -128,6 +128,7 @@ TEST_P(FailureAdviceTest, WhatTheArchiveSaysAgainstACheckInIsRead) {
   EXPECT_EQ(refused.code, 3);
   EXPECT_EQ(refused.out, "");
   EXPECT_THAT(refused.err, HasSubstr("not on Fridays"));
+  EXPECT_THAT(refused.err, HasSubstr("Ask the administrator of the archive"));
   EXPECT_TRUE(m_sandbox.isWritable("model/" + m_unit));
 }
 
