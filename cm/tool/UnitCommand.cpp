@@ -38,7 +38,7 @@ UnitCommand::Verdicts UnitCommand::refuse(const UnitList& units, const UnitCallF
     std::optional<CMNameChange> change = nameChange(*unit, call);
     if (refuseUnsafeName(*unit, diagnostics) ||
         (change && refuseUnsafeName(unit, change->substitute("newName"), diagnostics))) {
-      verdicts.emplace(unit, UnitEnd::Refused);
+      verdicts.try_emplace(unit, UnitEnd::Refused, diagnostics.back().getMessage());
     }
   }
   return verdicts;
@@ -65,7 +65,7 @@ void UnitCommand::runBatches(const UnitList& units, const UnitCallFrame& call,
     const UnitEnd verdict = !asks.allows(*unit) ? UnitEnd::Declined
                             : !accepts(*unit)   ? UnitEnd::Refused
                                                 : UnitEnd::Done;
-    verdicts.emplace(unit, verdict);
+    verdicts.try_emplace(unit, verdict);
     if (verdict == UnitEnd::Done) call.batches.add(*unit, single);
   }
   if (!UnitProgress::isCancelled()) {
@@ -108,8 +108,8 @@ int UnitCommand::runAll(UnitList& units, const UnitCallFrame& call,
     if (run.unit != nullptr && !isGone) {
       UnitProgress progress(row().name, position, count, run.unit->getFullFileName());
       const auto verdict = verdicts.find(run.unit);
-      if (verdict != verdicts.end() && verdict->second != UnitEnd::Done) {
-        progress.endsAs(verdict->second);
+      if (verdict != verdicts.end() && verdict->second.end != UnitEnd::Done) {
+        progress.endsAs(verdict->second.end, verdict->second.words);
       } else if (verdict == verdicts.end() && !asks.allows(*run.unit)) {
         progress.endsAs(UnitEnd::Declined);
       } else {
