@@ -8,11 +8,6 @@
 mode=$1 units=$2 revision=${3:-HEAD}
 name_targets "$units"
 
-# about COMMAND...: svn with the targets at its end.
-about() {
-  tr '\n' '\000' <"$targets" | xargs -0 sh "${0%/*}/svn.sh" "$@" --
-}
-
 # lock: what svn complains about is kept.
 lock() {
   svn lock --targets "$targets" 2>"$work/refused"
@@ -20,13 +15,13 @@ lock() {
 
 # locked_here: those of $targets that are; a lock that somebody has taken away does not count.
 locked_here() {
-  about status --show-updates --depth empty | sed -n 's/^.\{5\}K.\{15\}//p'
+  on_targets status --show-updates --depth empty | sed -n 's/^.\{5\}K.\{15\}//p'
 }
 
 if [ "$mode" = --unlocked ]; then
   number=$(revision_of "$revision")
   [ -n "$number" ] || fail "There is no label or revision '$revision' in the archive."
-  about update --parents --revision "$number"
+  on_targets update --parents --revision "$number"
   exit
 fi
 [ "$revision" = HEAD ] ||
@@ -37,7 +32,7 @@ case "$mode $units $(cat "$work/refused")" in
   '--lock '* | '--locked @'*) ;;
   # The working copy is behind the archive, or does not have the file yet.
   *W160042:* | *E160042:* | *E155010:* | *E155007:*)
-    about update --parents --revision HEAD && svn lock --targets "$targets"
+    on_targets update --parents --revision HEAD && svn lock --targets "$targets"
     exit
     ;;
 esac

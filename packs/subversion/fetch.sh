@@ -22,5 +22,4 @@ if [ -n "$to" ]; then
   exit
 fi
 name_targets "$units"
-tr '\n' '\000' <"$targets" |
-  xargs -0 sh "${0%/*}/svn.sh" update --parents --revision "$number" --
+on_targets update --parents --revision "$number"
