@@ -53,7 +53,13 @@ class FailureAdviceTest : public testing::TestWithParam<const char*> {
 };
 
 TEST_P(FailureAdviceTest, FailuresOfTheDailyWork) {
-  expectAdvice({"history", "Product/Product.vpkg"}, "veldra-cm add");
+  const std::string strangers[] = {"Product/Product.vpkg", "Brewing/Drip Tray.vcmp"};
+  for (const std::string& stranger : strangers) {
+    for (const char* command : {"history", "fetch", "lock", "checkout", "undo", "checkin"}) {
+      expectAdvice({command, stranger}, "veldra-cm add");
+    }
+    EXPECT_EQ(cm({"add", stranger}).code, 0) << stranger << ", nothing of all that is in its way";
+  }
   expectAdvice({"fetch", m_unit, "-l", std::string(GetParam()) == "RCS" ? "9.9" : "99"},
                "veldra-cm history");
   if (m_tool->traits().noLocks != nullptr) return;
