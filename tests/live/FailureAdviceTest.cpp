@@ -55,7 +55,7 @@ class FailureAdviceTest : public testing::TestWithParam<const char*> {
 TEST_P(FailureAdviceTest, FailuresOfTheDailyWork) {
   const std::string strangers[] = {"Product/Product.vpkg", "Brewing/Drip Tray.vcmp"};
   for (const std::string& stranger : strangers) {
-    for (const char* command : {"history", "fetch", "lock", "checkout", "undo", "checkin"}) {
+    for (const char* command : {"history", "fetch", "checkout", "checkin"}) {
       expectAdvice({command, stranger}, "veldra-cm add");
     }
     EXPECT_EQ(cm({"add", stranger}).code, 0) << stranger << ", nothing of all that is in its way";

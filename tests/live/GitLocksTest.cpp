@@ -19,8 +19,8 @@ using testing::UnorderedElementsAre;
 
 using Locks = std::map<std::string, std::string>;  ///< Holders by the files.
 
-constexpr char Unit[] = "Brewing/Grinder.vcmp";
-constexpr char Other[] = "Milk/Milk.vpkg";
+constexpr char LockedUnit[] = "Brewing/Grinder.vcmp";
+constexpr char OtherUnit[] = "Milk/Milk.vpkg";
 
 class GitLocksTest : public testing::Test {
  protected:
@@ -53,7 +53,8 @@ class GitLocksTest : public testing::Test {
     for (const std::string& line :
          pieces(m_job.sandbox().shell("cd model && git lfs locks").out, '\n')) {
       const std::string path = line.substr(0, line.find('\t'));
-      found[path.substr(0, path.find_last_not_of(' ') + 1)] = between(line, "\t", "\t");
+      const std::string holder = between(line, "\t", "\t");
+      found[path.substr(0, path.find_last_not_of(' ') + 1)] = holder.substr(0, holder.find(' '));
     }
     return found;
   }
@@ -64,43 +65,44 @@ class GitLocksTest : public testing::Test {
 
 TEST_F(GitLocksTest, WhatSomebodyHoldsIsRefusedToOthersByName) {
   m_job.become("alice", "model");
-  m_job.cm({"checkout", Unit});
-  m_job.cm({"checkout", Unit});
-  EXPECT_THAT(locks(), UnorderedElementsAre(Pair(Unit, "alice")));
+  m_job.cm({"checkout", LockedUnit});
+  m_job.cm({"checkout", LockedUnit});
+  EXPECT_THAT(locks(), UnorderedElementsAre(Pair(LockedUnit, "alice")));
 
   m_job.become("bob", "second");
-  const std::string archived = m_job.tool().newestText(Unit);
-  const Ended some = m_job.tryCm({"checkout", Unit, Other});
+  const std::string archived = m_job.tool().newestText(LockedUnit);
+  const Ended some = m_job.tryCm({"checkout", LockedUnit, OtherUnit});
   EXPECT_EQ(some.code, 1);
   EXPECT_THAT(some.err, HasSubstr("'alice'"));
-  EXPECT_THAT(locks(), UnorderedElementsAre(Pair(Unit, "alice"), Pair(Other, "bob")));
-  m_job.sandbox().shell("chmod u+w second/" + std::string(Unit));
-  m_job.change(Unit, "\"5\"", "\"6\"");
-  for (const std::vector<std::string>& command : {std::vector<std::string>{"lock", Unit},
-                                                  {"checkin", Unit, "-m", "mine"},
-                                                  {"move", Unit, "Milk"},
-                                                  {"delete", "-r", "Brewing"}}) {
+  EXPECT_THAT(locks(), UnorderedElementsAre(Pair(LockedUnit, "alice"), Pair(OtherUnit, "bob")));
+  const auto expectRefusal = [this](const std::vector<std::string>& command) {
     const Ended refused = m_job.tryCm(command);
     EXPECT_EQ(refused.code, 3) << command.front();
     EXPECT_THAT(refused.err, HasSubstr("alice")) << command.front();
-  }
-  EXPECT_EQ(m_job.tool().newestText(Unit), archived);
-  m_job.cm({"undo", Unit, Other});
-  EXPECT_THAT(locks(), UnorderedElementsAre(Pair(Unit, "alice")));
-  EXPECT_EQ(Job::unitOf(m_job.document({"ls"}), Unit)["locker"], "alice");
+  };
+  expectRefusal({"lock", LockedUnit});
+  expectRefusal({"move", LockedUnit, "Milk"});
+  expectRefusal({"delete", "-r", "Brewing"});
+  m_job.sandbox().shell("chmod u+w second/" + std::string(LockedUnit));
+  m_job.change(LockedUnit, "\"5\"", "\"6\"");
+  expectRefusal({"checkin", LockedUnit, "-m", "mine"});
+  EXPECT_EQ(m_job.tool().newestText(LockedUnit), archived);
+  m_job.cm({"undo", LockedUnit, OtherUnit});
+  EXPECT_THAT(locks(), UnorderedElementsAre(Pair(LockedUnit, "alice")));
+  EXPECT_EQ(Job::unitOf(m_job.document({"ls"}), LockedUnit)["locker"], "alice");
   m_job.cm({"connect"});
 }
 
 TEST_F(GitLocksTest, LocksGoWhereTheirFilesGo) {
   m_job.become("alice", "model");
-  m_job.cm({"checkout", Unit, Other});
-  m_job.cm({"rename", Unit, "Mill & Co", "-m", "a better name"});
-  EXPECT_THAT(locks(), UnorderedElementsAre(Pair(Other, "alice")));
+  m_job.cm({"checkout", LockedUnit, OtherUnit});
+  m_job.cm({"rename", LockedUnit, "Mill & Co", "-m", "a better name"});
+  EXPECT_THAT(locks(), UnorderedElementsAre(Pair(OtherUnit, "alice")));
   m_job.cm({"checkout", "Brewing/Mill & Co.vcmp", "Brewing/Drip Tray.vcmp"});
   m_job.cm({"move", "Brewing", "Product", "-m", "a whole package"});
   EXPECT_THAT(locks(), UnorderedElementsAre(Pair("Product/Brewing/Mill & Co.vcmp", "alice"),
                                             Pair("Product/Brewing/Drip Tray.vcmp", "alice"),
-                                            Pair(Other, "alice")));
+                                            Pair(OtherUnit, "alice")));
   m_job.change("Product/Brewing/Mill & Co.vcmp", "\"5\"", "\"6\"");
   m_job.cm({"checkin", "Product/Brewing/Mill & Co.vcmp", "-m", "finer"});
   m_job.cm({"undo", "Product/Brewing/Drip Tray.vcmp"});
