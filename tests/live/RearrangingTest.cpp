@@ -76,12 +76,17 @@ TEST_P(RearrangingTest, HistoryFollowsAUnitThatIsRenamedAndMoved) {
 }
 
 TEST_P(RearrangingTest, APackageIsMovedAndRenamedWithEverythingInIt) {
-  const std::string pump = m_tool->newestText("Brewing/Water Circuit/Pump.vcmp");
+  // What a tool writes into the header may tell of the move.
+  const auto body = [this](const std::string& file) {
+    const std::string text = m_tool->newestText(file);
+    return text.substr(text.find('{'));
+  };
+  const std::string pump = body("Brewing/Water Circuit/Pump.vcmp");
   inModel(0, {"move", "Brewing/Water Circuit", "Milk", "-m", "moved"});
   inModel(0, {"checkout", "Milk"});
   inModel(0, {"rename", "Milk", "Crème @ Co", "-m", "renamed"});
   EXPECT_THAT(m_sandbox.read("model/Crème @ Co/Crème @ Co.vpkg"), HasSubstr("Crème @ Co"));
-  EXPECT_EQ(m_tool->newestText("Crème @ Co/Water Circuit/Pump.vcmp"), pump);
+  EXPECT_EQ(body("Crème @ Co/Water Circuit/Pump.vcmp"), pump);
   expectTrail("Crème @ Co/Water Circuit/Pump.vcmp");
   expectAgreement();
 }
