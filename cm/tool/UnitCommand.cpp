@@ -38,7 +38,7 @@ UnitCommand::Verdicts UnitCommand::refuse(const UnitList& units, const UnitCallF
     std::optional<CMNameChange> change = nameChange(*unit, call);
     if (refuseUnsafeName(*unit, diagnostics) ||
         (change && refuseUnsafeName(unit, change->substitute("newName"), diagnostics))) {
-      verdicts.try_emplace(unit, UnitEnd::Refused, diagnostics.back().getMessage());
+      verdicts[unit] = {.end = UnitEnd::Refused, .words = diagnostics.back().getMessage()};
     }
   }
   return verdicts;
@@ -65,7 +65,7 @@ void UnitCommand::runBatches(const UnitList& units, const UnitCallFrame& call,
     const UnitEnd verdict = !asks.allows(*unit) ? UnitEnd::Declined
                             : !accepts(*unit)   ? UnitEnd::Refused
                                                 : UnitEnd::Done;
-    verdicts.try_emplace(unit, verdict);
+    verdicts[unit] = {.end = verdict};
     if (verdict == UnitEnd::Done) call.batches.add(*unit, single);
   }
   if (!UnitProgress::isCancelled()) {

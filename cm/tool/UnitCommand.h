@@ -62,7 +62,7 @@ class UnitCommand : public CMWorkspaceOperation {
 
  private:
   struct Verdict {
-    UnitEnd end;
+    UnitEnd end = UnitEnd::Done;
     std::string words{};  ///< Why it may not; empty when nothing was said.
   };
   /// Who may not take part, and who was asked about already and may.

@@ -13,7 +13,6 @@ namespace veldra::live {
 namespace {
 
 using testing::HasSubstr;
-using testing::Not;
 
 class FailureAdviceTest : public testing::TestWithParam<const char*> {
  protected:
