@@ -71,8 +71,9 @@ class RunThread : public ThreadObject {
   virtual std::uint32_t getStatus(std::uint32_t timeout) = 0;
 
   virtual LineList& errorLines() = 0;
-  /// Empty for a runner whose output goes to a file. Error lines are the whole result of a command
-  /// that printed any, so a runner may then drop what the other output goes on to print.
+  /// Empty for a runner whose output goes to a file. Error lines stand for the result of a command
+  /// that printed any; beside them no more than a list of units is looked for here, so a runner may
+  /// then drop what the output goes on to print beyond a megabyte.
   virtual LineList& outputLines() = 0;
 
   virtual ProcessEnd end() const = 0;

@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cstdint>
 #include <memory>
+#include <utility>
 
 #include "cm/core/CMOutputer.h"
 #include "cm/core/DebugEcho.h"
@@ -64,11 +65,15 @@ struct RedirectedCommand {
   std::string fileName;
 };
 
+/// What stands beside error lines may be a list of units; a flood is none. In bytes.
+constexpr std::size_t MostSetAside = std::size_t{4} << 20;
+
 /// What one run left behind.
 struct RunResult {
   std::uint32_t wait = 0;
   bool failed = false;  ///< By error lines or a time-out with output: the text is an error text.
   bool endedBadly = false;
+  std::string setAside{};  ///< What was printed beside error lines.
 };
 
 RunResult runAndCollect(IProcesses& processes, const RedirectedCommand& command,
@@ -83,6 +88,7 @@ RunResult runAndCollect(IProcesses& processes, const RedirectedCommand& command,
   const bool timedOut = result.wait == RunThread::WaitTimeout;
   if (!runner->errorLines().empty()) {
     runner->errorLines().moveTo(errorText);
+    if (runner->outputLines().size() <= MostSetAside) runner->outputLines().moveTo(result.setAside);
     echo(errorText);
     result.failed = true;
   } else if (!runner->outputLines().empty()) {
@@ -132,8 +138,9 @@ void CMToolShellInterface::runCommand(const std::string& command, std::string& o
   }
 
   const RedirectedCommand redirected(command);
-  const RunResult run = runAndCollect(*processes, redirected, output, errorText);
+  RunResult run = runAndCollect(*processes, redirected, output, errorText);
   m_end.failed = run.endedBadly;
+  m_end.setAside = std::move(run.setAside);
   if (run.failed) {
     // The second echo of error lines is intended: once as they come, once as the result.
     echo(errorText);
@@ -161,7 +168,13 @@ int CMToolShellInterface::Execute(const std::string& command, std::string& outpu
   }
   workingDirectory = workingDirectoryOfProject();
   if (!enterDirectory(workingDirectory, errorText)) return 0;
-  runCommand(command, output, errorText);
+  try {
+    runCommand(command, output, errorText);
+  } catch (...) {
+    // The host failed; its process goes on where it was.
+    installedHost()->environment().setCurrentDirectory(previous);
+    throw;
+  }
   return enterDirectory(previous, errorText) ? 1 : 0;
 }
 

@@ -10,7 +10,9 @@ namespace veldra {
 /// How the last command ended, beyond the texts that it left.
 struct CommandEnd {
   bool failed = false;  ///< Failure code, death, time-out or a match of the error pattern.
-  std::string words;    ///< What there is to say about it: the tool's own words or ours.
+  std::string words{};  ///< What there is to say about it: the tool's own words or ours.
+  /// What it printed on its output, when error lines took the place of that. Not of a flood.
+  std::string setAside{};
 };
 
 /// Runs commands as child processes through the host's runner. Calls must not overlap: the current

@@ -42,7 +42,11 @@ std::vector<Group> groupUnitsByPersistAs(const UnitList& units) {
 UnitList carriable(const UnitList& units, DiagnosticList& diagnostics) {
   UnitList result;
   for (IUnit* unit : units) {
-    if (unit != nullptr && !refuseUnsafeName(*unit, diagnostics)) result.push_back(unit);
+    if (unit == nullptr || refuseUnsafeName(*unit, diagnostics) ||
+        refuseUnsafeName(unit, unit->getPersistAsDirectory(), diagnostics)) {
+      continue;
+    }
+    result.push_back(unit);
   }
   return result;
 }
@@ -55,9 +59,11 @@ int addDirectoryByDirectory(CMOperation& operation, const UnitList& units,
   std::size_t position = 0;
   int status = 0;
   for (const auto& [directory, members] : groupUnitsByPersistAs(accepted)) {
+    if (UnitProgress::isCancelled()) break;
     const int checkedOut = runDirectoryCommand(
         CheckOutDirectory, {{"$mode", ""}, {"$LabelPart", directory}}, operation, diagnostics);
     for (const IUnit* unit : members) {
+      if (UnitProgress::isCancelled()) break;
       const std::string file = unit->getFullFileName();
       UnitProgress progress("Add to Archive", ++position, accepted.size(), file);
       if (checkedOut != 0) {

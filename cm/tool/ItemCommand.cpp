@@ -1,7 +1,7 @@
 #include "cm/tool/ItemCommand.h"
 
 #include <optional>
-#include <unordered_set>
+#include <unordered_map>
 
 #include "cm/core/CMArchive.h"
 #include "cm/core/CMUnit.h"
@@ -20,18 +20,20 @@ std::string localFile(const CMArchiveItem& item) {
   return joinPath(item.getLocalPath(), item.getFileName());
 }
 
-/// Items whose names no command can carry: both their place in the archive and the local file.
-std::unordered_set<const CMArchiveItem*> refused(const CMArchiveItemList& items,
-                                                 DiagnosticList& diagnostics) {
-  std::unordered_set<const CMArchiveItem*> result;
+/// Items whose names no command can carry, and why: both their place in the archive and the local
+/// file count.
+std::unordered_map<const CMArchiveItem*, std::string> refused(const CMArchiveItemList& items,
+                                                              DiagnosticList& diagnostics) {
+  std::unordered_map<const CMArchiveItem*, std::string> result;
   for (const CMArchiveItem* item : items) {
     if (item == nullptr) continue;
     std::optional<std::string> reason = unsafeInCommand(item->getFileNameWithPath());
     if (!reason) reason = unsafeInCommand(localFile(*item));
-    if (!reason || !result.insert(item).second) continue;
+    if (!reason || result.contains(item)) continue;
     diagnostics.emplace_back(
         CMDiagnostic::Failed,
         formatMessage(MessageId::UnsafeFileName, {item->getFileNameWithPath(), *reason}), *item);
+    result.emplace(item, diagnostics.back().getMessage());
   }
   return result;
 }
@@ -65,7 +67,7 @@ int ItemCommand::operator()(CMArchiveItemList& items, ArgumentList& arguments,
 
 int ItemCommand::runAll(CMArchiveItemList& items, ArgumentList& arguments,
                         DiagnosticList& diagnostics) const {
-  const std::unordered_set<const CMArchiveItem*> refusedItems = refused(items, diagnostics);
+  const auto refusedItems = refused(items, diagnostics);
   const OverwriteQuestion question(row().asksOverwrite);
   std::size_t position = 0;
   int status = 0;
@@ -74,8 +76,9 @@ int ItemCommand::runAll(CMArchiveItemList& items, ArgumentList& arguments,
     if (item == nullptr) continue;
     if (UnitProgress::isCancelled()) break;
     UnitProgress progress(row().name, position, items.size(), item->getFileNameWithPath());
-    if (refusedItems.contains(item)) {
-      progress.endsAs(UnitEnd::Refused);
+    const auto refusal = refusedItems.find(item);
+    if (refusal != refusedItems.end()) {
+      progress.endsAs(UnitEnd::Refused, refusal->second);
       continue;
     }
     if (row().asksOverwrite && !mayOverwrite(*item, question)) {

@@ -65,13 +65,16 @@ void chooseArchiveOf(const IUnit* unit) {
   CMArchive::setMainArchive(archive);
 }
 
-std::unordered_set<std::string_view> markedFiles(std::string_view answer, std::string_view mark) {
+std::unordered_set<std::string_view> ToolAnswer::marked(std::string_view mark) const {
   std::unordered_set<std::string_view> files;
-  for (std::size_t from = 0; from < answer.size();) {
-    const std::size_t end = std::min(answer.find('\n', from), answer.size());
-    const std::string_view line = answer.substr(from, end - from);
-    if (line.starts_with(mark)) files.insert(line.substr(mark.size()));
-    from = end + 1;
+  for (const std::string_view text :
+       {std::string_view(output), std::string_view(errorText), std::string_view(setAside)}) {
+    for (std::size_t from = 0; from < text.size();) {
+      const std::size_t end = std::min(text.find('\n', from), text.size());
+      const std::string_view line = text.substr(from, end - from);
+      if (line.starts_with(mark)) files.insert(line.substr(mark.size()));
+      from = end + 1;
+    }
   }
   return files;
 }
@@ -81,6 +84,13 @@ int runTraced(const std::string& command, const char* traceBefore, const char* t
   VELDRA_TRACE(traceBefore, command);
   const int executed = theCMToolShellInterface().Execute(command, output, errorText, "");
   VELDRA_TRACE(traceAfter, output);
+  return executed;
+}
+
+int runTraced(const std::string& command, const OperationRow& row, ToolAnswer& answer) {
+  const int executed =
+      runTraced(command, row.traceBefore, row.traceAfter, answer.output, answer.errorText);
+  answer.setAside = theCMToolShellInterface().lastCommandEnd().setAside;
   return executed;
 }
 

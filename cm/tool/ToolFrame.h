@@ -68,11 +68,20 @@ void chooseArchiveOf(const IUnit* unit);
 inline constexpr std::string_view DoneMark = "done: ";
 inline constexpr std::string_view UnchangedMark = "unchanged: ";
 
-/// The rest of each line of a command's answer that begins with a mark.
-std::unordered_set<std::string_view> markedFiles(std::string_view answer, std::string_view mark);
+/// All that a command has printed: the two texts of `Execute`, and the output that error lines took
+/// the place of.
+struct ToolAnswer {
+  std::string output{};
+  std::string errorText{};
+  std::string setAside{};
+
+  /// The rest of each line that begins with a mark, on whichever output.
+  std::unordered_set<std::string_view> marked(std::string_view mark) const;
+};
 
 /// Runs an expanded command between its two trace lines; the result of `Execute`.
 int runTraced(const std::string& command, const char* traceBefore, const char* traceAfter,
               std::string& output, std::string& errorText);
+int runTraced(const std::string& command, const OperationRow& row, ToolAnswer& answer);
 
 }  // namespace veldra

@@ -79,7 +79,7 @@ void UnitBatches::run(const std::function<UnitPreparation(IUnit&)>& prepare) {
   }
 }
 
-UnitBatches::Answer UnitBatches::runCommand(const Group& group) {
+UnitBatches::BatchAnswer UnitBatches::runCommand(const Group& group) {
   UnitListFile list(group.units);
   if (!list.exists()) return {};
   const PushedArgument pushed(m_arguments, list);
@@ -90,18 +90,16 @@ UnitBatches::Answer UnitBatches::runCommand(const Group& group) {
       command.empty()) {
     return {};
   }
-  Answer answer;
-  std::string errorText;
-  const int executed =
-      runTraced(command, m_row.traceBefore, m_row.traceAfter, answer.output, errorText);
+  BatchAnswer answer;
+  const int executed = runTraced(command, m_row, answer);
   answer.isWell = executed == 1 && !theCMToolShellInterface().lastCommandEnd().failed;
   return answer;
 }
 
 void UnitBatches::runGroup(const Group& group, Preparations preparations) {
-  const Answer answer = runCommand(group);
-  const auto done = markedFiles(answer.output, DoneMark);
-  const auto unchanged = markedFiles(answer.output, UnchangedMark);
+  const BatchAnswer answer = runCommand(group);
+  const auto done = answer.marked(DoneMark);
+  const auto unchanged = answer.marked(UnchangedMark);
   for (const IUnit* unit : group.units) {
     const std::string file = unit->getFullFileName();
     if (!answer.isWell && !done.contains(file)) continue;

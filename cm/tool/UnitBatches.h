@@ -54,11 +54,10 @@ class UnitBatches {
   using Preparations = std::unordered_map<const IUnit*, UnitPreparation>;
 
   void runGroup(const Group& group, Preparations preparations);
-  struct Answer {
-    std::string output{};
+  struct BatchAnswer : ToolAnswer {
     bool isWell = false;  ///< It has done all units.
   };
-  Answer runCommand(const Group& group);
+  BatchAnswer runCommand(const Group& group);
 
   const OperationRow& m_row;
   ArgumentList& m_arguments;

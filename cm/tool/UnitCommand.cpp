@@ -38,7 +38,7 @@ UnitCommand::Verdicts UnitCommand::refuse(const UnitList& units, const UnitCallF
     std::optional<CMNameChange> change = nameChange(*unit, call);
     if (refuseUnsafeName(*unit, diagnostics) ||
         (change && refuseUnsafeName(unit, change->substitute("newName"), diagnostics))) {
-      verdicts.emplace(unit, UnitEnd::Refused);
+      verdicts[unit] = {.end = UnitEnd::Refused, .words = diagnostics.back().getMessage()};
     }
   }
   return verdicts;
@@ -65,7 +65,7 @@ void UnitCommand::runBatches(const UnitList& units, const UnitCallFrame& call,
     const UnitEnd verdict = !asks.allows(*unit) ? UnitEnd::Declined
                             : !accepts(*unit)   ? UnitEnd::Refused
                                                 : UnitEnd::Done;
-    verdicts.emplace(unit, verdict);
+    verdicts[unit] = {.end = verdict};
     if (verdict == UnitEnd::Done) call.batches.add(*unit, single);
   }
   if (!UnitProgress::isCancelled()) {
@@ -108,8 +108,8 @@ int UnitCommand::runAll(UnitList& units, const UnitCallFrame& call,
     if (run.unit != nullptr && !isGone) {
       UnitProgress progress(row().name, position, count, run.unit->getFullFileName());
       const auto verdict = verdicts.find(run.unit);
-      if (verdict != verdicts.end() && verdict->second != UnitEnd::Done) {
-        progress.endsAs(verdict->second);
+      if (verdict != verdicts.end() && verdict->second.end != UnitEnd::Done) {
+        progress.endsAs(verdict->second.end, verdict->second.words);
       } else if (verdict == verdicts.end() && !asks.allows(*run.unit)) {
         progress.endsAs(UnitEnd::Declined);
       } else {
@@ -166,10 +166,11 @@ int UnitCommand::runCommand(UnitRun& run, const UnitCallFrame& call, UnitProgres
   int status = expanded;
   bool isUnchanged = false;
   if (expanded == 1) {
-    std::string output;
-    status = runTraced(command, row().traceBefore, row().traceAfter, output, run.errorText);
+    ToolAnswer answer;
+    status = runTraced(command, row(), answer);
     isUnchanged = status == 1 && row().tellsUnchanged &&
-                  markedFiles(output, UnchangedMark).contains(run.unit->getFullFileName());
+                  answer.marked(UnchangedMark).contains(run.unit->getFullFileName());
+    run.errorText = std::move(answer.errorText);
   }
   progress.endsByCommand(expanded, status);
   if (isUnchanged && !theCMToolShellInterface().lastCommandEnd().failed) {

@@ -61,8 +61,12 @@ class UnitCommand : public CMWorkspaceOperation {
   virtual void after(UnitRun& run) const;
 
  private:
+  struct Verdict {
+    UnitEnd end = UnitEnd::Done;
+    std::string words{};  ///< Why it may not; empty when nothing was said.
+  };
   /// Who may not take part, and who was asked about already and may.
-  using Verdicts = std::unordered_map<const IUnit*, UnitEnd>;
+  using Verdicts = std::unordered_map<const IUnit*, Verdict>;
 
   /// Refuses what no command can carry; one diagnostic per unit.
   Verdicts refuse(const UnitList& units, const UnitCallFrame& call,

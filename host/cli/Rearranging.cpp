@@ -53,7 +53,9 @@ std::string archiveState(Session& session, const std::string& oldFile, const std
   };
   const ArchiveContent content = listArchive(session);
   if (!content.failure.empty()) {
-    return "The archive cannot be listed: look into it before you try again.";
+    return "The model and the disk are as before. The archive cannot be listed: look into it "
+           "before "
+           "you try again.";
   }
   std::string held;
   for (const std::string& file : {oldFile, newFile}) {

@@ -66,7 +66,7 @@ Session::Session(const Invocation& invocation, WindowUse window)
       m_console(invocation.console),
       m_door(invocation.console, invocation.options.force),
       m_window(shownWindow(invocation, window),
-               window == WindowUse::Result && m_options.json ? std::string::npos : KeptForFailures),
+               window == WindowUse::Result ? std::string::npos : KeptForFailures),
       m_progress(invocation.console, m_window),
       m_watch(invocation.options.dryRun ? nullptr : &m_processes,
               [this](const std::string& command) { m_progress.noteCommand(command); }),

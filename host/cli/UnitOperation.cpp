@@ -38,6 +38,12 @@ void checkComment(const std::string& comment) {
   refuseForbidden(comment, forbidden);
 }
 
+/// Whether what a tool shows waits for its good end: the words of a failure are told with the unit,
+/// and once. A provider shows things by itself.
+bool holdsResultsBack(const Options& options) {
+  return !options.verbose && CMProperty::useSccCompliantTool() == 0;
+}
+
 /// What the tool printed, without the echo of its command.
 std::string resultText(const UnitTrace& trace) {
   const std::string echo = trace.commands.empty() ? "" : trace.commands.front() + "\n";
@@ -175,17 +181,21 @@ class UnitBatch {
     }
   }
 
-  /// A short line for who watches.
+  /// For who watches: what the command is for, or a short line.
   void tell(const UnitTrace& trace) {
     const Options& options = m_session.options();
     const auto at = m_indexOf.find(trace.file);
-    const bool isShown = trace.end == UnitEnd::Done && !options.json && !options.dryRun &&
-                         !m_operation.outputIsResult && at != m_indexOf.end();
+    const bool isShown =
+        trace.end == UnitEnd::Done && !options.json && !options.dryRun && at != m_indexOf.end();
     if (!isShown) return;
-    m_session.console().out << m_operation.pastAction << "  "
-                            << textForPeople(m_records[at->second].path) << '\n';
-    printRemark(trace.words, m_session.console().out);
-    m_session.console().out << std::flush;
+    std::ostream& out = m_session.console().out;
+    if (m_operation.outputIsResult) {
+      if (holdsResultsBack(options)) out << trace.output;
+    } else {
+      out << m_operation.pastAction << "  " << textForPeople(m_records[at->second].path) << '\n';
+      printRemark(trace.words, out);
+    }
+    out << std::flush;
   }
 
   void apply(const UnitTrace& trace) {
@@ -280,6 +290,9 @@ ExitCode runUnitOperation(const Invocation& invocation, const UnitOperation& ope
   if (operation.byTool != nullptr && !usesProvider) return operation.byTool(session, invocation);
   if (operation.providerAdvice != nullptr && usesProvider) {
     throw CommandError(ExitCode::NothingDone, operation.providerAdvice);
+  }
+  if (operation.outputIsResult && holdsResultsBack(invocation.options)) {
+    session.setWindow(WindowUse::Quiet);
   }
   if ((invocation.command.options & OptionSet::Comment) != 0) offerLastComment(session, comment);
   checkComment(comment);

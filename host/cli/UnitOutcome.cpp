@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <sstream>
 #include <string_view>
+#include <unordered_set>
 
 #include "host/cli/CallArguments.h"
 #include "host/cli/printing/BytesAsText.h"
@@ -100,7 +101,7 @@ void applyTrace(const UnitTrace& trace, const char* templateProperty,
                 const DiagnosticList& diagnostics, UnitRecord& record) {
   record.result = resultOf(trace.end);
   record.message = trace.end == UnitEnd::Done ? trace.words : failureOf(trace, templateProperty);
-  if (trace.end != UnitEnd::Refused) return;
+  if (trace.end != UnitEnd::Refused || !trace.words.empty()) return;
   const CMDiagnostic* const reason = diagnosticOf(trace.file, diagnostics);
   if (reason != nullptr) record.message = reason->getMessage();
 }
@@ -114,10 +115,13 @@ void applyAbsence(bool wasCancelled, const std::string& reason, UnitRecord& reco
 std::string generalMessage(const DiagnosticList& diagnostics,
                            const std::vector<UnitTrace>& traces) {
   std::string message;
+  std::unordered_set<std::string_view> told;
+  for (const UnitTrace& trace : traces) told.insert(trace.words);
   for (const CMDiagnostic& diagnostic : diagnostics) {
-    const bool isOfUnit = std::ranges::any_of(traces, [&](const UnitTrace& trace) {
-      return diagnostic.getMessage().find(trace.file) != std::string::npos;
-    });
+    const bool isOfUnit = told.contains(diagnostic.getMessage()) ||
+                          std::ranges::any_of(traces, [&](const UnitTrace& trace) {
+                            return diagnostic.getMessage().find(trace.file) != std::string::npos;
+                          });
     if (isOfUnit || diagnostic.getStatus() != CMDiagnostic::Failed) continue;
     if (!message.empty()) message += '\n';
     message += diagnostic.getMessage();

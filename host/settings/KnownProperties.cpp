@@ -39,15 +39,10 @@ constexpr KnownProperty Known[] = {
     {"PostConnectToCMRepository", Command},
     {"AddMember", Command},
     {"AddMember_ControlledFile", Command},
-    {"AddDirectory", Command},
+    {"AddMember_WithoutCheckOutCheckInDirectory", Command},
     {"CheckIn", Command},
     {"CheckOut", Command},
     {"CheckOutFromArchive", Command},
-    {"RecCheckIn", Command},
-    {"RecCheckOut", Command},
-    {"RecUnCheckout", Command},
-    {"RecCheckOutFromArchive", Command},
-    {"RecFetchFromArchive", Command},
     {"Fetch", Command},
     {"FetchFromArchive", Command},
     {"ListArchive", Command},
@@ -187,6 +182,11 @@ constexpr std::string_view Arguments[] = {
     "FileName",
 };
 
+const KnownProperty* propertyNamed(std::string_view name) {
+  const auto* const at = std::ranges::find(Known, name, &KnownProperty::name);
+  return at != std::end(Known) ? at : nullptr;
+}
+
 }  // namespace
 
 std::span<const KnownProperty> knownProperties() {
@@ -194,12 +194,11 @@ std::span<const KnownProperty> knownProperties() {
 }
 
 const KnownProperty* knownProperty(std::string_view name) {
-  const auto* const at = std::ranges::find(Known, name, &KnownProperty::name);
-  if (at != std::end(Known)) return at;
+  if (const KnownProperty* const known = propertyNamed(name)) return known;
   // Every command template may have one more for a list of units.
   constexpr std::string_view Batch = "Batch";
   if (!name.ends_with(Batch)) return nullptr;
-  const KnownProperty* const single = knownProperty(name.substr(0, name.size() - Batch.size()));
+  const KnownProperty* const single = propertyNamed(name.substr(0, name.size() - Batch.size()));
   return single != nullptr && single->kind == Command ? single : nullptr;
 }
 

@@ -79,9 +79,10 @@ relative() {
     { print }'
 }
 
-# real PLACE: a local place without links; an address stays.
+# real PLACE: a local place without links; an address without the name of its user.
 real() {
-  (cd -- "$1" 2>/dev/null && pwd -P) || printf '%s\n' "$1"
+  (cd -- "$1" 2>/dev/null && pwd -P) || printf '%s\n' "$1" |
+    sed 's|^\([a-z+]*://\)[^/@]*@|\1|; s|^\(:[a-z]*:\)[^/@]*@|\1|; s|^[^/@:]*@\([^/]*:\)|\1|'
 }
 
 # scratch [-d]: makes a file or a folder that goes with the helper. When the helper is killed, the next

@@ -12,31 +12,46 @@ check_label() {
     fail "The label '$label' exists already for an older revision. Choose another one."
 }
 
+# revisions UNITS: a line a file that cvs knows, in the folders of these: its path, a tab, and the revision
+# that this folder has of it. What cvs has changed last stands in a log behind its records.
+revisions() {
+  relative "$1" | sed 's|^[^/]*$|./&|; s|/[^/]*$||' | sort -u | while read -r folder; do
+    cat "$folder/CVS/Entries" "$folder/CVS/Entries.Log" 2>/dev/null | F=$folder/ awk '
+      { gone = sub(/^R /, ""); sub(/^A /, "") }
+      split($0, part, "/") > 2 && part[1] == "" {
+        path = ENVIRON["F"] part[2]
+        sub(/^\.\//, "", path)
+        if (gone) delete revision[path]; else revision[path] = part[3]
+      }
+      END { for (path in revision) print path "\t" revision[path] }'
+  done
+}
+
 # commit UNITS COMMENTFILE: as `run`. CVS commits file by file: after a failure the files that made it
-# are named, and the rest stays as it was.
+# are named, which have another revision now or are gone from the records; the rest stays as it was.
 commit() {
+  revisions "$1" | sort >"$work/before"
   run on "$1" commit -F "${2:-/dev/null}" -- && return
   reason=$answer
-  left=$(state_of "$1" | sed 's/^..//')
+  revisions "$1" | sort | comm -23 "$work/before" - | cut -f 1 >"$work/moved-on"
   lines "$1" >"$work/all"
-  relative "$1" | paste - "$work/all" | while IFS='	' read -r file unit; do
-    printf '%s\n' "$left" | grep -q -x -F -e "$file" || printf 'done: %s\n' "$unit"
-  done >"$work/done"
+  relative "$1" | paste - "$work/all" | awk -F '\t' '
+    FILENAME == ARGV[1] { movedOn[$0]; next }
+    $1 in movedOn { print "done: " $2 }
+  ' "$work/moved-on" - >"$work/done"
   answer=$reason
   return 1
 }
 
-# refuse: says why a commit failed; beside files that are done the reason goes to the same output.
+# refuse: says why a commit failed, beside the names of the files that are done.
 refuse() {
   case $answer in
     *'Up-to-date check failed'*)
       answer="$pack: The archive has a newer revision. Fetch first, then do it again.$newline$answer"
       ;;
   esac
-  [ -s "$work/done" ] || give_up
   cat "$work/done"
-  show
-  exit 1
+  give_up
 }
 
 attach_label() {
@@ -44,3 +59,4 @@ attach_label() {
 }
 
 open_work
+: >"$work/done"

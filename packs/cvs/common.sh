@@ -46,13 +46,19 @@ in_archive() {
 }
 
 # make_folder DIRECTORY: gives a directory that exists in the archive its place here, without bringing
-# any file of it, as cvs has no command for that.
+# any file of it, as cvs has no command for that. Records of one that does not exist would be in the way
+# of its being added.
 make_folder() {
   [ ! -d "$1/CVS" ] || return 0
   make_folder "$(dirname -- "$1")"
+  place=$(cat "$(dirname -- "$1")/CVS/Repository")/${1##*/}
+  run cvs rls -e -- "$place" || case $answer in
+    *'cannot find module'*) fail "'$1' is not in the archive; add it first." ;;
+    *) give_up ;;
+  esac
   mkdir -p -- "$1/CVS"
   cp CVS/Root "$1/CVS/Root"
-  printf '%s/%s\n' "$(cat "$(dirname -- "$1")/CVS/Repository")" "${1##*/}" >"$1/CVS/Repository"
+  printf '%s\n' "$place" >"$1/CVS/Repository"
   : >"$1/CVS/Entries"
   printf 'A D/%s////\n' "${1##*/}" >>"$(dirname -- "$1")/CVS/Entries.Log"
 }
@@ -67,9 +73,7 @@ make_folders() {
 bring_newest() {
   make_folders "$1"
   run on "$1" update -A -- || give_up
-  missing=$(relative "$1" | while read -r file; do [ -e "$file" ] || printf '%s\n' "$file"; done)
-  [ -z "$missing" ] ||
-    fail "'${missing%%"$newline"*}' is not in the archive; add it first."
+  in_archive "$1"
   case $newline$answer in
     *"${newline}C "*) give_up ;;
   esac

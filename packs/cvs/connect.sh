@@ -16,7 +16,7 @@ take_over() {
 }
 
 if [ -d CVS ]; then
-  [ "$(cat CVS/Root)//$(cat CVS/Repository)" = "$root//$module" ] ||
+  [ "$(real "$(cat CVS/Root)")//$(cat CVS/Repository)" = "$(real "$root")//$module" ] ||
     fail "'$2' is already a working copy of $(cat CVS/Root)//$(cat CVS/Repository). \
 Connect a fresh folder, or set the archive to that."
 else

@@ -9,6 +9,7 @@ shift
 read_options "$@"
 begin_commit "$units"
 in_archive "$units"
+refuse_locked "$units"
 about "$units" git diff --relative --name-only -z HEAD | tr '\000' '\n' | tell_unchanged "$units"
 if has_content_of "$units" HEAD; then
   publish "$units"

@@ -65,7 +65,9 @@ open_repository() {
   target=${value:-$branch}
 }
 
-# receive: learns what the archive holds; sets $tip to its newest commit, empty when it has none.
+# receive: learns what the archive holds; sets $tip to its newest commit, empty when it has none, and
+# $received when the archive has answered.
+received=
 receive() {
   tip=
   if [ -z "$remote" ]; then
@@ -73,6 +75,7 @@ receive() {
     return
   fi
   run git fetch -q "$remote" || return
+  received=yes
   tip=$(git rev-parse -q --verify "refs/remotes/$remote/${target#refs/heads/}^{commit}" || :)
 }
 

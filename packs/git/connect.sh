@@ -3,6 +3,7 @@
 # directory itself, it becomes a repository without another one to push to.
 . "${0%/*}/common.sh"
 . "${0%/*}/newest.sh"
+. "${0%/*}/locks.sh"
 
 archive=$1
 cd -- "$2"
@@ -45,11 +46,5 @@ if [ "$(git config veldra.connected || :)" != true ]; then
   settle
   git config veldra.connected true
 fi
-case $(git config "remote.$remote.url" || :) in
-  http*://* | ssh://* | *@*:*)
-    if git lfs locks --limit 1 </dev/null >/dev/null 2>&1; then
-      git config veldra.locks true
-    fi
-    ;;
-esac
+find_locks
 printf 'Archive Path: %s\n' "$archive"

@@ -12,7 +12,10 @@ in_archive "$units"
 has_content_of "$units" HEAD || fail "$unsaved"
 refuse_locked "$units"
 run on "$units" rm -q -r || give_up
-run commit "$units" "$comment" && tag_and_push && exit
+if run commit "$units" "$comment" && tag_and_push; then
+  give_locks "$units"
+  exit
+fi
 take_back "$units"
 on "$units" checkout -q HEAD
 make_read_only "$units"

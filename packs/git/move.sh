@@ -20,6 +20,16 @@ both() {
   printf '@%s\n' "$work/both"
 }
 
+# move_locks: what else is checked out in a directory stays so.
+move_locks() {
+  has_locks || return 0
+  top=$(git rev-parse --show-prefix)
+  old=$top$(relative "$old_place")
+  ours | among "$old_place" | cut -f 1 | grep -v -x -F -e "$top$(relative "$old_file")" >"$work/held" || :
+  give_locks "$old_place"
+  while read -r path; do run git lfs lock -- "$new_place${path#"$old"}" || :; done <"$work/held"
+}
+
 read_move "$@"
 read_options "${5:-}"
 begin_commit "$1"
@@ -29,7 +39,7 @@ refuse_locked "$old_place"
 move_there || give_up
 if run commit "$(both)" "$comment" && tag_and_push; then
   chmod a-w -- "$new_file"
-  give_locks "$old_file"
+  move_locks
   exit
 fi
 reason=$answer

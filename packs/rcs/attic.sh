@@ -1,7 +1,7 @@
 # Sourced by the helpers that delete. They work on $archived and $working.
 
 may_be_deleted() {
-  [ -f "$archived" ] || fail "'$archived' does not exist; the file is not in the archive."
+  in_archive
   not_held_by_others "$archived" || exit
   [ ! -e "$working" ] || rcsdiff -q "$archived" "$working" >/dev/null ||
     fail "'$working' has changes; check it in, or undo them first."

@@ -5,6 +5,7 @@
 . "${0%/*}/labels.sh"
 
 name_files "$1" "$2"
+in_archive
 shift 2
 read_options "$@"
 former=$(newest)

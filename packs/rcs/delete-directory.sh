@@ -5,10 +5,14 @@
 . "${0%/*}/tree.sh"
 . "${0%/*}/attic.sh"
 
-archive=$1 directory=$2 comment=$3
+directory=$2 comment=$3
 # The host may ask for a directory without a unit; then it does not fill in the place of the archive.
-case $archive in
+case $1 in
   *\$*) archive=$directory ;;
+  *)
+    find_archive "$1"
+    archive=$place
+    ;;
 esac
 [ -d "$archive" ] || fail "'$archive' does not exist; the directory is not in the archive."
 files=$(archive_files "$archive")
@@ -17,8 +21,8 @@ files=$(archive_files "$archive")
 # each COMMAND: once for every file, $archived and $working being set.
 each() {
   for file in $files; do
-    place=${file%/RCS/*}
-    name_files "$file" "$directory${place#"$archive"}/"
+    folder=${file%/RCS/*}
+    name_files "$file" "$directory${folder#"$archive"}/"
     "$@" || return
   done
 }
@@ -45,5 +49,6 @@ each delete_and_note || {
   fail "'$working' could not be deleted; nothing is."
 }
 # Only what is empty goes.
-find "$directory" -depth -type d ! -name RCS ! -path '*/RCS/*' -exec rmdir {} + 2>/dev/null
+(cd "$directory" && find . -mindepth 1 -depth -type d ! -name RCS ! -path '*/RCS/*' -exec rmdir {} +) 2>/dev/null
+rmdir "$directory" 2>/dev/null
 exit 0

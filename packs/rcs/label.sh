@@ -3,7 +3,7 @@
 . "${0%/*}/labels.sh"
 
 name_files "$1" "$2"
-[ -f "$archived" ] || fail "'$archived' does not exist; the file is not in the archive."
+in_archive
 read_options "$3"
 [ -n "$label" ] || fail "No label is given."
 attach_label

@@ -2,7 +2,7 @@
 # with tabs between.
 . "${0%/*}/common.sh"
 
-[ -d "$1" ] || fail "The archive '$1' is not a directory; connect to it first."
+find_archive "$1/./"
 # A name with a line end cannot be told from two lines of the answer.
 (
   cd "$1" &&

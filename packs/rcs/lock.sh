@@ -2,7 +2,8 @@
 . "${0%/*}/common.sh"
 
 name_files "$1" "$2"
-[ -f "$archived" ] || fail "'$archived' does not exist; the file is not in the archive."
+in_archive
+! is_checked_out || exit 0
 # The model goes on with what it has in memory, so the lock must not change the content.
 [ ! -e "$working" ] || rcsdiff -q "$archived" "$working" >/dev/null ||
   fail "'$working' differs from the newest revision; check it out, or undo its changes first."

@@ -5,6 +5,7 @@
 . "${0%/*}/comment.sh"
 . "${0%/*}/tree.sh"
 
+find_archive "$1/./"
 root=$1 model=$2 old=$3 new=$4 old_file=$5 new_file=$6 comment=$7
 old_archive=$root${old#"$model"}
 new_archive=$root${new#"$model"}

@@ -4,6 +4,7 @@
 . "${0%/*}/comment.sh"
 . "${0%/*}/tree.sh"
 
+find_archive "$1/./"
 old=$3 new=$4 comment=$5
 old_archived=$(archived_of "$1" "$2" "$old")
 new_archived=$(archived_of "$1" "$2" "$new")

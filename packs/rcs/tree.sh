@@ -7,14 +7,9 @@ archived_of() {
   printf '%s/RCS/%s,v\n' "$1${place#"$2"}" "${3##*/}"
 }
 
-# lockers ARCHIVEFILE: who holds locks, one a line.
-lockers() {
-  rlog -h "$1" | sed -n '/^locks:/,/^access list:/ s/^\t\([^:]*\):.*/\1/p'
-}
-
-# not_held_by_others ARCHIVEFILE: the user's name is what the RCS tools take for it.
+# not_held_by_others ARCHIVEFILE
 not_held_by_others() {
-  other=$(lockers "$1" | grep -v -x -F -e "${LOGNAME:-${USER:-$(id -un)}}" | head -n 1)
+  other=$(lockers "$1" | grep -v -x -F -e "$(user)" | head -n 1)
   [ -z "$other" ] || fail "'$1' is locked by $other."
 }
 

@@ -2,5 +2,5 @@
 . "${0%/*}/common.sh"
 
 name_files "$1" "$2"
-[ -f "$archived" ] || fail "'$archived' does not exist; the file is not in the archive."
+in_archive
 co -q -f -u "$archived" "$working"

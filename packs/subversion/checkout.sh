@@ -1,47 +1,43 @@
-# checkout.sh --locked|--unlocked UNITS [LABEL]: brings files from the archive, with or without locks. Of
-# several files that cannot all be locked, those that are get a line "done: PATH"; the caller then
-# tries the others one by one.
+# checkout.sh --locked|--unlocked|--lock UNITS [LABEL]: brings files from the archive, with or without
+# locks. --lock leaves their content as it is. Files that are locked in this folder already are fine. Of
+# several files that cannot all be locked, those that are get a line "done: PATH"; the caller then tries
+# the others one by one.
 . "${0%/*}/common.sh"
 . "${0%/*}/labels.sh"
 
 mode=$1 units=$2 revision=${3:-HEAD}
 name_targets "$units"
 
-# update REVISION
-update() {
-  tr '\n' '\000' <"$targets" |
-    xargs -0 sh "${0%/*}/svn.sh" update --parents --revision "$1" --
-}
-
-# lock: what svn complains about comes behind what it has done.
+# lock: what svn complains about is kept.
 lock() {
   svn lock --targets "$targets" 2>"$work/refused"
+}
+
+# locked_here: those of $targets that are; a lock that somebody has taken away does not count.
+locked_here() {
+  on_targets status --show-updates --depth empty | sed -n 's/^.\{5\}K.\{15\}//p'
 }
 
 if [ "$mode" = --unlocked ]; then
   number=$(revision_of "$revision")
   [ -n "$number" ] || fail "There is no label or revision '$revision' in the archive."
-  update "$number"
+  on_targets update --parents --revision "$number"
   exit
 fi
 [ "$revision" = HEAD ] ||
   fail "Only the newest revision can be checked out; fetch revision '$revision' instead."
 
-answer=$(lock) && show && exit
-printf '%s\n' "$answer" | sed -n "s/^'\(.*\)' locked by user '[^']*'\.\$/\1/p" >"$work/locked"
-tell "done" "$work/locked"
-case $units$(cat "$work/refused") in
-  @*)
-    # Beside error lines the lines above would be lost, so this goes the same way.
-    cat "$work/refused"
-    exit 1
-    ;;
+lock && exit
+case "$mode $units $(cat "$work/refused")" in
+  '--lock '* | '--locked @'*) ;;
   # The working copy is behind the archive, or does not have the file yet.
   *W160042:* | *E160042:* | *E155010:* | *E155007:*)
-    update HEAD && svn lock --targets "$targets"
-    ;;
-  *)
-    cat "$work/refused" >&2
-    exit 1
+    on_targets update --parents --revision HEAD && svn lock --targets "$targets"
+    exit
     ;;
 esac
+locked_here >"$work/locked" 2>/dev/null
+[ "$(wc -l <"$work/locked")" -lt "$(wc -l <"$targets")" ] || exit 0
+tell "done" "$work/locked"
+cat "$work/refused" >&2
+exit 1

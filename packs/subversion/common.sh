@@ -102,7 +102,10 @@ show() {
   [ -z "$answer" ] || printf '%s\n' "$answer"
 }
 
+# give_up: tells the reason, without the progress that svn has told before it.
 give_up() {
+  reason=$(printf '%s\n' "$answer" | sed -n '/^svn[a-z]*: \|^subversion: /,$p')
+  answer=${reason:-$answer}
   show >&2
   exit 1
 }
@@ -152,9 +155,14 @@ tell() {
     }' "$1" "$targets"
 }
 
+# on_targets COMMAND...: for commands of svn that take no list.
+on_targets() {
+  tr '\n' '\000' <"$targets" | xargs -0 sh "${0%/*}/svn.sh" "$@" --
+}
+
 # held: those of $targets that this folder holds a lock of; the sixth column of a status tells.
 held() {
-  tr '\n' '\000' <"$targets" | xargs -0 sh "${0%/*}/svn.sh" status --depth empty -- |
+  on_targets status --depth empty |
     sed -n 's/^.....K. \(.*\)/\1@/p'
 }
 

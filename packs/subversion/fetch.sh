@@ -22,5 +22,8 @@ if [ -n "$to" ]; then
   exit
 fi
 name_targets "$units"
-tr '\n' '\000' <"$targets" |
-  xargs -0 sh "${0%/*}/svn.sh" update --parents --revision "$number" --
+on_targets update --parents --revision "$number" || exit
+# svn is content with files that it does not know.
+stranger=$(on_targets status --depth empty 2>&1 |
+  sed -n "s/^?       //p; s/^svn: warning: W155010: The node '\(.*\)' was not found.*/\1/p" | head -n 1)
+[ -z "$stranger" ] || fail "'$stranger' is not in the archive; add it first."

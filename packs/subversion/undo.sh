@@ -2,7 +2,10 @@
 . "${0%/*}/common.sh"
 
 name_targets "$1"
-svn revert --targets "$targets" || exit
+run svn revert --targets "$targets" || give_up
+skipped=$(printf '%s\n' "$answer" | sed -n "s/^Skipped '\(.*\)'.*/\1/p" | head -n 1)
+[ -z "$skipped" ] || fail "'$skipped' is not in the archive; add it first."
+show
 answer=
 give_locks || give_up
 show

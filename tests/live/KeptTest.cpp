@@ -17,6 +17,7 @@ class KeptTest : public testing::TestWithParam<const char*> {
   void SetUp() override {
     if (!isInstalled(makeTool(GetParam(), m_sandbox)->traits().program))
       GTEST_SKIP() << GetParam() << " is not installed";
+    m_sandbox.become("alice");
     m_sandbox.copySample("model");
     cm({"init", "model", "--name", "Machine", "--tool", GetParam(), "--archive", "archive"});
     ASSERT_EQ(cm({"add", m_unit, m_other, "-m", "first"}).code, 0);
@@ -104,7 +105,8 @@ TEST_P(KeptTest, TheCommentOfAFailedCheckInIsOfferedAgain) {
   EXPECT_EQ(cm({"checkin", m_unit, "--last-comment"}).code, 2) << "it has done its duty";
 }
 
-INSTANTIATE_TEST_SUITE_P(Packs, KeptTest, testing::Values("Subversion", "RCS"),
+INSTANTIATE_TEST_SUITE_P(Packs, KeptTest,
+                         testing::Values("Subversion", "RCS", "CVS", "Git", "Mercurial"),
                          [](const auto& param) { return std::string(param.param); });
 
 }  // namespace

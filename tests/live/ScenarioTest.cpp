@@ -107,6 +107,10 @@ void ScenarioTest::checkOutAndIn() {
     EXPECT_EQ(tool().holder(Unit), "alice");
     EXPECT_EQ(Job::unitOf(m_job.document({"ls"}), Unit)["locker"], "alice");
   }
+  // Who repeats a command is not refused what is his already.
+  m_job.cm({"checkout", Unit, "Milk/Milk.vpkg"});
+  m_job.cm({"lock", Unit});
+  m_job.cm({"undo", "Milk/Milk.vpkg"});
   done("check out");
 
   m_job.change(Unit, "\"5\"", "\"6\"");

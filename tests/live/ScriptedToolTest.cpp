@@ -68,14 +68,17 @@ TEST_F(ScriptedToolTest, EveryWayToFailIsToldOnceWithTheToolsWords) {
   };
   for (const Row& row : rows) {
     useTool(row.script, row.settings);
-    const Ended ended = cm({"lock", m_one});
-    EXPECT_EQ(ended.code, 3) << row.what;
-    EXPECT_EQ(ended.out, "") << row.what;
-    EXPECT_THAT(ended.err, HasSubstr("failed  " + m_one)) << row.what;
-    EXPECT_THAT(ended.err, HasSubstr(row.words)) << row.what;
-    EXPECT_THAT(ended.err, HasSubstr("tool.sh")) << row.what;
-    const std::size_t first = ended.err.find(row.words);
-    EXPECT_EQ(ended.err.find(row.words, first + 1), std::string::npos) << ended.err;
+    for (const std::string command : {"lock", "history"}) {
+      SCOPED_TRACE(command + ", " + row.what);
+      const Ended ended = cm({command, m_one});
+      EXPECT_EQ(ended.code, 3);
+      EXPECT_EQ(ended.out, "");
+      EXPECT_THAT(ended.err, HasSubstr("failed  " + m_one));
+      EXPECT_THAT(ended.err, HasSubstr(row.words));
+      EXPECT_THAT(ended.err, HasSubstr("tool.sh"));
+      const std::size_t first = ended.err.find(row.words);
+      EXPECT_EQ(ended.err.find(row.words, first + 1), std::string::npos) << ended.err;
+    }
   }
 }
 

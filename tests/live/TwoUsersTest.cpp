@@ -17,6 +17,8 @@ using testing::Not;
 
 constexpr char Unit[] = "Brewing/Grinder.vcmp";
 constexpr char Other[] = "Milk/Milk.vpkg";
+/// In the folder of the first.
+constexpr char Sibling[] = "Brewing/Drip Tray.vcmp";
 
 /// Serves the archive of a job; empty where a server does not come up.
 using Serve = std::string (*)(Job& job, std::optional<Server>& server);
@@ -119,12 +121,15 @@ TEST_P(LockingUsersTest, TheSecondCheckOutIsRefusedAndNamesTheHolder) {
   m_job.cm({"checkout", Unit});
   m_job.become("bob", "second");
   for (const std::string command : {"checkout", "lock"}) {
-    const Ended refused = m_job.tryCm({command, Unit, Other});
-    EXPECT_EQ(refused.code, 1) << command << refused.err;
-    EXPECT_THAT(refused.err, AllOf(HasSubstr("alice"), HasSubstr(Unit), Not(HasSubstr(Other))));
-    EXPECT_FALSE(m_job.isWritable(Unit));
-    EXPECT_EQ(tool().holder(Other), "bob");
-    m_job.cm({"unlock", Other});
+    for (const std::string other : {Other, Sibling}) {
+      SCOPED_TRACE(command + " " + other);
+      const Ended refused = m_job.tryCm({command, Unit, other});
+      EXPECT_EQ(refused.code, 1) << refused.err;
+      EXPECT_THAT(refused.err, AllOf(HasSubstr("alice"), HasSubstr(Unit), Not(HasSubstr(other))));
+      EXPECT_FALSE(m_job.isWritable(Unit));
+      EXPECT_EQ(tool().holder(other), "bob");
+      m_job.cm({"unlock", other});
+    }
   }
   EXPECT_EQ(tool().holder(Unit), "alice");
 }

@@ -115,6 +115,14 @@ TEST_F(AddByDirectoryTest, EveryDirectoryIsAGroup) {
   EXPECT_THAT(commands(), SizeIs(7));
 }
 
+TEST_F(AddByDirectoryTest, ACancelledBatchLeavesNoDirectoryCheckedOut) {
+  m_units = {&m_model.addUnit("a/A.vcl"), &m_model.addUnit("a/C.vcl"), &m_model.addUnit("b/B.vcl")};
+  m_host.memoryProgress.cancelAfter = 1;
+  add();
+  EXPECT_THAT(commands(),
+              ElementsAre("co /plan/a", "mk /plan/a/A.vcl", "ci -nc /plan/a /plan/a $unitpath"));
+}
+
 TEST_F(AddByDirectoryTest, AFailedCheckOutKeepsTheFilesBackButTheDirectoryIsCheckedIn) {
   set("CheckOut", "");
   m_units = {&m_model.addUnit("a/A.vcl")};

@@ -1,4 +1,5 @@
 #include <cstdint>
+#include <stdexcept>
 
 #include "cm/host/IPN.h"
 #include "cm/tool/CMToolShellInterface.h"
@@ -35,6 +36,9 @@ TEST_F(ExecuteTest, RunsInTheWorkingDirectoryAndComesBack) {
   m_project.unitDirectory = "";
   EXPECT_EQ(execute("tool x"), 1);
   EXPECT_EQ(lastRun().directory, "/plan");
+  answer("tool", {.effect = [] { throw std::runtime_error("the host is out of memory"); }});
+  EXPECT_THROW(execute("tool x"), std::runtime_error);
+  EXPECT_EQ(m_host.memoryEnvironment.currentDirectory, "/start");
 }
 
 TEST_F(ExecuteTest, WhereTextGoes) {

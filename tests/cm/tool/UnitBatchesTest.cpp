@@ -74,7 +74,8 @@ TEST_F(UnitBatchesTest, WhatAFailedBatchLeftIsDoneOneByOne) {
             {"ci A.vcl", "ci B.vcl", "ci C.vcl"}},
            {{.output = "oops\n"}, {"ci A.vcl", "ci B.vcl", "ci C.vcl"}},
            {{.output = "done: /plan/A.vcl\n", .errors = "crash", .end = ProcessEnd::Crashed},
-            {"ci A.vcl", "ci B.vcl", "ci C.vcl"}},
+            {"ci B.vcl", "ci C.vcl"}},
+           {{.output = "done: /plan/C.vcl\n", .timesOut = true}, {"ci A.vcl", "ci B.vcl"}},
            {{.output = "done: /plan/A.vcl\ndone: /plan/B.vcl\ndone: /plan/C.vcl", .code = 1}, {}},
        }) {
     SCOPED_TRACE(row.reply.output);
@@ -95,9 +96,12 @@ TEST_F(UnitBatchesTest, WhatAFailedBatchLeftIsDoneOneByOne) {
 }
 
 TEST_F(UnitBatchesTest, ACheckInThatFoundNothingChangedIsRemarkedUponForItsUnitAlone) {
-  answerBatch(
-      {.output = "unchanged: /plan/B.vcl\ndone: /plan/A.vcl\ndone: /plan/B.vcl\n", .code = 1});
-  answer("ci C.vcl", {.output = "unchanged: /plan/C.vcl\nunchanged: /plan/A.vcl\n"});
+  // Error lines take the place of the output, but not of what it says about units.
+  answerBatch({.output = "unchanged: /plan/B.vcl\ndone: /plan/A.vcl\ndone: /plan/B.vcl\n",
+               .errors = "C is locked\n",
+               .code = 1});
+  answer("ci C.vcl", {.output = "unchanged: /plan/C.vcl\nunchanged: /plan/A.vcl\n",
+                      .errors = "hint: nothing to commit\n"});
   callOnUnits<CMCheckIn>();
   Lines words;
   for (const MemoryProgress::End& end : m_host.memoryProgress.ended) words.push_back(end.words);

@@ -43,6 +43,10 @@ TEST(UnitOutcomeTest, DiagnosticsGoToTheirUnitOnce) {
   const UnitTrace trace{.file = "/m/a>b", .end = UnitEnd::Refused};
   EXPECT_EQ(after(trace, diagnostics).message, "\"/m/a>b\" holds a sign.");
   EXPECT_EQ(generalMessage(diagnostics, {trace}), "No tool.");
+  // One that the operation has told with the unit needs no search.
+  const UnitTrace told{.file = "b", .end = UnitEnd::Refused, .words = "No tool."};
+  EXPECT_EQ(after(told, diagnostics).message, "No tool.");
+  EXPECT_EQ(generalMessage(diagnostics, {trace, told}), "");
 }
 
 TEST(UnitOutcomeTest, PlanSplitsTheCommandAndNamesTheCommentFile) {

@@ -106,6 +106,26 @@ TEST_F(PackCheck, FilesThatAreNoPacks) {
   EXPECT_EQ(check(directory.file("missing.toml")).size(), 1U);
 }
 
+/// The recursive operations take the templates of the others; a tool that keeps directories under
+/// control has one more.
+TEST_F(PackCheck, NamesThatLookLikeTemplatesAndThoseThatAre) {
+  const TempDirectory directory;
+  const struct {
+    const char* name;
+    bool isRead;
+  } rows[] = {{"AddMember_WithoutCheckOutCheckInDirectory", true},
+              {"CheckOutFromArchiveBatch", true},
+              {"RecCheckIn", false},
+              {"AddDirectory", false},
+              {"HeaderBatchBatch", false},
+              {"ArchiveBatch", false}};
+  for (const auto& row : rows) {
+    const std::string text = "[pack]\nname = 'X'\n[ConfigurationManagement.X]\n" +
+                             std::string(row.name) + " = 'x $UnitPath'\n";
+    EXPECT_EQ(check(directory.write("x.toml", text)).empty(), row.isRead) << row.name;
+  }
+}
+
 TEST_F(PackCheck, PatternsWithOptionsAndCommentsKeepTheirGroups) {
   const TempDirectory directory;
   const struct {
