@@ -46,22 +46,25 @@ mkdir -p "$WINEPREFIX"
 trap '/usr/lib/wine/wineserver -k || true' EXIT
 "$top/setup/wine" cmd /c exit </dev/null >/dev/null 2>&1
 
-# names_of PROGRAM ROOM: "Suite.test" of each test, without those of a room of the platform's; with the
-# third word "only", those alone.
+# names_of ROOM others|own COMMAND...: "Suite.test" of each test of a program, but for those of a room
+# of the platform's, or those alone.
 names_of() {
+  room=$1
+  which=$2
+  shift 2
   rm -f "$logs/list.xml"
-  (cd "$logs" && $1 --gtest_list_tests --gtest_output=xml:list.xml >/dev/null)
-  awk -v room="/platform/$2/" -v only="${3:-}" '
+  (cd "$logs" && "$@" --gtest_list_tests --gtest_output=xml:list.xml >/dev/null)
+  awk -v room="/platform/$room/" -v which="$which" '
     match($0, /<testsuite name="[^"]*/) { suite = substr($0, RSTART + 17, RLENGTH - 17) }
     match($0, /<testcase name="[^"]*/) {
       name = substr($0, RSTART + 16, RLENGTH - 16)
-      if ((index($0, room) > 0) == (only == "only")) print suite "." name
+      if ((index($0, room) > 0) == (which == "own")) print suite "." name
     }' "$logs/list.xml" | LC_ALL=C sort
 }
 
 # by_suite: how many of the tests that come in are in each suite, on one line.
 by_suite() {
-  sed 's/\..*//' | uniq -c | awk '{ printf "%s%s %s", NR > 1 ? ", " : "", $1, $2 } END { print "" }'
+  sed 's/\..*//' | uniq -c | awk '{ printf "%s%s %s", (NR > 1 ? ", " : ""), $1, $2 } END { print "" }'
 }
 
 # compare_with_linux NAME: every test that this system has, Windows has too, but for the room's own.
@@ -70,10 +73,11 @@ compare_with_linux() {
     echo "The same program for this system is not built, so its tests are not compared: ./test does."
     return
   fi
-  names_of "$build/bin/$1" posix >"$logs/linux"
-  names_of "$windows_program" win32 >"$logs/windows"
-  echo "$(wc -l <"$logs/linux") tests are common to Linux and Windows." \
-    "On Linux alone run, about what Windows does not have: $(names_of "$build/bin/$1" posix only | by_suite)."
+  names_of posix others "$build/bin/$1" >"$logs/linux"
+  names_of win32 others "$top/setup/wine" "$windows/bin/$1.exe" >"$logs/windows"
+  echo "$(wc -l <"$logs/linux") tests are common to Linux and Windows. Each room has its own:"
+  echo "  posix: $(names_of posix own "$build/bin/$1" | by_suite)"
+  echo "  win32: $(names_of win32 own "$top/setup/wine" "$windows/bin/$1.exe" | by_suite)"
   if ! diff "$logs/linux" "$logs/windows" >"$logs/difference"; then
     echo "The tests of $1 differ between Linux (<) and Windows (>):" >&2
     cat "$logs/difference" >&2
@@ -84,21 +88,20 @@ compare_with_linux() {
 # run_tests NAME: runs the program's tests; says how many ran, and why each skipped one was.
 run_tests() {
   logs="$windows/logs/$1"
-  windows_program="$top/setup/wine $windows/bin/$1.exe"
   rm -rf "$logs"
   mkdir -p "$logs"
   failed=no
-  GTEST_COLOR=no timeout 300 $windows_program </dev/null >"$logs/output" 2>&1 || failed=yes
+  GTEST_COLOR=no timeout 300 "$top/setup/wine" "$windows/bin/$1.exe" </dev/null >"$logs/output" 2>&1 || failed=yes
   # A skipped test says why on the line before its mark.
-  grep -B2 '^\[  SKIPPED \] .*ms)' "$logs/output" | sed 's/\r$//' | grep -v '^\[ RUN\|^--' || true
+  grep -a -B2 '^\[  SKIPPED \] .*ms)' "$logs/output" | sed 's/\r$//' | grep -v '^\[ RUN\|^--' || true
   if [ "$failed" = yes ]; then
-    grep -B12 '^\[  FAILED  \] .*ms)' "$logs/output" >&2 || tail -n 5 "$logs/output" >&2
+    grep -a -B12 '^\[  FAILED  \] .*ms)' "$logs/output" >&2 || tail -n 5 "$logs/output" >&2
     echo "Tests failed under Wine; all output is in $logs/output." >&2
     exit 1
   fi
   ran=$(sed -n 's/^\[==========\] \([0-9]*\) tests\{0,1\} from .* ran\..*/\1/p' "$logs/output")
-  skipped=$(grep -c '^\[  SKIPPED \] .*ms)' "$logs/output") || true
-  listed=$($windows_program --gtest_list_tests </dev/null | grep -c '^  ')
+  skipped=$(grep -a -c '^\[  SKIPPED \] .*ms)' "$logs/output") || true
+  listed=$("$top/setup/wine" "$windows/bin/$1.exe" --gtest_list_tests </dev/null | grep -c '^  ')
   if [ "$ran" != "$listed" ]; then
     echo "$1 has $listed tests, of which $ran ran." >&2
     exit 1
