@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
-#include <numeric>
 
 #include "cm/host/MessageIds.h"
 #include "cm/ui/ControlIds.h"
@@ -117,12 +116,6 @@ void CMSyncDlg::refreshItems() {
     QCoreApplication::postEvent(parent(), new QEvent(static_cast<QEvent::Type>(RefreshMessage)));
   }
   OnSyncRefresh();
-}
-
-CMArchiveItemList CMSyncDlg::allItems() {
-  std::vector<int> rows(m_listing.size());
-  std::iota(rows.begin(), rows.end(), 0);
-  return m_listing.itemsOf(rows);
 }
 
 void CMSyncDlg::OnCancel() {

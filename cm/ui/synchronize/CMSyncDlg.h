@@ -33,7 +33,6 @@ class VELDRA_CM_UI_EXPORT CMSyncDlg : public ItemWindow {
   void reject() override { OnCancel(); }
 
  private:
-  CMArchiveItemList allItems() override;
   void refreshItems() override;
   void addMethod();
   bool usesMethod() const;

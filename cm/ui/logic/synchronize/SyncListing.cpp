@@ -87,6 +87,7 @@ SyncStatus SyncListing::statusOf(const CMArchiveItem& item, const IUnit* unit) c
 
 void SyncListing::fill() {
   m_rows.clear();
+  m_status.clear();
   if (m_archive == nullptr) return;
   const bool hidesUnresolved =
       CMProperty::getProjectBool(IPN::General, "FilterUnresolvedUnitsInCMSynchDialog", false);
@@ -102,7 +103,8 @@ void SyncListing::fill() {
     // The archive lists units again that have a placeholder.
     if (unit != nullptr && !listed.insert(unit).second) continue;
     item->setStatus(syncStatusText(status));
-    m_rows.push_back({item, status});
+    m_rows.push_back(item);
+    m_status[item] = status;
   }
 }
 
@@ -111,7 +113,7 @@ std::string SyncListing::header(int column) const {
 }
 
 std::string SyncListing::cell(std::size_t row, int column) const {
-  const CMArchiveItem& item = *m_rows[row].item;
+  const CMArchiveItem& item = *m_rows[row];
   const IUnit* const unit = item.getLoadedUnit();
   switch (column) {
     case SyncColumn::Name:
@@ -129,22 +131,6 @@ std::string SyncListing::cell(std::size_t row, int column) const {
     default:
       return {};
   }
-}
-
-void SyncListing::sort(int column) {
-  std::vector<Row> ordered;
-  ordered.reserve(m_rows.size());
-  for (const std::size_t position : orderOf(column)) ordered.push_back(m_rows[position]);
-  m_rows = std::move(ordered);
-}
-
-CMArchiveItemList SyncListing::itemsOf(const std::vector<int>& rows) const {
-  CMArchiveItemList items;
-  for (const int row : rows) {
-    const auto position = static_cast<std::size_t>(row);
-    if (row >= 0 && position < m_rows.size()) items.addTail(m_rows[position].item);
-  }
-  return items;
 }
 
 }  // namespace veldra
