@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "cm/core/ArchiveShortPath.h"
 #include "cm/core/CMArchiveItemList.h"
 #include "cm/host/Export.h"
 #include "cm/host/IUnit.h"
@@ -31,7 +32,16 @@ class VELDRA_CM_EXPORT ItemRows {
   CMArchiveItemList itemsOf(const std::vector<int>& rows) const;
 
  protected:
+  /// The settings that names depend on are those of now.
+  void readNameSettings() { m_shortPath = ArchiveShortPath(); }
+  std::string nameOf(std::size_t row, bool withSuffix) const {
+    return m_shortPath.of(*m_rows[row], withSuffix);
+  }
+
   std::vector<CMArchiveItem*> m_rows;  ///< None is null; the items must outlive this.
+
+ private:
+  ArchiveShortPath m_shortPath;
 };
 
 }  // namespace veldra

@@ -21,7 +21,7 @@ std::string ArchiveRows::cell(std::size_t row, int column) const {
   const CMArchiveItem& item = *m_rows[row];
   switch (column) {
     case ArchiveColumn::Name:
-      return item.getNameNShortPath(true);
+      return nameOf(row, true);
     case ArchiveColumn::Type:
       return item.getType();
     case ArchiveColumn::Version:

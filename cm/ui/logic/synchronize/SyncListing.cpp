@@ -54,6 +54,7 @@ bool SyncListing::list(const std::string& label, DiagnosticList& diagnostics) {
   m_comparison = std::move(comparison);
   m_comparison->setStubExclusion(m_stubExclusion);
   m_newerInArchive.clear();
+  readNameSettings();
   if (usesProvider) askProviderForNewer(units);
   return true;
 }
@@ -117,7 +118,7 @@ std::string SyncListing::cell(std::size_t row, int column) const {
   const IUnit* const unit = item.getLoadedUnit();
   switch (column) {
     case SyncColumn::Name:
-      return item.getNameNShortPath(false);
+      return nameOf(row, false);
     case SyncColumn::Type: {
       const std::string term = unit != nullptr ? unit->getTermName() : std::string();
       return term.empty() ? item.getType() : term;
