@@ -84,6 +84,7 @@ class VELDRA_CM_UI_EXPORT ItemWindow : public CommandWindow, protected ItemView 
   std::vector<CommandButton*> m_buttons;
   std::vector<int> m_selectedRows;
   QString m_runningCaption;
+  bool m_areColumnsFitted = false;
 };
 
 }  // namespace veldra
