@@ -27,6 +27,7 @@ double comparisonAgainstDiff();
 // These need the dialogs.
 double openListAgainstBareView();
 double openTreeAgainstBareView();
+double openArchiveAgainstBareView();
 double dialogMemory();
 double sortAgainstStdSort();
 double refillAgainstOpening();

@@ -52,6 +52,8 @@ constexpr auto Rows = std::to_array<Row>({
     {"open-list: dialog on 100,000 units, first frame / bare view", openListAgainstBareView, 1.5,
      true},
     {"open-tree: the same with the tree", openTreeAgainstBareView, 1.5, true},
+    {"open-archive: browser on 100,000 items, first frame / bare view", openArchiveAgainstBareView,
+     1.5, true},
     {"open-memory: bytes of the dialog per unit", dialogMemory, 200, true},
     {"sort: 100,000 rows, worst column / std::sort of the strings", sortAgainstStdSort, 1.5, true},
     {"refill: after a command on one of 100,000 units / opening", refillAgainstOpening, 0.5, true},

@@ -23,7 +23,7 @@ void makeArchive(const std::string& folder, const std::string& url) {
   const std::string in = "cd '" + folder + "' && ";
   runQuietly(in + commandLineProgram() + " -p model property set Archive " + url);
   runQuietly(in +
-             "svnadmin create archive && svn import -q -m model "
+             "svnadmin create archive && svn import -q -m drawn "
              "--config-option config:miscellany:enable-auto-props=yes "
              "--config-option 'config:auto-props:*=svn:keywords=Id' model " +
              url + " && svn checkout -q " + url + " copy && svn checkout -q " + url + " other");

@@ -92,9 +92,8 @@ void ItemWindow::setEmptyText(const QString& text) {
 }
 
 void ItemWindow::start() {
-  sortItems();
   restorePlace({820, 560});
-  fitColumns(*m_list, width());
+  sortItems();
   m_list->setFocus();
 }
 
@@ -109,6 +108,11 @@ void ItemWindow::endRefill() {
 
 void ItemWindow::CmFillCI() {
   applyFilter(m_filter->text());
+  // Later the user may have drawn them himself.
+  if (!m_areColumnsFitted && m_rows->size() > 0) {
+    m_areColumnsFitted = true;
+    fitColumns(*m_list, width());
+  }
   // Every reset made a new selection model.
   connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &ItemWindow::updateState, Qt::UniqueConnection);

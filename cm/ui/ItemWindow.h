@@ -56,6 +56,7 @@ class VELDRA_CM_UI_EXPORT ItemWindow : public CommandWindow, protected ItemView 
   void endRefill();
 
   // --- ItemView ---
+  CMArchiveItemList allItems() override { return m_rows->all(); }
   std::optional<CommandOptions> askOptions(const OptionPresets& presets) override;
   std::optional<VersionChoice> askVersions() override;
   void commandStarts() override;
@@ -83,6 +84,7 @@ class VELDRA_CM_UI_EXPORT ItemWindow : public CommandWindow, protected ItemView 
   std::vector<CommandButton*> m_buttons;
   std::vector<int> m_selectedRows;
   QString m_runningCaption;
+  bool m_areColumnsFitted = false;
 };
 
 }  // namespace veldra

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -35,8 +36,9 @@ Result<std::string> readFile(const std::string& path, std::size_t limit);
 std::size_t removeStaleTemporaries(const std::string& directory);
 
 /// Gives files back the name that they had before a comparison set them aside as "NAME_temp" and
-/// was killed. Only those come back whose name is free and that have been aside for longer than any
+/// was killed. Only those come back whose name is free and that have been aside for longer than a
 /// command runs. Returns how many.
-std::size_t restoreSetAside(const std::string& directory, const std::vector<std::string>& names);
+std::size_t restoreSetAside(const std::string& directory, const std::vector<std::string>& names,
+                            std::chrono::seconds longestCommand = std::chrono::minutes(15));
 
 }  // namespace veldra::host

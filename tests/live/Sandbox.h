@@ -40,6 +40,8 @@ class Sandbox {
   Ended shell(const std::string& script) const;
 
   void set(const std::string& variable, const std::string& value);
+  /// The variables of everything that runs here.
+  const std::map<std::string, std::string>& environment() const { return m_environment; }
   /// From now on everything is done under this name.
   void become(const std::string& user);
 

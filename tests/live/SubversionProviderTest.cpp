@@ -243,6 +243,33 @@ TEST_F(SubversionProviderTest, GetMakesFilesWhatTheStoreHas) {
   EXPECT_EQ(m_provider.get({file("nothing")}), SCC_E_FILENOTCONTROLLED);
 }
 
+TEST_F(SubversionProviderTest, AFileThatIsSetAsideIsShownTheNewestVersionAndKeepsItsOwn) {
+  const std::string a = controlled("a");
+  aliceCommits("a", "hers\n");
+  fs::rename(a, a + "_temp");
+  ASSERT_EQ(m_provider.get({a}), SCC_OK) << ProviderSession::takeTexts();
+  EXPECT_EQ(m_sandbox.read("work/a"), "hers\n");
+  fs::rename(a + "_temp", a);
+  EXPECT_EQ(m_provider.status(a), SCC_STATUS_CONTROLLED | SCC_STATUS_OUTOFDATE)
+      << "as if it were changed, its next check-in would take alice's work back";
+  ASSERT_EQ(m_provider.checkOut({a}), SCC_OK);
+  EXPECT_EQ(m_sandbox.read("work/a"), "hers\n");
+}
+
+TEST_F(SubversionProviderTest, WhatOnlyTheStoreHasIsKnownAndCanBeCheckedOut) {
+  const Names both = {file("deep/new"), file("other")};
+  ASSERT_EQ(alice("mkdir deep && echo 1 >deep/new && echo 2 >other && svn add -q deep other && "
+                  "svn ci -q -m new")
+                .code,
+            0);
+  constexpr LONG OnlyThere = SCC_STATUS_CONTROLLED | SCC_STATUS_OUTOFDATE;
+  EXPECT_EQ(m_provider.query({both[0], both[1], file("none")}),
+            (std::vector<LONG>{OnlyThere, OnlyThere, SCC_STATUS_NOTCONTROLLED}));
+  ASSERT_EQ(m_provider.checkOut(both), SCC_OK) << ProviderSession::takeTexts();
+  EXPECT_EQ(m_provider.query(both), (std::vector<LONG>{Held, Held}));
+  EXPECT_TRUE(m_sandbox.isWritable("work/deep/new"));
+}
+
 TEST_F(SubversionProviderTest, GetOfADirectoryBringsWhatIsNew) {
   controlled("p/a");
   ASSERT_EQ(alice("mkdir p/q && echo deep >p/q/b && echo new >p/c && svn add -q p/q p/c && "

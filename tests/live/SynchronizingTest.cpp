@@ -1,5 +1,5 @@
 // Two people on one archive: the second sees in the synchronize logic exactly what the first has
-// changed, takes it over, and loads a unit that only the archive had.
+// changed, compares it, takes it over, and loads a unit that only the archive had.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -13,6 +13,7 @@ namespace veldra::live {
 namespace {
 
 using nlohmann::json;
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::UnorderedElementsAre;
 
@@ -28,7 +29,7 @@ class SynchronizingTest : public testing::TestWithParam<const char*> {
     m_job.tool().makeArchive();
     m_job.makeProject(m_job.tool().archive());
     ASSERT_FALSE(HasFailure());
-    m_job.cm({"add", "--all", "-m", "all"});
+    m_job.cm({"add", "--all", "-m", "all", "-l", "Yesterday"});
     m_job.become("bob", "second");
     m_job.tool().makeWorkingCopy("model", "second");
     m_job.cm({"connect"});
@@ -84,10 +85,21 @@ TEST_P(SynchronizingTest, TheSecondSeesWhatTheFirstChangedAndTakesItOver) {
               UnorderedElementsAre(std::string(Changed) + ": newer in the archive",
                                    std::string(New) + ": new in the archive"));
 
+  const Ended newest = m_job.tryCm({"compare", Changed});
+  EXPECT_EQ(newest.code, 1) << newest.err;
+  EXPECT_THAT(newest.out, HasSubstr("Grinds two portions"));
+  EXPECT_THAT(m_job.read(Changed), HasSubstr("Grinds one portion"));
+  step("bob has compared his " + std::string(Changed) + " with the newest revision");
+
   const Ended first = m_job.tryCm({"sync", "--take", Changed});
   EXPECT_EQ(first.code, 1) << "the other one still differs\n" << first.err;
   EXPECT_THAT(m_job.read(Changed), HasSubstr("Grinds two portions"));
   step("bob has taken " + std::string(Changed) + " over");
+  const Ended yesterday = m_job.tryCm({"compare", Changed, "-l", "Yesterday"});
+  EXPECT_EQ(yesterday.code, 1) << yesterday.err;
+  EXPECT_THAT(yesterday.out,
+              AllOf(HasSubstr("Grinds two portions"), HasSubstr("Grinds one portion")));
+  step("bob has compared it with yesterday's revision");
 
   const Ended all = m_job.tryCm({"sync", "--take", "all"});
   EXPECT_EQ(all.code, 0) << all.out << all.err;
@@ -118,11 +130,8 @@ TEST_P(SynchronizingTest, AnArchiveThatCannotBeReachedIsNoArchiveInStep) {
   EXPECT_FALSE(ended.err.empty());
 }
 
-std::string nameOf(const testing::TestParamInfo<const char*>& info) {
-  return info.param;
-}
-
-INSTANTIATE_TEST_SUITE_P(Packs, SynchronizingTest, testing::Values("Subversion", "Git"), nameOf);
+INSTANTIATE_TEST_SUITE_P(Packs, SynchronizingTest, testing::Values("Subversion", "Git"),
+                         [](const auto& info) { return std::string(info.param); });
 
 }  // namespace
 }  // namespace veldra::live

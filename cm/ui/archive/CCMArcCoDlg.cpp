@@ -8,6 +8,7 @@
 #include "cm/ui/logic/SelectionRules.h"
 #include "cm/ui/logic/archive/ArchiveCommands.h"
 #include "cm/ui/logic/archive/ArchiveComparison.h"
+#include "cm/ui/logic/archive/ArchiveRows.h"
 #include "cm/ui/logic/archive/ItemOperations.h"
 #include "cm/ui/widgets/CommandButton.h"
 #include "cm/ui/widgets/Text.h"
@@ -16,8 +17,7 @@ namespace veldra {
 
 CCMArcCoDlg::CCMArcCoDlg(const CMArchiveItemList& items, QWidget* parent)
     : ItemWindow(QStringLiteral("archive"), ControlId::ArchiveList,
-                 std::make_shared<ArchiveRows>(items), parent),
-      m_items(static_cast<ArchiveRows&>(rows())) {
+                 std::make_shared<ArchiveRows>(items), parent) {
   setWindowTitle(shown(dialogText(MessageId::ArchiveTitle, {CMArchive::getMainArchive()})));
   setWindowIcon(commandIcon(DialogCommand::ListArchive));
   setEmptyText(tr("The archive holds nothing of this project yet. Add units to it first."));

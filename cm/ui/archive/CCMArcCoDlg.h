@@ -1,7 +1,6 @@
 #pragma once
 
 #include "cm/ui/ItemWindow.h"
-#include "cm/ui/logic/archive/ArchiveRows.h"
 
 namespace veldra {
 
@@ -19,11 +18,6 @@ class VELDRA_CM_UI_EXPORT CCMArcCoDlg : public ItemWindow {
   void OnArcVdDiff();
   void OnArcCmDiff();
   bool CheckForDescendentsInSelectedItems();
-
- private:
-  CMArchiveItemList allItems() override { return m_items.all(); }
-
-  ArchiveRows& m_items;
 };
 
 }  // namespace veldra

@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
-#include <numeric>
 
 #include "cm/host/MessageIds.h"
 #include "cm/ui/ControlIds.h"
@@ -49,15 +48,15 @@ void CMSyncDlg::addMethod() {
   auto* const explanation = control(new QLabel(hostText(MessageId::SyncComparesTimes), this),
                                     ControlId::SyncExplanation, tr("How units are compared"));
   explanation->setWordWrap(true);
-  auto* const form = new QFormLayout;
-  form->addRow(tr("Compare &by:"), m_method);
-  form->addRow(tr("&Label:"), m_label);
-  head()->addLayout(form);
+  m_form = new QFormLayout;
+  m_form->addRow(tr("Compare &by:"), m_method);
+  m_form->addRow(tr("&Label:"), m_label);
+  head()->addLayout(m_form);
   head()->addWidget(explanation);
   const bool isShown = usesMethod();
   for (QWidget* field : std::initializer_list<QWidget*>{m_method, m_label}) {
     field->setVisible(isShown);
-    form->labelForField(field)->setVisible(isShown);
+    m_form->labelForField(field)->setVisible(isShown);
   }
   explanation->setVisible(!isShown);
   if (!isShown) return;
@@ -70,6 +69,7 @@ void CMSyncDlg::addMethod() {
 
 void CMSyncDlg::methodChosen(int entry) {
   m_label->setEnabled(entry != 0);
+  m_form->labelForField(m_label)->setEnabled(entry != 0);
   if (entry == 0) m_label->clear();
 }
 
@@ -117,12 +117,6 @@ void CMSyncDlg::refreshItems() {
     QCoreApplication::postEvent(parent(), new QEvent(static_cast<QEvent::Type>(RefreshMessage)));
   }
   OnSyncRefresh();
-}
-
-CMArchiveItemList CMSyncDlg::allItems() {
-  std::vector<int> rows(m_listing.size());
-  std::iota(rows.begin(), rows.end(), 0);
-  return m_listing.itemsOf(rows);
 }
 
 void CMSyncDlg::OnCancel() {

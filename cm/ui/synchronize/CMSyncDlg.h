@@ -4,6 +4,7 @@
 #include "cm/ui/logic/synchronize/SyncListing.h"
 
 class QComboBox;
+class QFormLayout;
 
 namespace veldra {
 
@@ -33,7 +34,6 @@ class VELDRA_CM_UI_EXPORT CMSyncDlg : public ItemWindow {
   void reject() override { OnCancel(); }
 
  private:
-  CMArchiveItemList allItems() override;
   void refreshItems() override;
   void addMethod();
   bool usesMethod() const;
@@ -43,6 +43,7 @@ class VELDRA_CM_UI_EXPORT CMSyncDlg : public ItemWindow {
 
   SyncListing& m_listing;
   QComboBox* m_method = nullptr;
+  QFormLayout* m_form = nullptr;
   QLineEdit* m_label = nullptr;
 };
 

@@ -59,7 +59,7 @@ void fitColumns(QTreeView& list, int width) {
   for (int column = 0; column < model.columnCount(); ++column) {
     const QString title = model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
     const int smallest = metrics.horizontalAdvance(title) + HeaderMargin;
-    const int wanted = column == 0 ? width * 2 / 5 : widthOfFirstRows(list, column);
+    const int wanted = column == 0 ? width * 2 / 5 : widthOfFirstRows(list, column) + HeaderMargin;
     list.setColumnWidth(column, std::max(smallest + HeaderMargin, wanted));
   }
 }

@@ -172,6 +172,7 @@ ExitCode runCompare(const Invocation& invocation) {
     return ExitCode::AllDone;
   }
   if (!canFetchForComparison(unit)) return ExitCode::NothingDone;
+  warnAboutLabels(invocation.options.labels);
   const FileComparison comparison = compareSides(session, unit);
   if (wasInterrupted()) return ExitCode::Interrupted;
   print(invocation, path, comparison, session.host().catalogue());

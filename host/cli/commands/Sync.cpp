@@ -94,7 +94,7 @@ class Synchronization {
     const CMAskOnCheckoutGuard mayOverwrite("yestoall");
     const std::size_t before = m_session.progress().traces().size();
     DiagnosticList diagnostics;
-    takeOver(items, {}, diagnostics);
+    takeOver(items, SyncSettings::read().labelInUse(), diagnostics);
     const std::vector<UnitTrace>& traces = m_session.progress().traces();
     std::size_t index = taking.records.size() - items.size();
     for (const CMArchiveItem* item : items) {

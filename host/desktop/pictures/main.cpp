@@ -14,6 +14,7 @@
 
 #include "host/desktop/Appearance.h"
 #include "host/desktop/Words.h"
+#include "host/desktop/pictures/ArchiveWindows.h"
 #include "host/desktop/pictures/WindowDriver.h"
 #include "host/desktop/window/MainWindow.h"
 #include "host/desktop/window/UnitEditor.h"
@@ -43,6 +44,7 @@ class Guide {
     add();
     change();
     lookAround();
+    lookIntoArchive();
     m_window.close();
     return m_isFine;
   }
@@ -106,6 +108,24 @@ class Guide {
            "settings");
     expect(perform(m_window, "dialog", [this](QDialog& dialog) { grab(dialog, "cm-dialog"); }),
            "dialog");
+  }
+
+  void lookIntoArchive() {
+    const std::string copy = m_place.filePath("colleague").toStdString();
+    expect(workAsColleague(m_place.filePath("archive").toStdString(), copy), "colleague");
+    const Grab keep = [this](QWidget& widget, const QString& name) { grab(widget, name); };
+    expect(perform(m_window, "dialog",
+                   [&](QDialog& dialog) {
+                     expect(grabItemWindow(dialog, veldra::ControlId::ListArchive, "archive", keep),
+                            "list archive");
+                     expect(grabItemWindow(dialog, veldra::ControlId::Synchronize, "synchronize",
+                                           keep),
+                            "synchronize");
+                   }),
+           "archive");
+    grabVersions(keep);
+    const std::string unit = "/Brewing/Grinder.vcmp";
+    grabComparison(m_project.toStdString() + unit, copy + unit, keep);
   }
 
   static void write(QDialog& dialog, const char* comment) {

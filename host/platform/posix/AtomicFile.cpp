@@ -135,8 +135,8 @@ std::optional<std::string> writeFileAtomically(const std::string& path, std::str
   }
 }
 
-std::size_t restoreSetAside(const std::string& directory, const std::vector<std::string>& names) {
-  constexpr time_t LongestCommand = time_t{15} * 60;
+std::size_t restoreSetAside(const std::string& directory, const std::vector<std::string>& names,
+                            std::chrono::seconds longestCommand) {
   std::size_t restored = 0;
   for (const std::string& name : names) {
     const std::string path = (fs::path(directory) / name).string();
@@ -144,7 +144,7 @@ std::size_t restoreSetAside(const std::string& directory, const std::vector<std:
     struct stat status {};
     // Another name changes the time of the status, and nothing else.
     const bool isOld = ::lstat(aside.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
-                       status.st_ctime < ::time(nullptr) - LongestCommand;
+                       status.st_ctime < ::time(nullptr) - longestCommand.count();
     // A link fails where the name is taken, so nothing is ever replaced.
     if (!isOld || ::link(aside.c_str(), path.c_str()) != 0) continue;
     ::unlink(aside.c_str());

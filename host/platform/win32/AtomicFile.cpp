@@ -172,9 +172,10 @@ std::optional<std::string> writeFileAtomically(const std::string& path, std::str
   }
 }
 
-std::size_t restoreSetAside(const std::string& directory, const std::vector<std::string>& names) {
+std::size_t restoreSetAside(const std::string& directory, const std::vector<std::string>& names,
+                            std::chrono::seconds longestCommand) {
   const auto latest = std::chrono::duration_cast<std::chrono::nanoseconds>(
-      (std::chrono::system_clock::now() - std::chrono::minutes(15)).time_since_epoch());
+      (std::chrono::system_clock::now() - longestCommand).time_since_epoch());
   std::size_t restored = 0;
   for (const std::string& name : names) {
     const std::string path = directory + '\\' + name;

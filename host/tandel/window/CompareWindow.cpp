@@ -106,6 +106,8 @@ QWidget* CompareWindow::buildPanes() {
   addSide(Pane::Shows::First, MessageNumber::SideNames, m_firstName, m_first);
   addSide(Pane::Shows::Second, MessageNumber::SideNames + 1, m_secondName, m_second);
   panes->setChildrenCollapsible(false);
+  // In proportion to each other, so that neither side is the wider one.
+  panes->setSizes({1000, 1000});
   joinScrollBars();
   return panes;
 }

@@ -52,6 +52,17 @@ void update(Project& project, const FileNames& files, svn_depth_t depth) {
                            FALSE, TRUE, project.client, pool));
 }
 
+bool isSetAside(const std::string& file) {
+  const Pool pool;
+  return isOnDisk(file + "_temp", pool);
+}
+
+void exportNewest(Project& project, const std::string& file) {
+  const Pool pool;
+  check(svn_client_export5(nullptr, file.c_str(), file.c_str(), &NoRevision, &HeadRevision, FALSE,
+                           TRUE, FALSE, svn_depth_empty, nullptr, project.client, pool));
+}
+
 FileNames filesBelow(Project& project, const FileNames& directories, bool isRecursive) {
   FileNames files;
   for (const std::string& directory : directories) {

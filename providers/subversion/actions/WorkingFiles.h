@@ -20,6 +20,14 @@ void dropSchedules(Project& project, const FileNames& files);
 /// lacks are made, unversioned files in the way become local changes.
 void update(Project& project, const FileNames& files, svn_depth_t depth);
 
+/// Whether a program has moved the working file to its other name, "_temp" at the end, to see the
+/// store's newest version in its place. It will move it back, so that the working copy has to go on
+/// telling the revision of that file.
+[[nodiscard]] bool isSetAside(const std::string& file);
+
+/// Puts the store's newest version where the file was. The working copy does not notice.
+void exportNewest(Project& project, const std::string& file);
+
 /// The controlled files below directories.
 FileNames filesBelow(Project& project, const FileNames& directories, bool isRecursive);
 

@@ -44,7 +44,6 @@ class CheckOut {
     } catch (const Failure& failure) {
       if (failure.result() != SCC_E_FILENOTCONTROLLED) throw;
       const FileNames known = withoutUnknown(files);
-      if (known.size() == files.size()) throw;
       if (!known.empty()) takeUp(lockFiles(m_project, known, m_comment));
     }
   }
@@ -59,8 +58,15 @@ class CheckOut {
     restore(m_project, known);
   }
 
+  /// What only the store has is brought first.
   FileNames withoutUnknown(const FileNames& files) {
-    const FileStates states = localStates(m_project.client, files);
+    FileStates states = localStates(m_project.client, files);
+    FileNames away = missingOnes(files);
+    std::erase_if(away, [&](const std::string& one) { return stateIn(states, one).isControlled; });
+    if (!away.empty()) {
+      update(m_project, away, svn_depth_infinity);
+      states = localStates(m_project.client, files);
+    }
     FileNames known;
     for (const std::string& file : files) {
       if (stateIn(states, file).isControlled) {

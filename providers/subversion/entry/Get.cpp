@@ -22,6 +22,7 @@ namespace {
 struct Work {
   FileNames toRestore;  ///< Changed, lost, or writable although they are not checked out.
   FileNames toUpdate;
+  FileNames toShow;  ///< Somebody compares; the working copy stays at its revision.
 };
 
 Work planFor(Project& project, const FileNames& files, Outcome& outcome) {
@@ -40,6 +41,10 @@ Work planFor(Project& project, const FileNames& files, Outcome& outcome) {
       if (state.isModified) {
         project.output.warning("The changes of '" + lastPartOf(file) +
                                "' give way to the store's version.");
+      }
+      if (state.isMissing && state.isOutOfDate && isSetAside(file)) {
+        work.toShow.push_back(file);
+        continue;
       }
       const bool isSame = state.isControlled && !state.isModified && !state.isMissing;
       if (isSame) {
@@ -71,6 +76,7 @@ void checkArrival(Project& project, const FileNames& files, Outcome& outcome) {
 
 void getFiles(Project& project, const FileNames& files, Outcome& outcome) {
   const Work work = planFor(project, files, outcome);
+  for (const std::string& file : work.toShow) exportNewest(project, file);
   restore(project, work.toRestore);
   update(project, work.toUpdate, svn_depth_infinity);
   if (!work.toUpdate.empty()) checkArrival(project, work.toUpdate, outcome);

@@ -3,6 +3,9 @@
 #include <svn_dirent_uri.h>
 #include <svn_time.h>
 
+#include <algorithm>
+
+#include "providers/subversion/actions/WorkingFiles.h"
 #include "providers/subversion/status/LocalStatus.h"
 #include "providers/subversion/status/StatusCall.h"
 #include "providers/subversion/status/StoreStatus.h"
@@ -18,13 +21,42 @@ std::string commonDirectory(const FileNames& files) {
   return common;
 }
 
+/// Files that are neither known here nor on the disk.
+FileNames unknownOnes(const FileNames& files, const FileStates& states) {
+  FileNames unknown;
+  std::ranges::copy_if(files, std::back_inserter(unknown), [&states](const std::string& file) {
+    return !stateIn(states, file).isControlled;
+  });
+  return missingOnes(unknown);
+}
+
+/// What only the store has, if any of the files is; that takes a look at whole folders.
+void addOnlyThere(Project& project, const FileNames& files, FileStates& states) {
+  const FileNames unknown = unknownOnes(files, states);
+  if (unknown.empty()) return;
+  const Pool pool;
+  std::string folder = commonDirectory(unknown);
+  // The working copy may lack the folder as well.
+  while (folder.size() > project.localPath.size() && !isOnDisk(folder, pool)) {
+    folder = svn_dirent_dirname(folder.c_str(), pool);
+  }
+  const FileStates there = treeStates(project, folder, svn_depth_infinity);
+  for (const std::string& file : unknown) {
+    const FileState& state = stateIn(there, file);
+    if (state.isOnlyThere) states.insert_or_assign(file, state);
+  }
+}
+
 }  // namespace
 
 FileStates fileStates(Project& project, const FileNames& files) {
   if (files.empty()) return {};
   FileStates states = localStates(project.client, files);
-  if (askStore(project.client, states)) return states;
-  return treeStates(project, commonDirectory(files), svn_depth_infinity);
+  if (!askStore(project.client, states)) {
+    return treeStates(project, commonDirectory(files), svn_depth_infinity);
+  }
+  addOnlyThere(project, files, states);
+  return states;
 }
 
 FileStates treeStates(Project& project, const std::string& directory, svn_depth_t depth) {

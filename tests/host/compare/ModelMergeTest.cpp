@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <random>
 #include <set>
@@ -169,6 +170,39 @@ TEST(MergeOfRandomModels, MergingTwiceChangesNothing) {
     const Json twice = mergeBy(once, one.second, one.decisions);
     EXPECT_EQ(differing(once, twice), 0U) << seed;
   }
+}
+
+/// Whether another difference of the element is about something inside this value, or around it:
+/// not both of the two can be had.
+bool excludesAnother(const RandomCase& one, const Difference& difference) {
+  return std::ranges::any_of(one.differences, [&](const Difference& other) {
+    return other.key == difference.key && other.attribute != difference.attribute &&
+           (other.attribute.starts_with(difference.attribute + '/') ||
+            difference.attribute.starts_with(other.attribute + '/'));
+  });
+}
+
+TEST(MergeOfRandomModels, EachChoiceAboutAnAttributeHolds) {
+  std::size_t checked = 0;
+  for (unsigned seed = 1; seed <= Seeds; ++seed) {
+    const RandomCase one(seed);
+    const Json merged = mergeBy(one.first, one.second, one.decisions);
+    const ElementTree tree(merged);
+    std::set<Name> fromFirst;
+    std::set<Name> fromSecond;
+    for (const Difference& left : modelDifferences(one.a, tree)) fromFirst.insert(nameOf(left));
+    for (const Difference& left : modelDifferences(tree, one.b)) fromSecond.insert(nameOf(left));
+    for (const Difference& difference : one.differences) {
+      if (difference.kind != DifferenceKind::Changed || excludesAnother(one, difference)) continue;
+      if (tree.find(difference.key) == ElementTree::None) continue;
+      const Name name = nameOf(difference);
+      const bool takesSecond = one.decisions.at(name) == Side::Second;
+      EXPECT_EQ(fromFirst.contains(name), takesSecond) << seed << difference.attribute;
+      EXPECT_EQ(fromSecond.contains(name), !takesSecond) << seed << difference.attribute;
+      ++checked;
+    }
+  }
+  EXPECT_GT(checked, Seeds);
 }
 
 /// The elements that were decided against.

@@ -62,6 +62,22 @@ TEST(AtomicFile, theTemporariesOfTheLivingStay) {
   EXPECT_EQ(removeStaleTemporaries(directory.file("absent")), 0U);
 }
 
+TEST(AtomicFile, whatAKilledComparisonSetAsideComesBackWhereNothingIsInItsWay) {
+  const TempDirectory directory;
+  for (const char* name : {"lost_temp", "both_temp", "both", "other_temp"}) {
+    directory.write(name, name);
+  }
+  fs::create_directory(directory.file("folder_temp"));
+  const std::vector<std::string> names{"lost", "both", "folder", "none"};
+  EXPECT_EQ(restoreSetAside(directory.path(), names), 0U) << "somebody may be comparing now";
+  EXPECT_EQ(restoreSetAside(directory.path(), names, std::chrono::seconds(-2)), 1U);
+  EXPECT_EQ(directory.read("lost"), "lost_temp");
+  EXPECT_FALSE(fs::exists(directory.file("lost_temp")));
+  EXPECT_EQ(directory.read("both"), "both") << "never replaced";
+  EXPECT_EQ(directory.read("both_temp"), "both_temp");
+  EXPECT_TRUE(fs::exists(directory.file("other_temp")));
+}
+
 TEST(ReadFile, readsEveryByteUpToTheLimit) {
   const TempDirectory directory;
   const std::string bytes = std::string("a\0b\r\n", 5) + std::string(70000, '\xfe');

@@ -2,8 +2,10 @@
 
 #include <gmock/gmock.h>
 
+#include <chrono>
 #include <filesystem>
 #include <sstream>
+#include <thread>
 
 #include "host/model/RememberedProjects.h"
 #include "host/tandel/MergeTarget.h"
@@ -99,6 +101,38 @@ TEST_F(TandelTest, ShowsAWindowWhereThereIsADisplayUnlessItShallPrint) {
   EXPECT_EQ(run({a, b}, show), TandelEnd::Same);
   EXPECT_EQ(run({a, b, "-print"}, show), TandelEnd::Different);
   EXPECT_EQ(shown, 1);
+}
+
+TEST_F(TandelTest, AToolOfTheUsersChoiceOpensInPlaceOfTheWindow) {
+#ifdef _WIN32
+  GTEST_SKIP() << "the tool is a script of the shell";
+#endif
+  const TempDirectory place;
+  const std::string a = place.write("a b", "1\n");
+  const std::string b = place.write("b", "2\n");
+  const std::string seen = place.file("seen");
+  const std::string tool = place.write("tool", "#!/bin/sh\nprintf '%s|' \"$@\" >'" + seen + "'\n");
+  fs::permissions(tool, fs::perms::owner_all);
+  int shown = 0;
+  const ShowWindow show = [&shown](ReferenceHost&, CompareSession&, const TandelOptions&) {
+    ++shown;
+  };
+  fs::create_directories(home.file("config/veldra-cm"));
+  const auto choose = [this](const std::string& command) {
+    home.write("config/veldra-cm/user.toml", "[General]\nCompareTool = '" + command + "'\n");
+  };
+  choose(tool + " --wait");
+  EXPECT_EQ(run({a, b}, show), TandelEnd::Same);
+  EXPECT_EQ(shown, 0) << errors.str();
+  for (int wait = 0; wait < 500 && place.read("seen").empty(); ++wait) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+  }
+  EXPECT_EQ(place.read("seen"), "--wait|" + a + '|' + b + '|');
+
+  choose(place.file("nowhere"));
+  run({a, b}, show);
+  EXPECT_EQ(shown, 1) << "better the own window than none";
+  EXPECT_THAT(errors.str(), HasSubstr("nowhere"));
 }
 
 TEST_F(TandelTest, ChosenSidesGoIntoTheOpenModelsFileWithACopyKept) {

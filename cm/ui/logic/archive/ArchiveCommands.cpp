@@ -25,6 +25,11 @@ OptionPresets presetsFor(DialogCommand command, const CMArchiveItemList& items) 
   return presets;
 }
 
+/// What was answered about them in an earlier command does not hold for this one.
+void forgetAnswers(const CMArchiveItemList& items) {
+  for (CMArchiveItem* item : items) item->setStaysOutOfModel(false);
+}
+
 }  // namespace
 
 bool ArchiveCommands::OnArcCo() {
@@ -57,7 +62,7 @@ bool ArchiveCommands::checkOut(CMArchiveItemList& selected, const CommandOptions
 bool ArchiveCommands::OnRecCheckOut(const CMArchiveItemList& selected,
                                     const CommandOptions& options) {
   CMArchiveItemList items = withDescendants(selected, m_view.allItems());
-  for (CMArchiveItem* item : items) item->setStaysOutOfModel(false);
+  forgetAnswers(items);
   DialogArguments arguments(*commandRow(DialogCommand::CheckOut), options);
   bool succeeded = false;
   {
@@ -81,27 +86,27 @@ bool ArchiveCommands::OnArcFetch() {
   }
   CMArchiveItemList selected = m_view.CmSelectedItems();
   if (!allowsItems(selected, false)) return false;
-  const std::optional<CMArchiveItemList> confirmed = ConfirmPartialLoad(selected, true);
-  if (!confirmed) return false;
+  // Nobody is asked about what lies below.
+  forgetAnswers(m_view.allItems());
+  if (!ConfirmPartialLoad(selected, true)) return false;
   const auto options = m_view.askOptions(presetsFor(DialogCommand::Fetch, selected));
   if (!options) return false;
   m_diagnostics.clear();
+  if (options->withDescendants) selected = withDescendants(selected, m_view.allItems());
   bool succeeded = false;
   {
     const ItemViewRunning running(m_view);
     succeeded = fetch(selected, *options);
     // Units that the model has are loaded by the fetch.
-    if (succeeded) succeeded = addToModel(notInModel(*confirmed));
+    if (succeeded) succeeded = addToModel(notInModel(withoutDeclined(selected)));
   }
   return finish(succeeded, MessageId::ArchiveFetchFailed);
 }
 
-bool ArchiveCommands::fetch(CMArchiveItemList& selected, const CommandOptions& options) {
-  if (options.withDescendants) {
-    return doFetch(withDescendants(selected, m_view.allItems()), options.label, m_diagnostics);
-  }
+bool ArchiveCommands::fetch(CMArchiveItemList& items, const CommandOptions& options) {
+  if (options.withDescendants) return doFetch(items, options.label, m_diagnostics);
   DialogArguments arguments(*commandRow(DialogCommand::Fetch), options);
-  return guardedCall(&CMFacade::FetchFromArchive, selected, arguments.list(), m_diagnostics);
+  return guardedCall(&CMFacade::FetchFromArchive, items, arguments.list(), m_diagnostics);
 }
 
 bool ArchiveCommands::finish(bool succeeded, int failureMessage) {

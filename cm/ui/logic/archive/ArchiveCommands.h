@@ -19,7 +19,7 @@ class VELDRA_CM_EXPORT ArchiveCommands {
  private:
   bool OnRecCheckOut(const CMArchiveItemList& selected, const CommandOptions& options);
   bool checkOut(CMArchiveItemList& selected, const CommandOptions& options);
-  bool fetch(CMArchiveItemList& selected, const CommandOptions& options);
+  bool fetch(CMArchiveItemList& items, const CommandOptions& options);
   bool finish(bool succeeded, int failureMessage);
 
   ItemView& m_view;

@@ -24,15 +24,6 @@ constexpr CompareFlags ModelAndItems{.recursive = true, .mergeBack = true, .cm2 
 constexpr CompareFlags TwoVersions{.cm1 = true, .cm2 = true};
 constexpr CompareFlags TwoTrees{.recursive = true, .cm1 = true, .cm2 = true};
 
-void warnAboutLabels(std::initializer_list<std::string> labels) {
-  if (CMProperty::getUseSCCtool() == 0) return;
-  for (const std::string& label : labels) {
-    if (label.empty()) continue;
-    dialogWarning(formatMessage(MessageId::NewestVersionCompared, {label}));
-    return;
-  }
-}
-
 }  // namespace
 
 bool FetchFileFromArchive(CMArchiveItem& item, const std::string& label,
@@ -51,7 +42,7 @@ bool FetchFileFromArchive(CMArchiveItem& item, const std::string& label,
   items.addTail(&item);
   const ItemCommandFunction function =
       usesProvider ? &CMFacade::FetchForDiffFromArc : &CMFacade::FetchFromArchive;
-  return guardedCall(function, items, arguments, diagnostics) && omFileExist(file);
+  return bringsFile(file, [&] { return function(items, arguments, diagnostics); });
 }
 
 bool RecFetchFileFromArchive(CMArchiveItem& item, const std::string& label,
@@ -114,7 +105,7 @@ bool ArchiveComparison::OnArcCmDiff() {
   m_diagnostics.clear();
   const std::optional<ComparisonSides> sides = makeComparisonSides();
   if (!sides) return false;
-  const bool isTree = choice->withDescendants && item.getLoadedUnit() != nullptr;
+  const bool isTree = choice->withDescendants;
   const Fetch function = isTree ? &RecFetchFileFromArchive : &FetchFileFromArchive;
   if (!fetch(function, item, choice->first, sides->first) ||
       !fetch(function, item, choice->second, sides->second)) {

@@ -1,7 +1,5 @@
 #include "cm/ui/logic/archive/ArchiveRows.h"
 
-#include <utility>
-
 #include "cm/core/CMArchiveItem.h"
 #include "cm/host/MessageIds.h"
 #include "cm/ui/logic/HostTexts.h"
@@ -9,16 +7,10 @@
 namespace veldra {
 
 ArchiveRows::ArchiveRows(const CMArchiveItemList& items) {
-  m_items.reserve(items.size());
+  m_rows.reserve(items.size());
   for (CMArchiveItem* item : items) {
-    if (item != nullptr) m_items.push_back(item);
+    if (item != nullptr) m_rows.push_back(item);
   }
-}
-
-CMArchiveItemList ArchiveRows::all() const {
-  CMArchiveItemList items;
-  for (CMArchiveItem* item : m_items) items.addTail(item);
-  return items;
 }
 
 std::string ArchiveRows::header(int column) const {
@@ -26,10 +18,10 @@ std::string ArchiveRows::header(int column) const {
 }
 
 std::string ArchiveRows::cell(std::size_t row, int column) const {
-  const CMArchiveItem& item = *m_items[row];
+  const CMArchiveItem& item = *m_rows[row];
   switch (column) {
     case ArchiveColumn::Name:
-      return item.getNameNShortPath(true);
+      return nameOf(row, true);
     case ArchiveColumn::Type:
       return item.getType();
     case ArchiveColumn::Version:
@@ -39,22 +31,6 @@ std::string ArchiveRows::cell(std::size_t row, int column) const {
     default:
       return {};
   }
-}
-
-void ArchiveRows::sort(int column) {
-  std::vector<CMArchiveItem*> ordered;
-  ordered.reserve(m_items.size());
-  for (const std::size_t position : orderOf(column)) ordered.push_back(m_items[position]);
-  m_items = std::move(ordered);
-}
-
-CMArchiveItemList ArchiveRows::itemsOf(const std::vector<int>& rows) const {
-  CMArchiveItemList items;
-  for (const int row : rows) {
-    const auto position = static_cast<std::size_t>(row);
-    if (row >= 0 && position < m_items.size()) items.addTail(m_items[position]);
-  }
-  return items;
 }
 
 }  // namespace veldra

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <vector>
-
 #include "cm/ui/logic/ItemRows.h"
 
 namespace veldra {
@@ -21,19 +19,10 @@ class VELDRA_CM_EXPORT ArchiveRows : public ItemRows {
   ArchiveRows() = default;
   explicit ArchiveRows(const CMArchiveItemList& items);
 
-  CMArchiveItemList all() const;
-
   // --- ItemRows ---
-  std::size_t size() const override { return m_items.size(); }
-  const CMArchiveItem& item(std::size_t row) const override { return *m_items[row]; }
   int columnCount() const override { return ArchiveColumn::Count; }
   std::string header(int column) const override;
   std::string cell(std::size_t row, int column) const override;
-  void sort(int column) override;
-  CMArchiveItemList itemsOf(const std::vector<int>& rows) const override;
-
- private:
-  std::vector<CMArchiveItem*> m_items;
 };
 
 }  // namespace veldra

@@ -47,4 +47,12 @@ CMArchiveItemList notInModel(const CMArchiveItemList& items) {
   return missing;
 }
 
+CMArchiveItemList withoutDeclined(const CMArchiveItemList& items) {
+  CMArchiveItemList wanted;
+  for (CMArchiveItem* item : items) {
+    if (item != nullptr && !item->staysOutOfModel()) wanted.addTail(item);
+  }
+  return wanted;
+}
+
 }  // namespace veldra

@@ -13,4 +13,7 @@ VELDRA_CM_EXPORT bool addToModel(const CMArchiveItemList& items);
 /// The items that the model has no unit of.
 VELDRA_CM_EXPORT CMArchiveItemList notInModel(const CMArchiveItemList& items);
 
+/// The items that the user has not kept out of the model (`ConfirmPartialLoad`).
+VELDRA_CM_EXPORT CMArchiveItemList withoutDeclined(const CMArchiveItemList& items);
+
 }  // namespace veldra

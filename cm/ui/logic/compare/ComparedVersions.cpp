@@ -7,15 +7,14 @@
 #include "cm/core/CMFacade.h"
 #include "cm/core/TextTools.h"
 #include "cm/core/WorkspaceUnits.h"
-#include "cm/host/CSignal2Exception.h"
 #include "cm/host/Host.h"
 #include "cm/host/IPN.h"
 #include "cm/host/MessageIds.h"
 #include "cm/templates/CMProperty.h"
 #include "cm/tool/CMToolShellInterface.h"
+#include "cm/ui/logic/GuardedCall.h"
 #include "cm/ui/logic/HostTexts.h"
 #include "cm/ui/logic/LiveUnits.h"
-#include "cm/ui/logic/OutputFlush.h"
 
 namespace veldra {
 
@@ -53,15 +52,7 @@ bool fetchTo(IUnit& unit, const std::string& label, const std::string& file,
   CMLabel version(label);
   ArgumentList arguments{&target, &mode, &version};
   UnitList units{&unit};
-  // Another comparison of this second may have left its file here.
-  installedHost()->environment().removeFile(file);
-  int result = 0;
-  flushCommandOutput();
-  guardFaults([&] { result = fetchCall()(units, arguments, diagnostics); });
-  flushCommandOutput();
-  const bool toolFailed =
-      CMProperty::getUseSCCtool() == 0 && theCMToolShellInterface().lastCommandEnd().failed;
-  return result != 0 && !toolFailed && omFileExist(file);
+  return bringsFile(file, [&] { return fetchCall()(units, arguments, diagnostics); });
 }
 
 bool tellNotWritten(const IUnit& unit, const std::string& side) {
@@ -75,6 +66,15 @@ bool fetchTakesTarget(const std::string& property) {
   std::string command;
   return CMProperty::getToolPropertyValue(property, command) &&
          findNoCase(command, "targetDir") != std::string::npos;
+}
+
+bool bringsFile(const std::string& file, const std::function<int()>& fetch) {
+  // Another comparison of this second may have left its file here.
+  installedHost()->environment().removeFile(file);
+  const bool isDone = guardedCall(fetch).value_or(0) != 0;
+  const bool toolFailed =
+      CMProperty::getUseSCCtool() == 0 && theCMToolShellInterface().lastCommandEnd().failed;
+  return isDone && !toolFailed && omFileExist(file);
 }
 
 std::string fileInSide(const IUnit& unit, const IUnit& root, const std::string& side) {

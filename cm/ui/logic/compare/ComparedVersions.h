@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "cm/core/CMDiagnostic.h"
@@ -22,6 +23,10 @@ VELDRA_CM_EXPORT bool saveTreeInto(IUnit& root, const std::string& side);
 /// Whether the tool's template of that name fetches to where it is told. One that says nothing of a
 /// target would fetch over the working file.
 VELDRA_CM_EXPORT bool fetchTakesTarget(const std::string& property);
+
+/// Runs a call of the facade that is to bring a file. False when it failed, or the file did not
+/// come: what another comparison left there is not taken for it.
+VELDRA_CM_EXPORT bool bringsFile(const std::string& file, const std::function<int()>& fetch);
 
 /// Fetches the archive's version of the unit into the directory. `label` is a label or version;
 /// empty means the newest. The working file, with everything that was changed in it, stays as it

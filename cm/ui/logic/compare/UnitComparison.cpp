@@ -57,6 +57,17 @@ bool canFetchForComparison(IUnit& unit) {
   return !mode.isNoTool;
 }
 
+void warnAboutLabels(const std::vector<std::string>& labels) {
+  if (CMProperty::getUseSCCtool() == 0) return;
+  std::string ignored;
+  for (const std::string& label : labels) {
+    if (!label.empty()) ignored += (ignored.empty() ? "" : ", ") + label;
+  }
+  if (!ignored.empty()) {
+    dialogWarning(formatMessage(MessageId::NewestVersionCompared, {ignored}));
+  }
+}
+
 bool UnitComparison::OnVddiff() {
   if (!allowsSelection(SelectionRule::OneAndOnlyOne, m_view.GetSelectedCount())) return false;
   LiveUnits selection(m_view.CmSelectedItems());
@@ -72,9 +83,7 @@ bool UnitComparison::OnVddiff() {
     return false;
   }
   if (!canFetchForComparison(*unit)) return false;
-  if (CMProperty::getUseSCCtool() != 0 && !options->label.empty()) {
-    dialogWarning(formatMessage(MessageId::NewestVersionCompared, {options->label}));
-  }
+  warnAboutLabels({options->label});
   return options->withDescendants ? OnRecFetch(*unit, options->label)
                                   : compareOne(*unit, options->label);
 }

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "cm/core/CMDiagnostic.h"
 #include "cm/ui/logic/CommandView.h"
@@ -19,6 +20,10 @@ VELDRA_CM_EXPORT bool canCompare(IUnit& unit);
 /// Whether there is somebody to fetch the other side from: a CM tool, or a provider with a context
 /// for the unit. Otherwise the user has been told.
 VELDRA_CM_EXPORT bool canFetchForComparison(IUnit& unit);
+
+/// Warns of the labels or versions that were asked for, where a provider brings the newest version
+/// whatever is asked. Empty ones ask for nothing.
+VELDRA_CM_EXPORT void warnAboutLabels(const std::vector<std::string>& labels);
 
 /// Compares one unit of the model with a version in the archive, in the host's diff/merge tool.
 class VELDRA_CM_EXPORT UnitComparison {

@@ -80,10 +80,7 @@ TakeOver takeOver(CMArchiveItemList& items, const std::string& label, Diagnostic
                                            : callTool(way.function, items, arguments, diagnostics);
   markSaveDue();
   if (!succeeded) return TakeOver::CheckOutFailed;
-  CMArchiveItemList toLoad;
-  for (CMArchiveItem* item : way.loads ? notInModel(items) : items) {
-    if (!item->staysOutOfModel()) toLoad.addTail(item);
-  }
+  const CMArchiveItemList toLoad = withoutDeclined(way.loads ? notInModel(items) : items);
   return addToModel(toLoad) ? TakeOver::Done : TakeOver::LoadFailed;
 }
 

@@ -54,6 +54,7 @@ bool SyncListing::list(const std::string& label, DiagnosticList& diagnostics) {
   m_comparison = std::move(comparison);
   m_comparison->setStubExclusion(m_stubExclusion);
   m_newerInArchive.clear();
+  readNameSettings();
   if (usesProvider) askProviderForNewer(units);
   return true;
 }
@@ -87,6 +88,7 @@ SyncStatus SyncListing::statusOf(const CMArchiveItem& item, const IUnit* unit) c
 
 void SyncListing::fill() {
   m_rows.clear();
+  m_status.clear();
   if (m_archive == nullptr) return;
   const bool hidesUnresolved =
       CMProperty::getProjectBool(IPN::General, "FilterUnresolvedUnitsInCMSynchDialog", false);
@@ -102,7 +104,8 @@ void SyncListing::fill() {
     // The archive lists units again that have a placeholder.
     if (unit != nullptr && !listed.insert(unit).second) continue;
     item->setStatus(syncStatusText(status));
-    m_rows.push_back({item, status});
+    m_rows.push_back(item);
+    m_status[item] = status;
   }
 }
 
@@ -111,11 +114,11 @@ std::string SyncListing::header(int column) const {
 }
 
 std::string SyncListing::cell(std::size_t row, int column) const {
-  const CMArchiveItem& item = *m_rows[row].item;
+  const CMArchiveItem& item = *m_rows[row];
   const IUnit* const unit = item.getLoadedUnit();
   switch (column) {
     case SyncColumn::Name:
-      return item.getNameNShortPath(false);
+      return nameOf(row, false);
     case SyncColumn::Type: {
       const std::string term = unit != nullptr ? unit->getTermName() : std::string();
       return term.empty() ? item.getType() : term;
@@ -129,22 +132,6 @@ std::string SyncListing::cell(std::size_t row, int column) const {
     default:
       return {};
   }
-}
-
-void SyncListing::sort(int column) {
-  std::vector<Row> ordered;
-  ordered.reserve(m_rows.size());
-  for (const std::size_t position : orderOf(column)) ordered.push_back(m_rows[position]);
-  m_rows = std::move(ordered);
-}
-
-CMArchiveItemList SyncListing::itemsOf(const std::vector<int>& rows) const {
-  CMArchiveItemList items;
-  for (const int row : rows) {
-    const auto position = static_cast<std::size_t>(row);
-    if (row >= 0 && position < m_rows.size()) items.addTail(m_rows[position].item);
-  }
-  return items;
 }
 
 }  // namespace veldra

@@ -2,8 +2,8 @@
 
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <unordered_set>
-#include <vector>
 
 #include "cm/core/CMDiagnostic.h"
 #include "cm/ui/logic/ItemRows.h"
@@ -34,35 +34,25 @@ class VELDRA_CM_EXPORT SyncListing : public ItemRows {
   /// Computes which items differ, and stores the words for that in the items.
   void fill();
 
-  SyncStatus status(std::size_t row) const { return m_rows[row].status; }
-  CMArchiveItem& archiveItem(std::size_t row) const { return *m_rows[row].item; }
+  SyncStatus status(std::size_t row) const { return m_status.at(m_rows[row]); }
   /// Null until something has been listed.
   const ItemComparison* comparison() const { return m_comparison.get(); }
   void setStubExclusion(bool excludes) { m_stubExclusion = excludes; }
 
   // --- ItemRows ---
-  std::size_t size() const override { return m_rows.size(); }
-  const CMArchiveItem& item(std::size_t row) const override { return *m_rows[row].item; }
   int columnCount() const override { return SyncColumn::Count; }
   std::string header(int column) const override;
   std::string cell(std::size_t row, int column) const override;
-  void sort(int column) override;
-  CMArchiveItemList itemsOf(const std::vector<int>& rows) const override;
 
  private:
-  struct Row {
-    CMArchiveItem* item;
-    SyncStatus status;
-  };
-
   SyncStatus statusOf(const CMArchiveItem& item, const IUnit* unit) const;
   static void createDummyArchiveItems(const UnitList& units, CMArchiveItemListWrapper& items);
   void askProviderForNewer(const UnitList& units);
 
   std::unique_ptr<CMArchiveItemListWrapper> m_archive;
   std::unique_ptr<ItemComparison> m_comparison;
-  std::unordered_set<std::string> m_newerInArchive;  ///< Files, as the provider says.
-  std::vector<Row> m_rows;
+  std::unordered_set<std::string> m_newerInArchive;               ///< Files, as the provider says.
+  std::unordered_map<const CMArchiveItem*, SyncStatus> m_status;  ///< Of each row.
   bool m_stubExclusion = false;
 };
 

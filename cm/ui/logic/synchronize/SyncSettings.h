@@ -13,6 +13,8 @@ struct VELDRA_CM_EXPORT SyncSettings {
   std::string label;
 
   static SyncSettings read();
+  /// The label by which units are taken over; empty when the CM headers decide.
+  std::string labelInUse() const { return byLabel ? label : std::string(); }
   /// Stores both in the project as far as it has such properties; the host's undo does not see it.
   void write() const;
 };

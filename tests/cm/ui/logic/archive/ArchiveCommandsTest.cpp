@@ -1,6 +1,9 @@
 #include "cm/ui/logic/archive/ArchiveCommands.h"
 
 #include "cm/core/CMArchiveItem.h"
+#include "cm/core/CMFacade.h"
+#include "cm/host/IUserMessages.h"
+#include "cm/templates/CMProperty.h"
 #include "cm/ui/logic/ItemButtons.h"
 #include "cm/ui/logic/archive/ArchiveRows.h"
 #include "cm/ui/logic/archive/ListArchive.h"
@@ -54,6 +57,10 @@ TEST_F(ArchiveCommandsTest, EachAnswerAboutNewUnits) {
     bool runs;
   } rows[] = {
       {{"yes", "no"}, {"New", "Other"}, {"reload Known.vcl", "add /plan/New.vcl at /plan"}, true},
+      {{"yestoall"},
+       {"New"},
+       {"reload Known.vcl", "add /plan/New.vcl at /plan", "add /plan/Other.vcl at /plan"},
+       true},
       {{"notoall"}, {"New"}, {"reload Known.vcl"}, true},
       {{"yes", "cancel"}, {"New", "Other"}, {}, false},
   };
@@ -67,7 +74,9 @@ TEST_F(ArchiveCommandsTest, EachAnswerAboutNewUnits) {
     EXPECT_EQ(m_host.memoryMessages.loadQuestions, row.asked);
     EXPECT_EQ(loaded(), row.loaded);
     EXPECT_EQ(commandsOf("co").size(), row.runs ? 4U : 0U) << "what is not loaded comes, too";
-    if (IUnit* const added = IUnit::getByFile("/plan/New.vcl")) m_model.destroy(added);
+    for (const char* file : {"/plan/New.vcl", "/plan/Other.vcl"}) {
+      if (IUnit* const added = IUnit::getByFile(file)) m_model.destroy(added);
+    }
   }
 }
 
@@ -86,11 +95,39 @@ TEST_F(ArchiveCommandsTest, WithoutTheQuestionEverythingIsLoaded) {
 TEST_F(ArchiveCommandsTest, DescendantsAreNestedUnitsAndNewFilesOfThePackage) {
   select({3});
   m_view.answer->withDescendants = true;
+  CMProperty::saveOnCheckout(0);
   EXPECT_TRUE(ArchiveCommands(m_view).OnArcCo());
-  EXPECT_TRUE(m_view.asked.back().offersDescendants);
   EXPECT_EQ(commandsOf("co"), (Lines{"co ro /plan/Pump/Pump.vpk", "co ro /plan/Elsewhere/Rotor.vcl",
                                      "co ro /plan/Pump/Seal.vcl"}));
   EXPECT_EQ(loaded().size(), 3U);
+  EXPECT_TRUE(m_host.memoryMessages.loadQuestions.empty()) << "who takes all means all";
+  EXPECT_EQ(CMProperty::saveOnCheckout(-1), 1) << "a large check-out is saved before the next one";
+}
+
+TEST_F(ArchiveCommandsTest, TheHostHearsBeforeAndAfterLoading) {
+  CMFacade::ATMCallbackFunc() = [this](IMainFrame*) { m_host.journal.add("before"); };
+  CMFacade::afterATMCallbackFunc() = [this](IMainFrame*) { m_host.journal.add("after"); };
+  set("AskOnLoadFromArchive", "NO");
+  select({1});
+  EXPECT_TRUE(ArchiveCommands(m_view).OnArcCo());
+  const Lines heard = m_host.journal.only({"before", "add", "after"});
+  ASSERT_GE(heard.size(), 3U);
+  EXPECT_EQ(Lines(heard.end() - 3, heard.end()),
+            (Lines{"before", "add /plan/New.vcl at /plan", "after"}));
+}
+
+TEST_F(ArchiveCommandsTest, DescendantsAreOfferedOnlyWhereThereAreAny) {
+  m_host.memoryEnvironment.settings[{"General", "AlwaysEnableWithDescendentsOption"}] = "FALSE";
+  m_view.answer.reset();
+  const struct {
+    int row;
+    bool offers;
+  } rows[] = {{0, false}, {1, false}, {3, true}};
+  for (const auto& row : rows) {
+    select({row.row});
+    ArchiveCommands(m_view).OnArcCo();
+    EXPECT_EQ(m_view.asked.back().offersDescendants, row.offers) << row.row;
+  }
 }
 
 TEST_F(ArchiveCommandsTest, RefusalsAndFailures) {
@@ -123,6 +160,42 @@ TEST_F(ArchiveCommandsTest, AProviderFetchesAndChecksOutOneByOne) {
   EXPECT_EQ(backEnds.calls,
             (Lines{"provider.fetchFromArchive", "provider.checkOutFromArchive",
                    "provider.checkOutFromArchive", "provider.checkOutFromArchive"}));
+}
+
+TEST_F(ArchiveCommandsTest, WhatIsFetchedBelowAPackageIsLoadedWithoutAQuestion) {
+  useProvider();
+  RecordedBackEnds backEnds;
+  // In an earlier command the user did not want it.
+  select({5});
+  answers() = {"no"};
+  EXPECT_TRUE(ArchiveCommands(m_view).OnArcFetch());
+  EXPECT_EQ(loaded(), Lines{});
+  select({3, 1});
+  answers() = {"no"};
+  m_view.answer->withDescendants = true;
+  EXPECT_TRUE(ArchiveCommands(m_view).OnArcFetch());
+  EXPECT_EQ(m_host.memoryMessages.loadQuestions, (Lines{"Seal", "New"}));
+  EXPECT_EQ(loaded(), (Lines{"add /plan/Pump/Seal.vcl at /plan/Pump"}));
+}
+
+TEST_F(ArchiveCommandsTest, AFetchAsksAboutLoadingFirstAndTellsWhatFailed) {
+  useProvider();
+  // Its library cannot be loaded, which is told once.
+  EXPECT_NE(CMProperty::useSccCompliantTool(), 0);
+  m_host.memoryMessages.asked.clear();
+  select({});
+  EXPECT_FALSE(ArchiveCommands(m_view).OnArcFetch());
+  EXPECT_EQ(messages(), "60617 ");
+  select({1});
+  answers() = {"cancel"};
+  EXPECT_FALSE(ArchiveCommands(m_view).OnArcFetch());
+  EXPECT_TRUE(m_view.asked.empty()) << "who gives up is asked nothing more";
+  EXPECT_EQ(messages(), "60617 ");
+  answers() = {"yes"};
+  EXPECT_FALSE(ArchiveCommands(m_view).OnArcFetch());
+  EXPECT_EQ(m_host.memoryMessages.asked.back().text.substr(0, 5), "60620");
+  EXPECT_EQ(m_host.memoryMessages.asked.back().flags, MessageBox::IconError);
+  EXPECT_EQ(m_view.refreshes, 0);
 }
 
 TEST_F(ArchiveCommandsTest, ButtonsFollowTheBackEnd) {

@@ -3,8 +3,10 @@
 #include <numeric>
 
 #include "cm/core/CMArchiveItem.h"
+#include "cm/templates/CMProperty.h"
 #include "cm/ui/logic/synchronize/SyncListing.h"
 #include "tests/support/ListingTool.h"
+#include "tests/support/RecordingBackEnd.h"
 #include "tests/support/ScriptedItemView.h"
 
 namespace veldra::test {
@@ -109,6 +111,24 @@ TEST_F(SyncCommandTest, ThePropertyTurnsTheCheckOutIntoAFetch) {
   EXPECT_EQ(commandsOf("get"), (Lines{"get /plan/Behind.vcl", "get /plan/New.vcl"}));
   EXPECT_EQ(m_host.journal.only({"reload", "add"}),
             (Lines{"reload Behind.vcl", "add /plan/New.vcl at /plan"}));
+}
+
+TEST_F(SyncCommandTest, AProviderChecksOutOneByOneWhateverThePropertySays) {
+  m_view.selected = m_listing.itemsOf({0, 2});
+  useProvider();
+  RecordedBackEnds backEnds;
+  set("CallCheckOutOnSynchronize", "False", "SCC");
+  SyncCommand(m_view).OnSyncCo({});
+  EXPECT_EQ(backEnds.calls, (Lines(2, "provider.checkOutFromArchive")));
+}
+
+TEST_F(SyncCommandTest, TheBranchToolChecksOutRecursively) {
+  m_view.selected = m_listing.itemsOf({0, 2});
+  set("CMTool", "Vaultrix", "General");
+  RecordedBackEnds backEnds;
+  SyncCommand(m_view).OnSyncCo({});
+  EXPECT_EQ(backEnds.calls, (Lines{"tool.recCheckOutFromArchive"}));
+  EXPECT_EQ(CMProperty::saveOnCheckout(-1), 1);
 }
 
 TEST_F(SyncCommandTest, TheLabelReachesTheCheckOut) {

@@ -1,8 +1,10 @@
 #include "cm/ui/logic/synchronize/SyncListing.h"
 
+#include "cm/core/CMArchiveItem.h"
 #include "cm/ui/logic/synchronize/SyncPossible.h"
 #include "cm/ui/logic/synchronize/SyncSettings.h"
 #include "tests/support/ListingTool.h"
+#include "tests/support/RecordingBackEnd.h"
 
 namespace veldra::test {
 namespace {
@@ -94,6 +96,36 @@ TEST_F(SyncListingTest, TheBranchToolComparesTimes) {
   EXPECT_EQ(m_listing.cell(0, SyncColumn::Version), "1") << "the item's";
 }
 
+/// A provider whose archive has one more file than the model.
+class OneMoreInTheArchive : public RecordingBackEnd {
+ public:
+  explicit OneMoreInTheArchive(Lines& calls) : RecordingBackEnd("provider", calls, 1) {}
+  int listArchive(const ItemCall& call) override {
+    for (const char* file : {"/plan/New.vcl", "/plan/Touched.vcl"}) {
+      call.items.addTail(new CMArchiveItem(file, "9", CMArchiveItem::ReadOnly, {}, {}));
+    }
+    return 1;
+  }
+};
+
+TEST_F(SyncListingTest, AProviderComparesTimesAndNeverListsWhatOnlyTheArchiveHas) {
+  useProvider();
+  Lines calls;
+  OneMoreInTheArchive provider(calls);
+  const BackEnds former = backEnds();
+  backEnds().provider = &provider;
+  set("ShowNewItemsInSynchronize", "YES", "SCC");
+  set(IPN::CMHeaderItsVersion, "v:(\\S+)", "SCC");
+  for (const char* name : {"Touched.vcl", "Mine.vcl", "Same.vcl"}) addUnit(name, "1");
+  m_host.files.find("/plan/Touched.vcl")->time = 2;
+  m_host.files.find("/plan/Mine.vcl")->writable = true;
+  EXPECT_TRUE(list());
+  EXPECT_THAT(rows(), ::testing::UnorderedElementsAre("Touched 2", "Mine 2"))
+      << "each unit once, though placeholder and archive both name it";
+  EXPECT_EQ(m_listing.cell(0, SyncColumn::Version), "1") << "the unit's";
+  backEnds() = former;
+}
+
 TEST_F(SyncListingTest, ExcludedStubsHaveNothingToCompare) {
   MemoryUnit& stub = addUnit("Stub.vcl", "1");
   stub.record.flags |= UnitFlag::Stub;
@@ -131,6 +163,14 @@ TEST_F(SyncListingTest, TheLabelReachesTheListing) {
   archiveHolds("");
   list("R 1");
   EXPECT_EQ(commandsOf("ls").back(), "ls /main -l \"R 1\"");
+}
+
+TEST_F(SyncListingTest, WithoutAProjectOrAToolNothingCanBeSynchronized) {
+  unset("CMTool", "General");
+  EXPECT_FALSE(canSynchronize(1));
+  m_model.setActiveProject(nullptr);
+  EXPECT_FALSE(canSynchronize(1));
+  EXPECT_EQ(messages(), "");
 }
 
 TEST_F(SyncListingTest, SynchronizingNeedsAToolOrTimeStamps) {
