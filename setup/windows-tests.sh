@@ -93,7 +93,7 @@ run_tests() {
   failed=no
   GTEST_COLOR=no timeout 300 "$top/setup/wine" "$windows/bin/$1.exe" </dev/null >"$logs/output" 2>&1 || failed=yes
   # A skipped test says why on the line before its mark.
-  grep -a -B2 '^\[  SKIPPED \] .*ms)' "$logs/output" | sed 's/\r$//' | grep -v '^\[ RUN\|^--' || true
+  grep -a -B2 '^\[  SKIPPED \] .*ms)' "$logs/output" | sed 's/\r$//' | grep -a -v '^\[ RUN\|^--' || true
   if [ "$failed" = yes ]; then
     grep -a -B12 '^\[  FAILED  \] .*ms)' "$logs/output" >&2 || tail -n 5 "$logs/output" >&2
     echo "Tests failed under Wine; all output is in $logs/output." >&2
