@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "host/platform/Program.h"
+#include "tests/host/platform/FolderTime.h"
 #include "tests/host/platform/TempDirectory.h"
 
 namespace veldra::host {
@@ -28,8 +29,7 @@ TEST(StaleFiles, ComparisonsOlderThanAWeekGoAndNothingElse) {
   for (const auto& row : rows) {
     fs::create_directory(directory.file(row.name));
     directory.write(std::string(row.name) + "/unit.vcmp", "x");
-    fs::last_write_time(directory.file(row.name),
-                        fs::file_time_type::clock::now() - std::chrono::hours(24 * row.days));
+    setFolderAge(directory.file(row.name), row.days);
   }
   const std::string plain = directory.write("_tmp2026_300_16_05_23_1", "no folder");
   fs::last_write_time(plain, fs::file_time_type::clock::now() - std::chrono::hours(24 * 30));
@@ -43,7 +43,7 @@ TEST(StaleFiles, WhatIsOlderThanAWeekBehindALinkStays) {
   const TempDirectory directory;
   const TempDirectory other;
   const std::string file = other.write("precious", "x");
-  fs::last_write_time(other.path(), fs::file_time_type::clock::now() - std::chrono::hours(24 * 30));
+  setFolderAge(other.path(), 30);
   std::error_code refused;
   fs::create_directory_symlink(other.path(), directory.file("_tmp2026_325_16_05_23_1"), refused);
   if (refused) GTEST_SKIP() << "no links here: " << refused.message();
