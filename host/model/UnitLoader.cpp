@@ -293,8 +293,8 @@ void loadUnits(Project& project, const std::string& headCache) {
 UnitRecord recordOf(Folder& folder, std::string fileName, const FileType* type, UnitHead& head) {
   UnitRecord record;
   record.folder = &folder;
-  record.name = !head.name.empty() ? std::move(head.name)
-                                   : std::string(type ? stemOf(fileName) : fileName);
+  record.name =
+      !head.name.empty() ? std::move(head.name) : std::string(type ? stemOf(fileName) : fileName);
   record.unitType = !head.unitType.empty() ? std::move(head.unitType)
                     : type                 ? type->unitType
                                            : "File";
