@@ -89,6 +89,7 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public CommandWindow, private CommandView 
   void commandStarts(const CommandRow& row) override;
   void commandEnds() override;
   void dropGoneUnits() override;
+  const BatchResults* results() const override;
 
   void OnInitDialog();
   void buildControls();

@@ -123,6 +123,7 @@ void CCMDialog::DoAfterOpRefresh() {
     CmFillCI();
   }
   CmSelectTheItems();
+  refreshOthers();
 }
 
 void CCMDialog::refresh40001() {

@@ -150,7 +150,7 @@ void ItemWindow::applyFilter(const QString& text) {
 
 void ItemWindow::selectFailed() {
   m_selectedRows.clear();
-  const auto& failed = progressStrip().failedFiles();
+  const std::set<std::string> failed = progressStrip().results().failedFiles();
   for (std::size_t row = 0; row < m_rows->size(); ++row) {
     if (failed.contains(m_rows->item(row).getFileNameWithPath())) {
       m_selectedRows.push_back(static_cast<int>(row));
@@ -192,6 +192,10 @@ void ItemWindow::commandStarts() {
 
 void ItemWindow::commandEnds() {
   releaseInput();
+}
+
+const BatchResults* ItemWindow::results() const {
+  return &progressStrip().results();
 }
 
 void ItemWindow::afterCommand() {

@@ -62,6 +62,7 @@ class VELDRA_CM_UI_EXPORT ItemWindow : public CommandWindow, protected ItemView 
   void commandStarts() override;
   void commandEnds() override;
   void refreshItems() override;
+  const BatchResults* results() const override;
 
  private:
   void OnColumnclick(int column);

@@ -47,9 +47,12 @@ std::string displayName(const IUnit& unit) {
 
 }  // namespace
 
+std::string shortPathOf(const std::string& fullFileName) {
+  return withoutDirectory(fullFileName, activeProjectDirectory());
+}
+
 std::string nameNShortPath(const IUnit* unit) {
-  if (unit == nullptr) return {};
-  return withoutDirectory(unit->getFullFileName(), activeProjectDirectory());
+  return unit != nullptr ? shortPathOf(unit->getFullFileName()) : std::string();
 }
 
 UnitTexts::UnitTexts()

@@ -20,7 +20,9 @@ inline constexpr std::int32_t CheckedOut = 5;
 inline constexpr std::int32_t Count = 6;
 }  // namespace UnitColumn
 
-/// The unit's file path, without the project's directory when it lies there; case is ignored.
+/// A file's path, without the project's directory when it lies there; case is ignored.
+VELDRA_CM_EXPORT std::string shortPathOf(const std::string& fullFileName);
+/// The same of a unit's file.
 VELDRA_CM_EXPORT std::string nameNShortPath(const IUnit* unit);
 
 /// What the views say about units. The settings are read once, when it is made.
