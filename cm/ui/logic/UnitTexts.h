@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "cm/core/CMTraitFacade.h"
 #include "cm/host/Export.h"
@@ -32,15 +33,15 @@ class VELDRA_CM_EXPORT UnitTexts {
 
   /// The text of a cell. The two columns of the provider stay empty until a context is open.
   std::string cell(const IUnit& unit, std::int32_t column) const;
-  /// The text that a row is sorted by; there the provider's columns are always filled.
-  std::string sortKey(const IUnit& unit, std::int32_t column) const;
+  /// The text that a row is sorted by; there the provider's columns are always filled. It lies in
+  /// `storage`.
+  std::string_view sortKey(const IUnit& unit, std::int32_t column, std::string& storage) const;
   /// "Name (version) " and the access mark; embedded files have theirs without parentheses.
   std::string treeLabel(const IUnit& unit) const;
 
   bool marksStubs() const { return m_marksStubs; }
 
  private:
-  std::string shortPath(const IUnit& unit) const;
   std::string accessMark(const IUnit& unit) const;
 
   CMHeaderReader m_headers;
