@@ -214,7 +214,7 @@ void ItemWindow::updateState() {
   m_filter->setVisible(!isEmpty);
   m_empty->setVisible(isEmpty);
   const int all = static_cast<int>(m_rows->size());
-  const int selected = static_cast<int>(m_list->selectionModel()->selectedRows().size());
+  const int selected = static_cast<int>(selectedCount(*m_list));
   const bool filtered = m_list->model() != m_model;
   const QString entries = filtered
                               ? tr("%1 of %n row(s)", nullptr, all).arg(m_list->model()->rowCount())
