@@ -6,6 +6,7 @@
 #include "cm/core/CMAskOnCheckoutGuard.h"
 #include "cm/core/CMFacade.h"
 #include "cm/ui/logic/GuardedCall.h"
+#include "cm/ui/logic/StatusRefresh.h"
 #include "host/cli/Connection.h"
 
 namespace veldra::host::desktop {
@@ -57,6 +58,14 @@ CommandReport runOnArchive(Project& project, BatchResults& results,
   CallArguments arguments = callArguments({.projectDirectory = project.getProjectDirectory()});
   guardedCall([&] { return call(arguments.list(), diagnostics); }, diagnostics);
   return reportOf(diagnostics, results);
+}
+
+bool refreshProviderStatus() {
+  UnitList units;
+  ArgumentList noArguments;
+  DiagnosticList diagnostics;
+  CMFacade::ListWorkspace(units, noArguments, diagnostics);
+  return StatusRefresh::run(units);
 }
 
 CommandReport connectToArchive(Project& project, BatchResults& results) {

@@ -30,6 +30,10 @@ CommandReport runCommand(const WindowCommand& row, UnitList units, CommandOption
 CommandReport runOnArchive(Project& project, BatchResults& results,
                            const std::function<int(ArgumentList&, DiagnosticList&)>& call);
 
+/// Reads the CM states of all units from the provider. False when that failed; the user has been
+/// told.
+bool refreshProviderStatus();
+
 /// Connects the project to its archive, which is made first when it is a folder that does not exist
 /// and the tool can make one.
 CommandReport connectToArchive(Project& project, BatchResults& results);

@@ -170,7 +170,8 @@ void MainWindow::refreshStatus() {
   if (!project) return;
   lookAtDisk();
   if (CMProperty::useSccCompliantTool() != 0) {
-    CMTraitFacade::instance().RefreshCMStatus();
+    // Whatever is set for the opening of projects: this was asked for.
+    refreshProviderStatus();
   } else if (!CMArchive::getMainArchive().empty()) {
     const CommandReport report = listArchive();
     if (!report.isFine()) tellReport(report, tr("Refresh Status"));
