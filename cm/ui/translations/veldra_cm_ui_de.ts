@@ -302,6 +302,10 @@
         <source>, about %1 s left</source>
         <translation>, noch etwa %1 s</translation>
     </message>
+    <message>
+        <source>%1 (provider: %2)</source>
+        <translation>%1 (Anbieter: %2)</translation>
+    </message>
 </context>
 <context>
     <name>veldra::ItemWindow</name>
