@@ -98,11 +98,14 @@ void ItemWindow::start() {
 }
 
 void ItemWindow::beginRefill() {
+  m_wasEmpty = m_rows->size() == 0;
   m_model->beginRefill();
 }
 
 void ItemWindow::endRefill() {
   m_model->endRefill();
+  // Until now there was nothing that columns could be fitted to.
+  if (m_wasEmpty && m_rows->size() > 0) fitColumns(*m_list, width());
   CmFillCI();
 }
 

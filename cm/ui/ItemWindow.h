@@ -84,6 +84,7 @@ class VELDRA_CM_UI_EXPORT ItemWindow : public CommandWindow, protected ItemView 
   QLabel* m_totals;
   std::vector<CommandButton*> m_buttons;
   std::vector<int> m_selectedRows;
+  bool m_wasEmpty = true;  ///< Before the refill at hand.
   QString m_runningCaption;
   bool m_areColumnsFitted = false;
 };
