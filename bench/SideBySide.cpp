@@ -39,4 +39,21 @@ double ratioOf(int rounds, const Work& prepare, const Work& ours, const Work& th
   return median(ourTimes) / median(theirTimes);
 }
 
+double ratioOf(int rounds, const Side& ours, const Side& theirs) {
+  const auto run = [](const Side& side) {
+    side.prepare();
+    return secondsOf(side.work);
+  };
+  run(ours);
+  run(theirs);
+  std::vector<double> ourTimes;
+  std::vector<double> theirTimes;
+  for (int round = 0; round < rounds; ++round) {
+    if (round % 2 == 0) ourTimes.push_back(run(ours));
+    theirTimes.push_back(run(theirs));
+    if (round % 2 != 0) ourTimes.push_back(run(ours));
+  }
+  return median(ourTimes) / median(theirTimes);
+}
+
 }  // namespace veldra::bench

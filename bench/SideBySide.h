@@ -15,4 +15,12 @@ double ratioOf(int rounds, const Work& ours, const Work& theirs);
 /// The same; `prepare` runs before every round and does not count.
 double ratioOf(int rounds, const Work& prepare, const Work& ours, const Work& theirs);
 
+/// One of two things that are compared.
+struct Side {
+  Work prepare;  ///< Runs before each `work` and does not count.
+  Work work;
+};
+/// The same for two that must not find what the other has left.
+double ratioOf(int rounds, const Side& ours, const Side& theirs);
+
 }  // namespace veldra::bench

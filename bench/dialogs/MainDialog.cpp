@@ -59,17 +59,18 @@ class OpenList {
     return texts;
   }
   void sortBy(int column) { Q_EMIT list().header()->sectionClicked(column); }
-  /// Rows with others between them, as a filter or a person picks them.
-  void selectSome() {
+  /// Selects so many rows with others between them, as a filter or a person picks them.
+  void select(int count) {
     QItemSelection selection;
     const QAbstractItemModel& model = *list().model();
-    const int step = model.rowCount() / SelectedCount;
-    for (int i = 0; i < SelectedCount; ++i) {
+    const int step = model.rowCount() / std::max(count, 1);
+    for (int i = 0; i < count; ++i) {
       selection.append(QItemSelectionRange(model.index(i * step, 0),
                                            model.index(i * step, model.columnCount() - 1)));
     }
     list().selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     m_dialog->CmSelectedItems();
+    QCoreApplication::processEvents();
   }
 
  private:
@@ -135,26 +136,26 @@ double refillAgainstOpening() {
   const BenchProject project(UnitCount, "/bin/true");
   OpenList open;
   std::unique_ptr<QWidget> other;
-  return ratioOf(
-      9,
-      [&] {
-        other.reset();
-        checkOutOne(project);
-      },
-      [&] { open.refill(); },
-      [&] {
-        other = openDialog(true);
-        showFirstFrame(*other);
-      });
+  // A second dialog would be refilled with the first.
+  const auto prepare = [&] {
+    other.reset();
+    checkOutOne(project);
+  };
+  return ratioOf(9, Side{prepare, [&] { open.refill(); }}, Side{prepare, [&] {
+                                                                  other = openDialog(true);
+                                                                  showFirstFrame(*other);
+                                                                }});
 }
 
 double refillKeepsSelection() {
   const BenchProject project(UnitCount, "/bin/true");
-  OpenList selected;
-  OpenList none;
-  selected.selectSome();
-  return ratioOf(
-      9, [&] { checkOutOne(project); }, [&] { selected.refill(); }, [&] { none.refill(); });
+  OpenList open;
+  const auto prepare = [&](bool selected) {
+    checkOutOne(project);
+    open.select(selected ? SelectedCount : 0);
+  };
+  const auto refill = [&] { open.refill(); };
+  return ratioOf(9, Side{[&] { prepare(true); }, refill}, Side{[&] { prepare(false); }, refill});
 }
 
 }  // namespace veldra::bench

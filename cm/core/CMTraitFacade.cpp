@@ -25,6 +25,8 @@ struct CMHeaderReader::Patterns {
 
   std::string read(const PropertyPattern& pattern, const IUnit* unit, const char* label) const {
     std::string value;
+    // Headers come by the hundred thousand, and many tools keep none.
+    if (!pattern.exists() && !echoes) return value;
     const std::string header = unit != nullptr ? unit->getCMHeader() : std::string();
     if (header.empty()) return value;
     const bool found = pattern.extract(header, value).result == 1;

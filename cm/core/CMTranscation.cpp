@@ -36,20 +36,29 @@ CMTranscation::CMTranscation(const IViewParameters* view, int undoFlag, CMTransc
   Undoer* undoToClose = nullptr;
   try {
     Undoer* const undoer = undoerFor(type);
-    if (undoer != nullptr) undoer->startTransaction(view, undoFlag);
+    if (undoer != nullptr) {
+      undoer->startTransaction(view, undoFlag);
+      ++moduleState().openUndos;
+    }
     undoToClose = undoer;
     if (IAbstractCMManager* const manager = cmManager()) manager->setCMOperationRunning(1);
     CMTranscation::markStartTranscation();
   } catch (...) {
     leave();
-    if (undoToClose != nullptr) undoToClose->endTransaction();
+    if (undoToClose != nullptr) {
+      --moduleState().openUndos;
+      undoToClose->endTransaction();
+    }
     throw;
   }
 }
 
 CMTranscation::~CMTranscation() {
   try {
-    if (Undoer* const undoer = undoerFor(m_transcationType)) undoer->endTransaction();
+    if (Undoer* const undoer = undoerFor(m_transcationType)) {
+      if (moduleState().openUndos > 0) --moduleState().openUndos;
+      undoer->endTransaction();
+    }
     CMTranscation::markEndTranscation();
   } catch (...) {
     // The operation is over; a host that fails here must not take the process down.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -50,6 +51,7 @@ struct DialogMemory {
 /// it.
 struct ModuleState {
   std::vector<CMTranscation*> transcations;  ///< The live ones, the newest last; not owned.
+  std::size_t openUndos = 0;                 ///< How many of them are inside one of the host.
   CMTxnGlobalState notices;
   CMOutputer mainOutputer;
   std::ostream* outputStream = nullptr;

@@ -42,7 +42,7 @@ bool equalsNoCase(std::string_view a, std::string_view b) {
 }
 
 bool startsWithNoCase(std::string_view text, std::string_view prefix) {
-  return equalsNoCase(text.substr(0, prefix.size()), prefix);
+  return text.starts_with(prefix) || equalsNoCase(text.substr(0, prefix.size()), prefix);
 }
 
 std::size_t findNoCase(std::string_view text, std::string_view what, std::size_t from) {

@@ -104,6 +104,17 @@ inline constexpr int OptionTitle = 60520;     ///< Of a provider's option window
 inline constexpr int OptionTitleOfCommand =
     60530;  ///< The same by command: fetch, check out, undo, check in, add.
 inline constexpr int ConnectWithoutArchive = 60535;
+inline constexpr int CommandFault = 60560;  ///< What happened.
+inline constexpr int CommandStillRuns = 60561;
+inline constexpr int NoProjectOpen = 60562;
+inline constexpr int UserCommandFailed = 60563;
+// Why a unit came to nothing about which nobody had words.
+inline constexpr int UnitRefused = 60564;
+inline constexpr int UnitDeclined = 60565;
+inline constexpr int CommandNotExpanded = 60566;
+inline constexpr int CommandNotRun = 60567;
+inline constexpr int ToolFailedSilently = 60568;
+inline constexpr int UnitNotReloaded = 60569;
 
 // What the archive browser and the synchronize dialog say.
 inline constexpr int SyncNewInArchive = 60600;  ///< How an item stands to its unit.

@@ -98,8 +98,8 @@ void CCMDialog::connectControls() {
   connect(m_filter, &QLineEdit::textChanged, this, &CCMDialog::applyFilter);
   connect(m_list->header(), &QHeaderView::sectionClicked, this, &CCMDialog::OnColumnclickFlatlist);
   connect(&failureStrip(), &FailureStrip::selectWanted, this, [this] {
-    selectFiles(
-        [this](const std::string& file) { return progressStrip().failedFiles().contains(file); });
+    const std::set<std::string> failed = progressStrip().results().failedFiles();
+    selectFiles([&failed](const std::string& file) { return failed.contains(file); });
   });
   for (QTreeView* view : {m_tree, m_list}) {
     connect(view, &QWidget::customContextMenuRequested, this, &CCMDialog::showContextMenu);

@@ -89,6 +89,7 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public CommandWindow, private CommandView 
   void commandStarts(const CommandRow& row) override;
   void commandEnds() override;
   void dropGoneUnits() override;
+  const BatchResults* results() const override;
 
   void OnInitDialog();
   void buildControls();
@@ -135,6 +136,7 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public CommandWindow, private CommandView 
   int m_refillDepth = 0;
   bool m_isRefillDue = false;
   bool m_isTreeDue = false;
+  bool m_keepsSelection = false;  ///< Rows that stay are selected again after the refill.
   bool m_isExpandDue = false;
   bool m_isOrderDue = false;
   bool m_isFitDue = true;

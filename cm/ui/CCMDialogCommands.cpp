@@ -9,17 +9,20 @@
 #include "cm/ui/RefillScope.h"
 #include "cm/ui/archive/CCMArcCoDlg.h"
 #include "cm/ui/logic/CommandRun.h"
+#include "cm/ui/logic/FailureMessage.h"
+#include "cm/ui/logic/HostTexts.h"
 #include "cm/ui/logic/MainArchive.h"
 #include "cm/ui/logic/ProviderOptions.h"
+#include "cm/ui/logic/SelectionRules.h"
 #include "cm/ui/logic/StatusRefresh.h"
 #include "cm/ui/logic/UserDefinedCommand.h"
 #include "cm/ui/logic/ViewState.h"
 #include "cm/ui/logic/archive/ListArchive.h"
 #include "cm/ui/logic/compare/UnitComparison.h"
+#include "cm/ui/logic/synchronize/SyncPossible.h"
 #include "cm/ui/logic/synchronize/SyncSettings.h"
 #include "cm/ui/synchronize/CMSyncDlg.h"
 #include "cm/ui/widgets/ButtonPanel.h"
-#include "cm/ui/widgets/HeldInput.h"
 #include "cm/ui/widgets/Text.h"
 #include "cm/ui/widgets/WorkspaceData.h"
 
@@ -41,10 +44,10 @@ void CCMDialog::press(DialogCommand command) {
 }
 
 void CCMDialog::runPressed(DialogCommand command) {
+  const bool isView = command == DialogCommand::FlatView || command == DialogCommand::TreeView;
+  if (isView) return setView(command == DialogCommand::FlatView);
+  if (!allowsCommands()) return;
   switch (command) {
-    case DialogCommand::FlatView:
-    case DialogCommand::TreeView:
-      return setView(command == DialogCommand::FlatView);
     case DialogCommand::ListArchive:
       return listArchive();
     case DialogCommand::Compare:
@@ -66,11 +69,10 @@ void CCMDialog::runPressed(DialogCommand command) {
 
 void CCMDialog::runUserCommand(DialogCommand command) {
   const UnitList units = CmSelectedItems();
-  const HeldWindow held(*this);
   m_data->isFrozen = true;
+  holdInput(shown(ButtonRules::caption(command)));
   UserDefinedCommand::run(command, units);
-  m_data->isFrozen = false;
-  dropGoneUnits();
+  releaseInput();
 }
 
 void CCMDialog::RunUserDefCommandFromBrowser(const std::string& command, IUnit* unit) {
@@ -92,15 +94,20 @@ void CCMDialog::listArchive() {
   const bool isListed = listArchiveInto(items, {}, diagnostics);
   releaseInput();
   if (!isListed) {
-    return showItemFailure(MessageId::CommandFailed + static_cast<int>(DialogCommand::ListArchive),
-                           diagnostics);
+    return showFailure(MessageId::CommandFailed + static_cast<int>(DialogCommand::ListArchive),
+                       diagnostics);
   }
   CCMArcCoDlg(items.list(), this).exec();
   DoAfterOpRefresh();
 }
 
 void CCMDialog::synchronize() {
-  if (!CMSyncDlg::canSynchronize(1)) return;
+  if (!CMSyncDlg::canSynchronize(1)) {
+    // The host's own request stays silent without a tool; who presses the button is told.
+    const bool lacksTool = objectionToSynchronizing() == MessageId::NoCMToolSelected;
+    if (lacksTool) dialogError(dialogText(MessageId::NoCMToolSelected));
+    return;
+  }
   const UnitList selected = CmSelectedItems();
   chooseMainArchive(selected);
   CMSyncDlg dialog(this);
@@ -111,8 +118,8 @@ void CCMDialog::synchronize() {
   if (isListed) {
     dialog.exec();
   } else {
-    showItemFailure(MessageId::CommandFailed + static_cast<int>(DialogCommand::Synchronize),
-                    diagnostics);
+    showFailure(MessageId::CommandFailed + static_cast<int>(DialogCommand::Synchronize),
+                diagnostics);
   }
   DoAfterOpRefresh();
 }
@@ -133,12 +140,17 @@ void CCMDialog::commandEnds() {
 }
 
 void CCMDialog::afterCommand() {
-  m_data->isFrozen = false;
   for (QTreeView* view : {m_tree, m_list}) view->viewport()->setUpdatesEnabled(true);
+  // A fault may have ended the command anywhere.
+  dropGoneUnits();
   m_panel->refresh();
   if (!m_isRefreshDue) return;
   m_isRefreshDue = false;
   refresh40001();
+}
+
+const BatchResults* CCMDialog::results() const {
+  return &progressStrip().results();
 }
 
 void CCMDialog::dropGoneUnits() {

@@ -2,6 +2,7 @@
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScopedValueRollback>
 #include <QTreeView>
 #include <unordered_set>
 
@@ -29,7 +30,7 @@ void CCMDialog::updateList() {
   std::erase(units, nullptr);
   // A view on as many rows as before need not be laid out anew.
   const bool keepsRows = units.size() == m_data->units.size();
-  setSelection(*m_list, {});
+  if (!m_keepsSelection || !keepsRows) setSelection(*m_list, {});
   if (!keepsRows) m_listModel->beginRefill();
   m_treeModel->beginRefill();
   m_data->isFrozen = false;
@@ -118,11 +119,14 @@ void CCMDialog::OnColumnclickFlatlist(int column) {
 void CCMDialog::DoAfterOpRefresh() {
   {
     const RefillScope once(*this);
+    // The same rows are selected again in the end.
+    const QScopedValueRollback keeps(m_keepsSelection, true);
     updateList();
     sortItems();
     CmFillCI();
   }
   CmSelectTheItems();
+  refreshOthers();
 }
 
 void CCMDialog::refresh40001() {
@@ -147,11 +151,7 @@ void CCMDialog::applyFilter(const QString& text) {
 // --- selection ---
 
 std::size_t CCMDialog::GetSelectedCount() {
-  std::size_t count = 0;
-  for (const QItemSelectionRange& range : visibleView()->selectionModel()->selection()) {
-    count += static_cast<std::size_t>(range.height());
-  }
-  return count;
+  return selectedCount(*visibleView());
 }
 
 QModelIndex CCMDialog::sourceOf(const QModelIndex& index) const {
@@ -207,7 +207,9 @@ void CCMDialog::NewCmSelectedItem(IUnit* unit) {
 
 void CCMDialog::CmSelectTheItems() {
   if (!ViewState::isFlat()) return restoreTreeSelection();
-  selectRows(*m_list, *m_listFilter, *m_listModel, m_selectedRows);
+  // Each range of a selection is known to the model; thousands take long to be replaced.
+  const bool isSelected = selectedRows(*m_list, *m_listFilter) == m_selectedRows;
+  if (!isSelected) selectRows(*m_list, *m_listFilter, *m_listModel, m_selectedRows);
   m_list->setFocus();
   m_list->viewport()->update();
 }

@@ -3,8 +3,10 @@
 #include "cm/ui/OptionWindows.h"
 #include "cm/ui/logic/ButtonRules.h"
 #include "cm/ui/logic/CommandRun.h"
+#include "cm/ui/logic/SelectionRules.h"
 #include "cm/ui/logic/UserDefinedCommand.h"
 #include "cm/ui/logic/compare/UnitComparison.h"
+#include "cm/ui/widgets/CommandWindow.h"
 
 namespace veldra {
 
@@ -40,6 +42,7 @@ bool isUserCommand(DialogCommand command) {
 bool runCommandOn(int controlId, const UnitList& units, QWidget* parent) {
   for (const ButtonRow& button : buttonTable()) {
     if (button.controlId != controlId) continue;
+    if (!allowsCommands() || !CommandWindow::allowsAnother()) return false;
     if (isUserCommand(button.command)) return UserDefinedCommand::run(button.command, units);
     GivenUnits view(units, parent);
     if (button.command == DialogCommand::Compare) return UnitComparison(view).OnVddiff();

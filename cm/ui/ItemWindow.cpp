@@ -98,11 +98,14 @@ void ItemWindow::start() {
 }
 
 void ItemWindow::beginRefill() {
+  m_wasEmpty = m_rows->size() == 0;
   m_model->beginRefill();
 }
 
 void ItemWindow::endRefill() {
   m_model->endRefill();
+  // Until now there was nothing that columns could be fitted to.
+  if (m_wasEmpty && m_rows->size() > 0) fitColumns(*m_list, width());
   CmFillCI();
 }
 
@@ -150,7 +153,7 @@ void ItemWindow::applyFilter(const QString& text) {
 
 void ItemWindow::selectFailed() {
   m_selectedRows.clear();
-  const auto& failed = progressStrip().failedFiles();
+  const std::set<std::string> failed = progressStrip().results().failedFiles();
   for (std::size_t row = 0; row < m_rows->size(); ++row) {
     if (failed.contains(m_rows->item(row).getFileNameWithPath())) {
       m_selectedRows.push_back(static_cast<int>(row));
@@ -194,6 +197,10 @@ void ItemWindow::commandEnds() {
   releaseInput();
 }
 
+const BatchResults* ItemWindow::results() const {
+  return &progressStrip().results();
+}
+
 void ItemWindow::afterCommand() {
   m_list->viewport()->setUpdatesEnabled(true);
   for (CommandButton* button : m_buttons) button->setEnabled(!button->isHidden());
@@ -210,7 +217,7 @@ void ItemWindow::updateState() {
   m_filter->setVisible(!isEmpty);
   m_empty->setVisible(isEmpty);
   const int all = static_cast<int>(m_rows->size());
-  const int selected = static_cast<int>(m_list->selectionModel()->selectedRows().size());
+  const int selected = static_cast<int>(selectedCount(*m_list));
   const bool filtered = m_list->model() != m_model;
   const QString entries = filtered
                               ? tr("%1 of %n row(s)", nullptr, all).arg(m_list->model()->rowCount())

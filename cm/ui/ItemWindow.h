@@ -62,6 +62,7 @@ class VELDRA_CM_UI_EXPORT ItemWindow : public CommandWindow, protected ItemView 
   void commandStarts() override;
   void commandEnds() override;
   void refreshItems() override;
+  const BatchResults* results() const override;
 
  private:
   void OnColumnclick(int column);
@@ -83,6 +84,7 @@ class VELDRA_CM_UI_EXPORT ItemWindow : public CommandWindow, protected ItemView 
   QLabel* m_totals;
   std::vector<CommandButton*> m_buttons;
   std::vector<int> m_selectedRows;
+  bool m_wasEmpty = true;  ///< Before the refill at hand.
   QString m_runningCaption;
   bool m_areColumnsFitted = false;
 };

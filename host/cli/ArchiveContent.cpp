@@ -53,9 +53,8 @@ std::string whyNotListed(Session& session, std::size_t tracesBefore,
 }
 
 ArchiveContent listArchive(Session& session) {
-  CallArguments arguments =
-      callArguments({.projectDirectory = session.project().getProjectDirectory(),
-                     .isPlan = session.options().dryRun});
+  CallArguments arguments = callArguments(
+      {.projectDirectory = session.project().getProjectDirectory()}, session.options().dryRun);
   CMArchiveItemListWrapper items;
   DiagnosticList diagnostics;
   const std::vector<UnitTrace>& traces = session.progress().traces();

@@ -16,14 +16,12 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// A server that answers at all answers within this; then people begin to wonder.
-constexpr auto Patience = 10s;
 // What is under way may be a commit, which should rather end by itself.
 constexpr auto Farewell = 5s;
 
 void tellOfWaiting(Console& console, const char* entryPoint) {
   console.err << std::string("The source control provider has been busy in its function ") +
-                     entryPoint + " for " + std::to_string(Patience.count()) +
+                     entryPoint + " for " + std::to_string(ProviderWatch::Patience.count()) +
                      " seconds. If it does not come back, Ctrl-C gives up.\n"
               << std::flush;
 }
@@ -42,7 +40,7 @@ void tellOfWaiting(Console& console, const char* entryPoint) {
 BatchProgress::BatchProgress(Console& console, OutputWindow& window)
     : m_console(console),
       m_window(window),
-      m_watch({.untilTold = Patience,
+      m_watch({.untilTold = ProviderWatch::Patience,
                .untilGivenUp = Farewell,
                .tell = [&console](const char* name) { tellOfWaiting(console, name); },
                .giveUp = [&console](const char* name) { leaveCall(console, name); },

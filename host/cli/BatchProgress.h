@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "cm/host/IProgress.h"
+#include "host/ProviderWatch.h"
 #include "host/cli/Console.h"
 #include "host/cli/OutputWindow.h"
-#include "host/cli/ProviderWatch.h"
 
 namespace veldra::host::cli {
 

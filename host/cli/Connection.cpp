@@ -63,9 +63,8 @@ std::optional<std::string> connectToArchive(Session& session,
   if (CMArchive::getMainArchive().empty()) {
     return "The project has no archive. Name one with --archive.";
   }
-  CallArguments arguments =
-      callArguments({.projectDirectory = session.project().getProjectDirectory(),
-                     .isPlan = session.options().dryRun});
+  CallArguments arguments = callArguments(
+      {.projectDirectory = session.project().getProjectDirectory()}, session.options().dryRun);
   UnitList units;
   DiagnosticList diagnostics;
   const std::vector<UnitTrace>& traces = session.progress().traces();

@@ -32,7 +32,7 @@ std::optional<std::string> connectToProvider(Session& session,
   UnitList units;
   DiagnosticList diagnostics;
   CallArguments arguments =
-      callArguments({.projectDirectory = session.project().getProjectDirectory()});
+      callArguments({.projectDirectory = session.project().getProjectDirectory()}, false);
   if (CMFacade::ConnectToArchive(units, arguments.list(), diagnostics) != 0) return std::nullopt;
   const std::string reason = session.door().lastText();
   return reason.empty() ? "The provider cannot connect the project to its archive." : reason;

@@ -78,8 +78,8 @@ class UnitBatch {
         callArguments({.mode = m_operation.mode,
                        .label = options.label,
                        .comment = m_comment,
-                       .projectDirectory = m_session.project().getProjectDirectory(),
-                       .isPlan = options.dryRun});
+                       .projectDirectory = m_session.project().getProjectDirectory()},
+                      options.dryRun);
     const CMAskOnCheckoutGuard guard;
     UnitList units = m_selection.units;
     if (units.empty()) return;

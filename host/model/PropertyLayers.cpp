@@ -180,6 +180,22 @@ std::optional<std::string> PropertyLayers::setForUser(const PropertyKey& key,
   return std::nullopt;
 }
 
+void PropertyLayers::resetInProject(const PropertyKey& key) {
+  if (!findIn(Origin::Project, key)) return;
+  putEffective(key, belowProject(key));
+  layer(Origin::Project).remove(key);
+  m_pinned.erase(key);
+  tellProjectChanged();
+}
+
+std::optional<std::string> PropertyLayers::resetForUser(const PropertyKey& key) {
+  if (!findIn(Origin::User, key)) return std::nullopt;
+  if (auto error = removeTomlProperty(m_files.userFile, key)) return error;
+  layer(Origin::User).remove(key);
+  if (!findIn(Origin::Project, key)) putEffective(key, belowProject(key));
+  return std::nullopt;
+}
+
 void PropertyLayers::clearProject() {
   for (const auto& [key, property] : layer(Origin::Project)) putEffective(key, belowProject(key));
   layer(Origin::Project).clear();

@@ -64,10 +64,14 @@ class PropertyLayers {
                        const IProperty& property);
   /// The same as the user's own wish: kept even when the value is the inherited one.
   void setInProject(const PropertyKey& key, const std::string& value);
+  /// Takes the project's own value away, so that the inherited one counts.
+  void resetInProject(const PropertyKey& key);
   /// Writes the property to the user's file. Nothing on success, otherwise a sentence that says why
   /// not.
   [[nodiscard]] std::optional<std::string> setForUser(const PropertyKey& key,
                                                       const std::string& value);
+  /// Takes the property out of the user's file; the same answer.
+  [[nodiscard]] std::optional<std::string> resetForUser(const PropertyKey& key);
   /// A unit's own property has been handed out to somebody.
   void noteUnitProperty(const PropertyKey& key, const Property& property);
   /// Takes all properties of the project and its units away, without telling anybody.

@@ -91,6 +91,22 @@ std::optional<std::string> makeDirectoryOf(const std::string& file) {
 
 }  // namespace
 
+namespace {
+
+std::string damaged(const std::string& file, const toml::parse_error& wrong) {
+  return file + ", line " + std::to_string(wrong.source().begin.line) + ": " +
+         std::string(wrong.description()) + ". Correct the file first; it is unchanged.";
+}
+
+/// Without the lines of the property; unchanged when they hold something else, too.
+std::string without(std::string text, const toml::node& value) {
+  const std::size_t begin = offsetOf(text, {value.source().begin.line, 1});
+  const std::size_t end = text.find('\n', offsetOf(text, value.source().end));
+  return text.erase(begin, end == std::string::npos ? end : end + 1 - begin);
+}
+
+}  // namespace
+
 std::optional<std::string> setTomlProperty(const std::string& file, const PropertyKey& key,
                                            const std::string& value) {
   if (auto error = makeDirectoryOf(file)) return error;
@@ -108,8 +124,24 @@ std::optional<std::string> setTomlProperty(const std::string& file, const Proper
            ": it is no UTF-8 text, or the table is written in a form that only its author can "
            "change. Edit the file by hand.";
   } catch (const toml::parse_error& wrong) {
-    return file + ", line " + std::to_string(wrong.source().begin.line) + ": " +
-           std::string(wrong.description()) + ". Correct the file first; it is unchanged.";
+    return damaged(file, wrong);
+  }
+}
+
+std::optional<std::string> removeTomlProperty(const std::string& file, const PropertyKey& key) {
+  Result<std::string> text = readFile(file, SettingsFileLimit);
+  if (!text) return text.error();
+  try {
+    toml::table root = toml::parse(*text);
+    const toml::node* const present = root[key.subject][key.metaclass][key.name].node();
+    if (present == nullptr) return std::nullopt;
+    const std::string changed = without(*text, *present);
+    root[key.subject][key.metaclass].as_table()->erase(key.name);
+    if (root == toml::parse(changed)) return writeFileAtomically(file, changed);
+    return "The property cannot be taken out of " + file +
+           ": its line holds something else, too. Edit the file by hand.";
+  } catch (const toml::parse_error& wrong) {
+    return damaged(file, wrong);
   }
 }
 

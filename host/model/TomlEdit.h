@@ -14,4 +14,8 @@ namespace veldra::host {
                                                          const PropertyKey& key,
                                                          const std::string& value);
 
+/// Takes a property out of a settings file; the same holds. Nothing happens when it is not there.
+[[nodiscard]] std::optional<std::string> removeTomlProperty(const std::string& file,
+                                                            const PropertyKey& key);
+
 }  // namespace veldra::host

@@ -198,6 +198,16 @@ void UnitCore::attachProperty(const std::string& subject, const std::string& met
   if (changes) ownPropertyChanged(key, value);
 }
 
+void UnitCore::detachProperty(const PropertyKey& key) {
+  if (!m_propertiesRead) readOwnProperties();
+  Problem problem;
+  ModelText* edited = editableContent(problem);
+  if (!edited) return m_project.addProblem(problem);
+  objectAt(objectAt(objectAt(edited->body, "properties"), key.subject), key.metaclass)
+      .erase(key.name);
+  ownProperties().remove(key);
+}
+
 void UnitCore::ownPropertyChanged(const PropertyKey& key, const std::string& value) {
   Problem problem;
   ModelText* edited = editableContent(problem);

@@ -96,6 +96,8 @@ class UnitCore {
   bool sccArchive(std::string& projName, std::string& auxProjPath) const;
   void setSccArchive(const std::string& projName, const std::string& auxProjPath);
   IProperty* findProperty(const PropertyKeyView& key, bool localOnly);
+  /// Takes away what the unit says itself, so that the inherited value counts.
+  void detachProperty(const PropertyKey& key);
   void attachProperty(const std::string& subject, const std::string& metaclass,
                       const IProperty& property);
 

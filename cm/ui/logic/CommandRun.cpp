@@ -13,10 +13,9 @@
 #include "cm/host/MessageIds.h"
 #include "cm/templates/CMProperty.h"
 #include "cm/ui/logic/BackEndMode.h"
-#include "cm/ui/logic/CallArguments.h"
+#include "cm/ui/logic/FailureMessage.h"
 #include "cm/ui/logic/GuardedCall.h"
 #include "cm/ui/logic/InformationFiles.h"
-#include "cm/ui/logic/OutputFlush.h"
 #include "cm/ui/logic/RecursiveRun.h"
 #include "cm/ui/logic/SelectionRules.h"
 #include "cm/ui/logic/ViewState.h"
@@ -193,10 +192,10 @@ bool CommandRun::runRecursive(const CommandRow& row, const CommandOptions& optio
 bool CommandRun::call(const CommandRow& row, UnitCommandFunction function, UnitList& units,
                       const CommandOptions& options) {
   const bool usesProvider = CMProperty::getUseSCCtool() != 0;
-  DialogArguments arguments(row, options);
+  CallArguments arguments = OptionRules::arguments(row, options);
   const RunningScope running(m_view, row);
   const std::optional<int> result =
-      guardedCall([&] { return function(units, arguments.list(), m_diagnostics); });
+      guardedCall([&] { return function(units, arguments.list(), m_diagnostics); }, m_diagnostics);
   // Operations of a provider answer 0 whatever came of them; they have told the user themselves.
   const bool tellsByResult = !usesProvider || row.command == DialogCommand::Connect;
   if (row.command == DialogCommand::Fetch) markSaveDue();
@@ -207,7 +206,7 @@ bool CommandRun::callRecursive(const CommandRow& row, UnitList& units,
                                const CommandOptions& options) {
   const bool usesProvider = CMProperty::getUseSCCtool() != 0;
   if (row.command == DialogCommand::CheckOut && !usesProvider) {
-    DialogArguments arguments(row, options);
+    CallArguments arguments = OptionRules::arguments(row, options);
     const RunningScope running(m_view, row);
     return checkOutItems(units, arguments.list(), m_diagnostics);
   }
@@ -234,17 +233,26 @@ bool CommandRun::fetchRecursive(const CommandRow& row, const UnitList& units,
   return (stubs.empty() || call(row, row.recursiveCall, stubs, options)) && succeeded;
 }
 
+/// Such as a check-in that found nothing changed: no failure, but not what was wanted.
+void CommandRun::tellRemarks() const {
+  const BatchResults* const results = m_view.results();
+  const std::string remarks = results != nullptr ? results->remarks() : std::string();
+  if (!remarks.empty()) notifyUserAndAsk(remarks, MessageBox::IconInformation);
+}
+
 void CommandRun::finish(const CommandRow& row, const CommandOptions& options, bool succeeded) {
   const bool hasComment = (row.parts & CallPart::Comment) != 0;
   if (hasComment) ViewState::keepComment(row.command, succeeded ? std::string() : options.comment);
+  if (const BatchResults* const results = m_view.results()) results->addFailures(m_diagnostics);
   if (!succeeded) {
     m_view.dropGoneUnits();
-    showFailure(row, m_diagnostics);
+    showFailure(MessageId::CommandFailed + static_cast<int>(row.command), m_diagnostics);
     return;
   }
   CMCoCiDisplayStatus(m_diagnostics,
                       loadMessage(MessageId::CommandResults + static_cast<int>(row.command)))
       .displayStatus();
+  tellRemarks();
   m_view.DoAfterOpRefresh();
   const bool recursive = options.withDescendants && row.recursive != nullptr;
   const CommandSide& side = CMProperty::getUseSCCtool() != 0 ? row.provider : row.tool;

@@ -36,6 +36,7 @@ class VELDRA_CM_EXPORT CommandRun {
             const CommandOptions& options);
   bool callRecursive(const CommandRow& row, UnitList& units, const CommandOptions& options);
   bool fetchRecursive(const CommandRow& row, const UnitList& units, const CommandOptions& options);
+  void tellRemarks() const;
   void finish(const CommandRow& row, const CommandOptions& options, bool succeeded);
 
   CommandView& m_view;

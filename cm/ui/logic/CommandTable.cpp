@@ -42,7 +42,7 @@ const std::array<CommandRow, 10>& rows() {
        .tool = {AtLeastOne, Window::Provider, "Fetch completed"},
        .provider = {AtLeastOne, Window::Provider, "Fetch completed"},
        .call = &CMFacade::Fetch,
-       .parts = CallPart::Mode,
+       .parts = CallPart::Mode | CallPart::Label,
        .changesModel = true,
        .recursive = &RecursiveFetch,
        .recursiveCall = &CMFacade::Fetch},

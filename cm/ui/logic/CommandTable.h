@@ -3,8 +3,8 @@
 #include <cstddef>
 #include <span>
 
-#include "cm/core/CMArgument.h"
 #include "cm/core/CMDiagnostic.h"
+#include "cm/core/CallArguments.h"
 #include "cm/host/Export.h"
 #include "cm/host/IUnit.h"
 
@@ -47,13 +47,6 @@ enum class SelectionRule {
 
 /// Which window asks for the options of a command.
 enum class OptionWindow { None, Provider, CheckIn, CheckOut, Lock, Connect, Question, Compare };
-
-/// What a command is called with beside its units.
-namespace CallPart {
-inline constexpr unsigned Mode = 1;
-inline constexpr unsigned Label = 2;
-inline constexpr unsigned Comment = 4;
-}  // namespace CallPart
 
 /// What is particular about a command under one back end.
 struct CommandSide {

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <optional>
 
+#include "cm/ui/logic/BatchResults.h"
 #include "cm/ui/logic/OptionRules.h"
 
 namespace veldra {
@@ -25,6 +26,8 @@ class CommandView {
   virtual void DoAfterOpRefresh() = 0;
   /// After one that failed: only units that no longer exist have to go.
   virtual void dropGoneUnits() = 0;
+  /// How the units of the command ended; null when the window does not follow that.
+  virtual const BatchResults* results() const { return nullptr; }
 };
 
 /// Tells the view when units may not be looked at.

@@ -2,20 +2,31 @@
 
 #include <exception>
 
+#include "cm/core/CallState.h"
 #include "cm/host/Host.h"
+#include "cm/host/MessageIds.h"
 #include "cm/templates/CMProperty.h"
 #include "cm/ui/logic/OutputFlush.h"
 
 namespace veldra {
 
-std::optional<int> guardedCall(const std::function<int()>& call) {
+std::optional<int> guardedCall(const std::function<int()>& call, DiagnosticList& diagnostics) {
   if (CMProperty::getUseSCCtool() == 0) flushCommandOutput();
+  const CallState before;
   std::optional<int> result;
+  const auto endedBy = [&](const char* fault) {
+    result.reset();
+    before.restore();
+    VELDRA_TRACE("The command ended with a fault: ", fault);
+    diagnostics.emplace_back(CMDiagnostic::Failed, formatMessage(MessageId::CommandFault, {fault}),
+                             nullptr);
+  };
   try {
     guardFaults([&] { result = call(); });
   } catch (const std::exception& fault) {
-    result.reset();
-    VELDRA_TRACE("The command ended with a fault: ", fault.what());
+    endedBy(fault.what());
+  } catch (...) {
+    endedBy("something that is no exception was thrown");
   }
   flushCommandOutput();
   return result;
@@ -23,7 +34,8 @@ std::optional<int> guardedCall(const std::function<int()>& call) {
 
 bool guardedCall(ItemCommandFunction function, CMArchiveItemList& items, ArgumentList& arguments,
                  DiagnosticList& diagnostics) {
-  return guardedCall([&] { return function(items, arguments, diagnostics); }).value_or(0) != 0;
+  return guardedCall([&] { return function(items, arguments, diagnostics); }, diagnostics)
+             .value_or(0) != 0;
 }
 
 }  // namespace veldra

@@ -11,12 +11,4 @@ bool allowsItems(const CMArchiveItemList& items, bool onlyOne) {
   return false;
 }
 
-void showItemFailure(int messageId, const DiagnosticList& diagnostics) {
-  std::string text = dialogText(messageId);
-  for (const CMDiagnostic& diagnostic : diagnostics) {
-    if (diagnostic.getStatus() == CMDiagnostic::Failed) text += '\n' + diagnostic.getMessage();
-  }
-  dialogError(text);
-}
-
 }  // namespace veldra

@@ -5,6 +5,7 @@
 
 #include "cm/core/CMArchiveItemList.h"
 #include "cm/core/CMDiagnostic.h"
+#include "cm/ui/logic/BatchResults.h"
 #include "cm/ui/logic/OptionRules.h"
 
 namespace veldra {
@@ -35,6 +36,8 @@ class ItemView {
   virtual void commandEnds() = 0;
   /// Sorts, fills and selects anew, after a command that did its work.
   virtual void refreshItems() = 0;
+  /// How the units of the command ended; null when the window does not follow that.
+  virtual const BatchResults* results() const { return nullptr; }
 };
 
 /// Tells the window when units may not be looked at.
@@ -52,8 +55,5 @@ class ItemViewRunning {
 /// Whether at least one item is selected, or exactly one when `onlyOne`; otherwise the user has
 /// been warned.
 VELDRA_CM_EXPORT bool allowsItems(const CMArchiveItemList& items, bool onlyOne);
-
-/// The message of a command that failed, and below it what was said about its items.
-VELDRA_CM_EXPORT void showItemFailure(int messageId, const DiagnosticList& diagnostics);
 
 }  // namespace veldra

@@ -2,6 +2,7 @@
 
 #include "cm/core/TextTools.h"
 #include "cm/host/IEnvironment.h"
+#include "cm/host/IModel.h"
 #include "cm/host/IPN.h"
 #include "cm/host/IProperty.h"
 #include "cm/host/IUserMessages.h"
@@ -99,6 +100,18 @@ std::string OptionRules::objection(const OptionPresets& presets, const CommandOp
     return loadMessage(MessageId::ConnectWithoutArchive);
   }
   return {};
+}
+
+CallArguments OptionRules::arguments(const CommandRow& row, const CommandOptions& options) {
+  const bool writes = row.command == DialogCommand::Lock || options.mode;
+  const bool hasComment = (row.parts & CallPart::Comment) != 0;
+  const IProject* const project = CurrentWorkspace::GetActiveProject();
+  return callArguments(
+      {.parts = row.parts | CallPart::Workspace | (hasComment ? CallPart::CommentFile : 0),
+       .mode = writes ? CMMode::ReadWrite : CMMode::ReadOnly,
+       .label = options.label,
+       .comment = options.comment,
+       .projectDirectory = project != nullptr ? project->getProjectDirectory() : std::string()});
 }
 
 std::string OptionRules::title(const OptionPresets& presets) {

@@ -42,6 +42,8 @@ class VELDRA_CM_EXPORT OptionRules {
 
   /// Why the window may not be closed with these options, as a message; empty when it may.
   static std::string objection(const OptionPresets& presets, const CommandOptions& options);
+  /// What the command is called with.
+  static CallArguments arguments(const CommandRow& row, const CommandOptions& options);
   /// The window's title; under a provider it names the command when the settings want that.
   static std::string title(const OptionPresets& presets);
 };

@@ -4,12 +4,11 @@
 #include "cm/core/CMFacade.h"
 #include "cm/core/UnitBatch.h"
 #include "cm/core/UnitReload.h"
-#include "cm/host/CSignal2Exception.h"
 #include "cm/host/IProject.h"
 #include "cm/templates/CMProperty.h"
+#include "cm/ui/logic/GuardedCall.h"
 #include "cm/ui/logic/LiveUnits.h"
 #include "cm/ui/logic/MainArchive.h"
-#include "cm/ui/logic/OutputFlush.h"
 #include "cm/ui/logic/UnitTexts.h"
 
 namespace veldra {
@@ -32,12 +31,7 @@ bool checkOutItems(const UnitList& units, ArgumentList& arguments, DiagnosticLis
   CMArchiveItemListWrapper items;
   for (const IUnit* unit : units) CmGetArcItemsFor(*unit, items);
   chooseMainArchive(units);
-  flushCommandOutput();
-  int result = 0;
-  guardFaults(
-      [&] { result = CMFacade::RecCheckOutFromArchive(items.list(), arguments, diagnostics); });
-  flushCommandOutput();
-  return result != 0;
+  return guardedCall(&CMFacade::RecCheckOutFromArchive, items.list(), arguments, diagnostics);
 }
 
 void reloadFiles(const UnitList& units) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "cm/host/ATMRecursiveHelper.h"
+#include "cm/host/IModel.h"
 #include "cm/host/IUserMessages.h"
 #include "cm/host/MessageIds.h"
 
@@ -15,6 +16,12 @@ bool allowsSelection(SelectionRule rule, std::size_t selected) {
   const bool saysOne = selected > 1 || rule == SelectionRule::OneAndOnlyOne;
   notifyUserAndAsk(loadMessage(saysOne ? MessageId::SelectOnlyOne : MessageId::NothingSelected),
                    MessageBox::IconWarning);
+  return false;
+}
+
+bool allowsCommands() {
+  if (CurrentWorkspace::GetActiveProject() != nullptr) return true;
+  notifyUserAndAsk(loadMessage(MessageId::NoProjectOpen), MessageBox::IconWarning);
   return false;
 }
 

@@ -33,11 +33,11 @@ std::string activeProjectDirectory() {
   return project != nullptr ? project->getProjectDirectory() : std::string();
 }
 
-std::string withoutDirectory(std::string path, const std::string& directory) {
+std::string_view withoutDirectory(std::string_view path, const std::string& directory) {
   if (directory.empty() || !startsWithNoCase(path, directory)) return path;
-  std::string_view rest = std::string_view(path).substr(directory.size());
+  std::string_view rest = path.substr(directory.size());
   if (!rest.empty() && lastSeparator(rest.substr(0, 1)) == 0) rest.remove_prefix(1);
-  return std::string(rest);
+  return rest;
 }
 
 std::string displayName(const IUnit& unit) {
@@ -47,9 +47,12 @@ std::string displayName(const IUnit& unit) {
 
 }  // namespace
 
+std::string shortPathOf(const std::string& fullFileName) {
+  return std::string(withoutDirectory(fullFileName, activeProjectDirectory()));
+}
+
 std::string nameNShortPath(const IUnit* unit) {
-  if (unit == nullptr) return {};
-  return withoutDirectory(unit->getFullFileName(), activeProjectDirectory());
+  return unit != nullptr ? shortPathOf(unit->getFullFileName()) : std::string();
 }
 
 UnitTexts::UnitTexts()
@@ -57,33 +60,33 @@ UnitTexts::UnitTexts()
       m_marksStubs(CMProperty::getProjectBool(IPN::General, "ShowStubUnitMode", true)),
       m_isConnected(CMProperty::getIsConnected()) {}
 
-std::string UnitTexts::shortPath(const IUnit& unit) const {
-  return withoutDirectory(unit.getFullFileName(), m_projectDirectory);
-}
-
 std::string UnitTexts::accessMark(const IUnit& unit) const {
   return m_marksStubs && isStub(unit) ? "U" : readOrWrite(unit);
 }
 
 std::string UnitTexts::cell(const IUnit& unit, std::int32_t column) const {
   const bool isProviders = column == UnitColumn::Controlled || column == UnitColumn::CheckedOut;
-  return isProviders && !m_isConnected ? std::string() : sortKey(unit, column);
+  std::string storage;
+  return isProviders && !m_isConnected ? std::string()
+                                       : std::string(sortKey(unit, column, storage));
 }
 
-std::string UnitTexts::sortKey(const IUnit& unit, std::int32_t column) const {
+std::string_view UnitTexts::sortKey(const IUnit& unit, std::int32_t column,
+                                    std::string& storage) const {
   switch (column) {
     case UnitColumn::File:
-      return shortPath(unit);
+      storage = unit.getFullFileName();
+      return withoutDirectory(storage, m_projectDirectory);
     case UnitColumn::Name:
-      return displayName(unit);
+      return storage = displayName(unit);
     case UnitColumn::Version:
-      return m_headers.getVersion(&unit);
+      return storage = m_headers.getVersion(&unit);
     case UnitColumn::Access:
-      return accessMark(unit);
+      return storage = accessMark(unit);
     case UnitColumn::Controlled:
-      return CMStatus::getControlled(&unit);
+      return storage = CMStatus::getControlled(&unit);
     case UnitColumn::CheckedOut:
-      return CMStatus::getCheckedOut(&unit);
+      return storage = CMStatus::getCheckedOut(&unit);
     default:
       return {};
   }

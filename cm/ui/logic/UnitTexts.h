@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "cm/core/CMTraitFacade.h"
 #include "cm/host/Export.h"
@@ -20,7 +21,9 @@ inline constexpr std::int32_t CheckedOut = 5;
 inline constexpr std::int32_t Count = 6;
 }  // namespace UnitColumn
 
-/// The unit's file path, without the project's directory when it lies there; case is ignored.
+/// A file's path, without the project's directory when it lies there; case is ignored.
+VELDRA_CM_EXPORT std::string shortPathOf(const std::string& fullFileName);
+/// The same of a unit's file.
 VELDRA_CM_EXPORT std::string nameNShortPath(const IUnit* unit);
 
 /// What the views say about units. The settings are read once, when it is made.
@@ -30,15 +33,15 @@ class VELDRA_CM_EXPORT UnitTexts {
 
   /// The text of a cell. The two columns of the provider stay empty until a context is open.
   std::string cell(const IUnit& unit, std::int32_t column) const;
-  /// The text that a row is sorted by; there the provider's columns are always filled.
-  std::string sortKey(const IUnit& unit, std::int32_t column) const;
+  /// The text that a row is sorted by; there the provider's columns are always filled. It lies in
+  /// `storage`.
+  std::string_view sortKey(const IUnit& unit, std::int32_t column, std::string& storage) const;
   /// "Name (version) " and the access mark; embedded files have theirs without parentheses.
   std::string treeLabel(const IUnit& unit) const;
 
   bool marksStubs() const { return m_marksStubs; }
 
  private:
-  std::string shortPath(const IUnit& unit) const;
   std::string accessMark(const IUnit& unit) const;
 
   CMHeaderReader m_headers;

@@ -10,7 +10,8 @@
 #include "cm/host/IProperty.h"
 #include "cm/templates/CMProperty.h"
 #include "cm/tool/CMToolShellInterface.h"
-#include "cm/ui/logic/OutputFlush.h"
+#include "cm/ui/logic/FailureMessage.h"
+#include "cm/ui/logic/GuardedCall.h"
 
 namespace veldra {
 
@@ -48,6 +49,15 @@ std::string forUnits(const std::string& pattern, const UnitList& units) {
   return all;
 }
 
+int execute(const std::string& line, const std::string& transactionName) {
+  if (const CMFacade::SaveCallback& save = CMFacade::saveCallbackFunc()) save();
+  const CMTranscation transcation(nullptr, 1, CMTranscationType::TxnFreeCommand, transactionName);
+  CMToolShellInterface& tool = theCMToolShellInterface();
+  std::string output;
+  std::string errors;
+  return tool.Execute(line, output, errors, "") != 0 && !tool.lastCommandEnd().failed ? 1 : 0;
+}
+
 }  // namespace
 
 std::string UserDefinedCommand::ExpandUserDefCommand(const std::string& command,
@@ -69,16 +79,15 @@ std::string UserDefinedCommand::ExpandUserDefCommand(const std::string& command,
 }
 
 bool UserDefinedCommand::RunUserDefCommand(const std::string& command, const UnitList& units,
-                                           const std::string& transactionName) {
+                                           const std::string& transactionName, int failureMessage) {
   if (command.empty()) return true;
   const std::string line = ExpandUserDefCommand(command, units);
-  if (const CMFacade::SaveCallback& save = CMFacade::saveCallbackFunc()) save();
-  const CMTranscation transcation(nullptr, 1, CMTranscationType::TxnFreeCommand, transactionName);
-  std::string output;
-  std::string errors;
-  const int result = theCMToolShellInterface().Execute(line, output, errors, "");
-  flushCommandOutput();
-  return result != 0 && !theCMToolShellInterface().lastCommandEnd().failed;
+  DiagnosticList diagnostics;
+  const std::optional<int> result =
+      guardedCall([&] { return execute(line, transactionName); }, diagnostics);
+  if (result && *result != 0) return true;
+  showFailure(failureMessage, diagnostics);
+  return false;
 }
 
 std::string UserDefinedCommand::commandOf(DialogCommand command) {
@@ -93,9 +102,9 @@ std::string UserDefinedCommand::commandOf(DialogCommand command) {
 
 bool UserDefinedCommand::run(DialogCommand command, const UnitList& units) {
   const bool isTool = command == DialogCommand::RunTool;
-  return RunUserDefCommand(
-      commandOf(command), units,
-      isTool ? "Invoke Configuration Management Tool" : "User Defined Command");
+  return RunUserDefCommand(commandOf(command), units,
+                           isTool ? "Invoke Configuration Management Tool" : "User Defined Command",
+                           MessageId::CommandFailed + static_cast<int>(command));
 }
 
 }  // namespace veldra

@@ -4,6 +4,7 @@
 
 #include "cm/host/Export.h"
 #include "cm/host/IUnit.h"
+#include "cm/host/MessageIds.h"
 #include "cm/ui/logic/CommandTable.h"
 
 namespace veldra {
@@ -17,14 +18,16 @@ class VELDRA_CM_EXPORT UserDefinedCommand {
   static std::string ExpandUserDefCommand(const std::string& command, const UnitList& units);
 
   /// Saves the model and runs the expanded command; an empty one does nothing. False when it could
-  /// not be run or failed; the tool's words are in the CM output.
+  /// not be run or failed; the user has been told, and the tool's words are in the CM output.
   static bool RunUserDefCommand(const std::string& command, const UnitList& units,
-                                const std::string& transactionName = "User Defined Command");
+                                const std::string& transactionName = "User Defined Command",
+                                int failureMessage = MessageId::UserCommandFailed);
 
   /// The command behind one of the four buttons or the button that runs the CM tool; empty when the
   /// project has none.
   static std::string commandOf(DialogCommand command);
-  /// Runs what is behind the button. True when nothing failed, also when there is nothing.
+  /// Runs what is behind the button. True when nothing failed, also when there is nothing;
+  /// otherwise the user has been told.
   static bool run(DialogCommand command, const UnitList& units);
 };
 

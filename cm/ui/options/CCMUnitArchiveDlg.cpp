@@ -48,6 +48,7 @@ void CCMUnitArchiveDlg::addFields() {
                             &CCMUnitArchiveDlg::disassociate),
                   3, 2);
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+  describeButtons(*buttons);
   connect(buttons, &QDialogButtonBox::accepted, this, &CCMUnitArchiveDlg::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &CCMUnitArchiveDlg::reject);
   grid->addWidget(buttons, 4, 0, 1, 3);

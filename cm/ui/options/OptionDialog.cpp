@@ -19,6 +19,7 @@ OptionDialog::OptionDialog(int dialogId, OptionPresets presets, QWidget* parent)
   m_buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
   connect(m_buttons, &QDialogButtonBox::accepted, this, &OptionDialog::accept);
   connect(m_buttons, &QDialogButtonBox::rejected, this, &OptionDialog::reject);
+  describeButtons(*m_buttons);
   setAcceptText(windowTitle());
   m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   m_form->setRowWrapPolicy(QFormLayout::WrapAllRows);

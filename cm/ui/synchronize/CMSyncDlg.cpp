@@ -12,6 +12,7 @@
 #include "cm/ui/ControlIds.h"
 #include "cm/ui/Icons.h"
 #include "cm/ui/logic/BackEndMode.h"
+#include "cm/ui/logic/FailureMessage.h"
 #include "cm/ui/logic/synchronize/SyncCommand.h"
 #include "cm/ui/logic/synchronize/SyncPossible.h"
 #include "cm/ui/logic/synchronize/SyncSettings.h"
@@ -93,8 +94,7 @@ bool CMSyncDlg::listFirst(const std::string& label, DiagnosticList& diagnostics)
 void CMSyncDlg::listAgain() {
   DiagnosticList diagnostics;
   if (listFirst(label(), diagnostics)) return;
-  showItemFailure(MessageId::CommandFailed + static_cast<int>(DialogCommand::Synchronize),
-                  diagnostics);
+  showFailure(MessageId::CommandFailed + static_cast<int>(DialogCommand::Synchronize), diagnostics);
 }
 
 void CMSyncDlg::OnSyncRefresh() {

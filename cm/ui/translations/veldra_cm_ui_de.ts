@@ -302,6 +302,10 @@
         <source>, about %1 s left</source>
         <translation>, noch etwa %1 s</translation>
     </message>
+    <message>
+        <source>%1 (provider: %2)</source>
+        <translation>%1 (Anbieter: %2)</translation>
+    </message>
 </context>
 <context>
     <name>veldra::ItemWindow</name>
@@ -437,6 +441,169 @@
     <message>
         <source>Filter</source>
         <translation>Filter</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::Control</name>
+    <message>
+        <source>The units of the project in their packages; commands work on the selected ones</source>
+        <translation>Die Einheiten des Projekts in ihren Paketen; Befehle gelten für die gewählten</translation>
+    </message>
+    <message>
+        <source>The units of the project, sorted by the column that was clicked; commands work on the selected ones</source>
+        <translation>Die Einheiten des Projekts, nach der angeklickten Spalte sortiert; Befehle gelten für die gewählten</translation>
+    </message>
+    <message>
+        <source>Closes the window; nothing is changed by that</source>
+        <translation>Schließt das Fenster; geändert wird dadurch nichts</translation>
+    </message>
+    <message>
+        <source>Selects the units on which the last command failed</source>
+        <translation>Wählt die Einheiten, an denen der letzte Befehl gescheitert ist</translation>
+    </message>
+    <message>
+        <source>You go on changing the units and keep their locks</source>
+        <translation>Sie ändern die Einheiten weiter und behalten ihre Sperren</translation>
+    </message>
+    <message>
+        <source>A name under which this version can be found again; may stay empty</source>
+        <translation>Ein Name, unter dem diese Version wiederzufinden ist; darf leer bleiben</translation>
+    </message>
+    <message>
+        <source>Everything inside the selected units is checked in, too</source>
+        <translation>Auch alles innerhalb der gewählten Einheiten wird eingecheckt</translation>
+    </message>
+    <message>
+        <source>What code generation keeps about the units goes along</source>
+        <translation>Was die Codegenerierung über die Einheiten festhält, geht mit</translation>
+    </message>
+    <message>
+        <source>The version to check out; empty for the newest</source>
+        <translation>Die Version zum Auschecken; leer für die neueste</translation>
+    </message>
+    <message>
+        <source>Nobody else can change the units until you check them in</source>
+        <translation>Niemand sonst kann die Einheiten ändern, bis Sie sie einchecken</translation>
+    </message>
+    <message>
+        <source>Everything inside the selected units is checked out, too</source>
+        <translation>Auch alles innerhalb der gewählten Einheiten wird ausgecheckt</translation>
+    </message>
+    <message>
+        <source>The units stay checked out by you</source>
+        <translation>Die Einheiten bleiben von Ihnen ausgecheckt</translation>
+    </message>
+    <message>
+        <source>Everything inside the selected units takes part, too</source>
+        <translation>Auch alles innerhalb der gewählten Einheiten nimmt teil</translation>
+    </message>
+    <message>
+        <source>Opens the options that the source control provider has of its own</source>
+        <translation>Öffnet die eigenen Optionen des Versionsverwaltungs-Anbieters</translation>
+    </message>
+    <message>
+        <source>The version that is meant; empty for the newest</source>
+        <translation>Die Version, die gemeint ist; leer für die neueste</translation>
+    </message>
+    <message>
+        <source>The folder, file or address of the archive</source>
+        <translation>Der Ordner, die Datei oder die Adresse des Archivs</translation>
+    </message>
+    <message>
+        <source>Lets you choose a file or a folder</source>
+        <translation>Lässt Sie eine Datei oder einen Ordner wählen</translation>
+    </message>
+    <message>
+        <source>The label or version to compare with; empty for the newest</source>
+        <translation>Die Marke oder Version, mit der verglichen wird; leer für die neueste</translation>
+    </message>
+    <message>
+        <source>Everything inside the unit takes part, too</source>
+        <translation>Auch alles innerhalb der Einheit nimmt teil</translation>
+    </message>
+    <message>
+        <source>The version on the left side</source>
+        <translation>Die Version auf der linken Seite</translation>
+    </message>
+    <message>
+        <source>The version on the right side</source>
+        <translation>Die Version auf der rechten Seite</translation>
+    </message>
+    <message>
+        <source>The units are yours to change</source>
+        <translation>Die Einheiten gehören Ihnen zum Ändern</translation>
+    </message>
+    <message>
+        <source>The units are only read</source>
+        <translation>Die Einheiten werden nur gelesen</translation>
+    </message>
+    <message>
+        <source>What the archive holds; commands work on the selected entries</source>
+        <translation>Was das Archiv enthält; Befehle gelten für die gewählten Einträge</translation>
+    </message>
+    <message>
+        <source>What differs between the model and the archive; the selected entries are taken over</source>
+        <translation>Worin sich Modell und Archiv unterscheiden; die gewählten Einträge werden übernommen</translation>
+    </message>
+    <message>
+        <source>Where the unit is kept in the archive</source>
+        <translation>Wo die Einheit im Archiv liegt</translation>
+    </message>
+    <message>
+        <source>Connects the unit with that path</source>
+        <translation>Verbindet die Einheit mit diesem Pfad</translation>
+    </message>
+    <message>
+        <source>Connects the unit with an archive project of your choice</source>
+        <translation>Verbindet die Einheit mit einem Archivprojekt Ihrer Wahl</translation>
+    </message>
+    <message>
+        <source>Takes the connection of the unit away</source>
+        <translation>Hebt die Verbindung der Einheit auf</translation>
+    </message>
+    <message>
+        <source>Lets you choose a file</source>
+        <translation>Lässt Sie eine Datei wählen</translation>
+    </message>
+    <message>
+        <source>Lets you choose a folder</source>
+        <translation>Lässt Sie einen Ordner wählen</translation>
+    </message>
+    <message>
+        <source>The branch to check out</source>
+        <translation>Der Zweig zum Auschecken</translation>
+    </message>
+    <message>
+        <source>Does it and closes the window</source>
+        <translation>Führt es aus und schließt das Fenster</translation>
+    </message>
+    <message>
+        <source>Closes the window without doing anything</source>
+        <translation>Schließt das Fenster, ohne etwas zu tun</translation>
+    </message>
+    <message>
+        <source>The unit that is asked about</source>
+        <translation>Die Einheit, nach der gefragt wird</translation>
+    </message>
+    <message>
+        <source>For this one</source>
+        <translation>Für diese</translation>
+    </message>
+    <message>
+        <source>For this one and all that follow</source>
+        <translation>Für diese und alle folgenden</translation>
+    </message>
+    <message>
+        <source>Not for this one</source>
+        <translation>Nicht für diese</translation>
+    </message>
+    <message>
+        <source>Neither for this one nor for any that follows</source>
+        <translation>Weder für diese noch für eine der folgenden</translation>
+    </message>
+    <message>
+        <source>Ends the command</source>
+        <translation>Beendet den Befehl</translation>
     </message>
 </context>
 </TS>

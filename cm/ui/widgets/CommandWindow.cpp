@@ -1,15 +1,22 @@
 #include "cm/ui/widgets/CommandWindow.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QPointer>
 #include <QSettings>
+#include <algorithm>
+#include <exception>
 #include <utility>
 #include <vector>
 
+#include "cm/host/MessageIds.h"
+#include "cm/ui/ControlIds.h"
 #include "cm/ui/Translations.h"
+#include "cm/ui/logic/HostTexts.h"
 #include "cm/ui/widgets/FailureStrip.h"
 #include "cm/ui/widgets/HeldInput.h"
 #include "cm/ui/widgets/ProgressStrip.h"
+#include "cm/ui/widgets/Text.h"
 
 namespace veldra {
 
@@ -50,15 +57,42 @@ void CommandWindow::keepPainting() {
   ProgressStrip::keepPainting();
 }
 
+bool CommandWindow::allowsAnother() {
+  const std::vector<CommandWindow*>& windows = openWindows();
+  const bool isOneAtWork = std::any_of(windows.begin(), windows.end(), [](CommandWindow* window) {
+    return window->m_heldInput != nullptr;
+  });
+  if (isOneAtWork) dialogWarning(dialogText(MessageId::CommandStillRuns));
+  return !isOneAtWork;
+}
+
+void CommandWindow::refreshOthers() const {
+  for (CommandWindow* window : openWindows()) {
+    if (window == this || window->isAncestorOf(this)) continue;
+    QCoreApplication::postEvent(window, new QEvent(static_cast<QEvent::Type>(RefreshMessage)));
+  }
+}
+
 void CommandWindow::runOnce(const QString& caption, const std::function<void()>& command) {
-  if (m_isRunning) return;
+  if (m_isRunning || !allowsAnother()) return;
   const QPointer<QWidget> focused = focusWidget();
   m_isRunning = true;
   m_failures->tell({}, 0);
-  command();
+  m_progress->results().start();
+  const auto endedBy = [&](const char* fault) {
+    releaseInput();
+    dialogError(dialogText(MessageId::InternalError, {bytesOf(caption), fault}));
+  };
+  try {
+    command();
+  } catch (const std::exception& fault) {
+    endedBy(fault.what());
+  } catch (...) {
+    endedBy("?");
+  }
   m_isRunning = false;
   afterCommand();
-  m_failures->tell(caption, m_progress->failedFiles().size());
+  m_failures->tell(caption, m_progress->results().failedFiles().size());
   if (focused != nullptr && focused->isEnabled()) focused->setFocus();
 }
 

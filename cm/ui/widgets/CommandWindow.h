@@ -28,18 +28,25 @@ class VELDRA_CM_UI_EXPORT CommandWindow : public QDialog {
   /// Paints what has changed without taking input; for hosts that wait for something.
   static void keepPainting();
 
+  /// Whether no window's command is at work. Calls of the module must not overlap, and a host may
+  /// open a second window meanwhile. When not, the user has been told.
+  static bool allowsAnother();
+
   bool isRunning() const { return m_isRunning; }
   void reject() override;
 
  protected:
   /// Runs a command, unless one runs already; the focus stays where it was. `caption` is the user's
-  /// word for it.
+  /// word for it. What the command throws is told to the user.
   void runOnce(const QString& caption, const std::function<void()>& command);
   /// Between these two, units may be replaced or die; the window takes no input.
   void holdInput(const QString& caption);
   void releaseInput();
   /// The command has ended, whatever came of it; buttons may be enabled again.
   virtual void afterCommand() {}
+
+  /// Lets the other main dialogs list the workspace anew, because units are not what they were.
+  void refreshOthers() const;
 
   /// Takes the remembered place, or this size.
   void restorePlace(const QSize& firstSize);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDialogButtonBox>
 #include <QString>
 #include <QWidget>
 
@@ -10,12 +11,19 @@ inline QString controlName(int id) {
   return QStringLiteral("control-%1").arg(id);
 }
 
+/// What a screen reader says about the purpose of the control with that number, for those whose
+/// name does not say it; empty for others.
+QString controlDescription(int id);
+
+/// The same for the buttons that close a window.
+void describeButtons(const QDialogButtonBox& buttons);
+
 /// Gives a widget its number and what a screen reader says about it.
 template <class Widget>
 Widget* control(Widget* widget, int id, const QString& name, const QString& description = {}) {
   widget->setObjectName(controlName(id));
   widget->setAccessibleName(name);
-  if (!description.isEmpty()) widget->setAccessibleDescription(description);
+  widget->setAccessibleDescription(description.isEmpty() ? controlDescription(id) : description);
   return widget;
 }
 

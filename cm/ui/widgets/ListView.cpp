@@ -65,12 +65,24 @@ void fitColumns(QTreeView& list, int width) {
 }
 
 std::vector<int> selectedRows(const QTreeView& list, const UnitFilter& filter) {
+  // Asking for the selected rows by themselves looks at every range for every row.
   std::vector<int> rows;
-  for (const QModelIndex& index : list.selectionModel()->selectedRows()) {
-    rows.push_back(filter.sourceOf(index).row());
+  for (const QItemSelectionRange& range : list.selectionModel()->selection()) {
+    for (int row = range.top(); row <= range.bottom(); ++row) {
+      rows.push_back(filter.sourceOf(list.model()->index(row, 0)).row());
+    }
   }
   std::sort(rows.begin(), rows.end());
+  rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
   return rows;
+}
+
+std::size_t selectedCount(const QTreeView& view) {
+  std::size_t count = 0;
+  for (const QItemSelectionRange& range : view.selectionModel()->selection()) {
+    count += static_cast<std::size_t>(range.height());
+  }
+  return count;
 }
 
 void selectRows(QTreeView& list, const UnitFilter& filter, const QAbstractItemModel& source,

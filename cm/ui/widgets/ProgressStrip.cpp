@@ -26,9 +26,9 @@ ProgressStrip::ProgressStrip(QWidget* parent)
 
 void ProgressStrip::begin(const QString& command) {
   m_command = command;
-  m_failed.clear();
   m_bar->setRange(0, 0);
-  m_text->setText(tr("%1 is running...").arg(command));
+  m_step = tr("%1 is running...").arg(command);
+  m_text->setText(m_step);
   m_clock.start();
   show();
   keepPainting();
@@ -49,14 +49,29 @@ void ProgressStrip::unitStarted(const ProgressStep& step) {
   if (const auto left = secondsLeft(step.position, step.count, m_clock.elapsed())) {
     text += tr(", about %1 s left").arg(*left);
   }
-  m_text->setText(m_text->fontMetrics().elidedText(text, Qt::ElideMiddle, m_text->width()));
-  setAccessibleDescription(text);
+  say(text);
+  m_step = text;
   keepPainting();
 }
 
-void ProgressStrip::unitEnded(const ProgressStep& step, UnitEnd end, const std::string&) {
+void ProgressStrip::say(const QString& text) {
+  m_text->setText(m_text->fontMetrics().elidedText(text, Qt::ElideMiddle, m_text->width()));
+  setAccessibleDescription(text);
+}
+
+void ProgressStrip::providerCallStarted(const char* entryPoint) {
+  if (isHidden()) return;
+  say(tr("%1 (provider: %2)").arg(m_step, QString::fromLatin1(entryPoint)));
+  m_text->repaint();
+}
+
+void ProgressStrip::providerCallEnded() {
+  if (!isHidden()) say(m_step);
+}
+
+void ProgressStrip::unitEnded(const ProgressStep& step, UnitEnd end, const std::string& words) {
   m_bar->setValue(static_cast<int>(step.position));
-  if (end != UnitEnd::Done && end != UnitEnd::Declined) m_failed.insert(step.unit);
+  m_results.unitEnded(step, end, words);
   keepPainting();
 }
 

@@ -28,8 +28,8 @@ class PropertyRun {
         m_property(std::move(property)),
         m_arguments(callArguments({.label = session.options().label,
                                    .comment = comment,
-                                   .projectDirectory = session.project().getProjectDirectory(),
-                                   .isPlan = session.options().dryRun})) {
+                                   .projectDirectory = session.project().getProjectDirectory()},
+                                  session.options().dryRun)) {
     m_arguments.list().push_back(&m_archive);
   }
 

@@ -19,11 +19,11 @@ void ArchiveStatus::forget() {
   m_entries.clear();
 }
 
-CommandReport ArchiveStatus::refresh(Project& project, ResultCollector& collector) {
+CommandReport ArchiveStatus::refresh(Project& project, BatchResults& results) {
   CMArchiveItemListWrapper items;
   CommandReport report = runOnArchive(
-      project, collector, [&items](ArgumentList& arguments, DiagnosticList& diagnostics) {
-        CMFacade::ListArchive(items.list(), arguments, diagnostics);
+      project, results, [&items](ArgumentList& arguments, DiagnosticList& diagnostics) {
+        return CMFacade::ListArchive(items.list(), arguments, diagnostics);
       });
   if (!report.isFine()) return report;
   forget();

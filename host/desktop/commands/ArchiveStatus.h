@@ -21,7 +21,7 @@ class ArchiveStatus {
   void forget();
 
   /// Lists the archive with the project's tool. What was known stays when that fails.
-  CommandReport refresh(Project& project, ResultCollector& collector);
+  CommandReport refresh(Project& project, BatchResults& results);
 
  private:
   bool m_isKnown = false;

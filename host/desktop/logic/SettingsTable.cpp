@@ -72,30 +72,45 @@ std::optional<std::string> SettingsTable::set(const PropertyKey& key, const std:
     return "A property has a subject, a metaclass and a name. Fill in all three.";
   }
   if (target == Origin::User) return m_layers.setForUser(key, value);
-  if (target == Origin::Unit && unit) return setOnUnit(key, value, *unit);
-  return setInProject(key, value);
+  if (target == Origin::Unit && !unit) target = Origin::Project;
+  if (auto reason = objection(target, unit)) return reason;
+  if (target == Origin::Unit) {
+    unit->attachProperty(key.subject, key.metaclass, Property(key.name, value, Origin::Unit));
+  } else {
+    m_layers.setInProject(key, value);
+  }
+  return std::nullopt;
 }
 
-std::optional<std::string> SettingsTable::setInProject(const PropertyKey& key,
-                                                       const std::string& value) {
+bool SettingsTable::isResettable(Origin origin) {
+  return origin == Origin::User || origin == Origin::Project || origin == Origin::Unit;
+}
+
+std::optional<std::string> SettingsTable::reset(const PropertyKey& key, Origin origin,
+                                                UnitCore* unit) {
+  if (origin == Origin::User) return m_layers.resetForUser(key);
+  if (auto reason = objection(origin, unit)) return reason;
+  if (origin == Origin::Unit) {
+    unit->detachProperty(key);
+  } else {
+    m_layers.resetInProject(key);
+  }
+  return std::nullopt;
+}
+
+std::optional<std::string> SettingsTable::objection(Origin target, UnitCore* unit) const {
+  if (target == Origin::Unit) {
+    if (!unit) return "No unit is selected. Select one, then open the settings again.";
+    if (unit->mode() == FileMode::ReadOnly) {
+      return "The file " + unit->fullFileName() + " is read-only. Check it out first.";
+    }
+    Problem problem;
+    return unit->text(problem) ? std::nullopt : std::optional(sentence(problem));
+  }
   if (!m_project) return "No project is open. Store the property for yourself instead.";
-  if (m_project->isReadOnly()) {
-    return "The project file " + m_project->getFullFileName() +
-           " is read-only. Check it out first, or store the property for yourself.";
-  }
-  m_layers.setInProject(key, value);
-  return std::nullopt;
-}
-
-std::optional<std::string> SettingsTable::setOnUnit(const PropertyKey& key,
-                                                    const std::string& value, UnitCore& unit) {
-  if (unit.mode() == FileMode::ReadOnly) {
-    return "The file " + unit.fullFileName() + " is read-only. Check it out first.";
-  }
-  Problem problem;
-  if (!unit.text(problem)) return sentence(problem);
-  unit.attachProperty(key.subject, key.metaclass, Property(key.name, value, Origin::Unit));
-  return std::nullopt;
+  if (!m_project->isReadOnly()) return std::nullopt;
+  return "The project file " + m_project->getFullFileName() +
+         " is read-only. Check it out first, or store the property for yourself.";
 }
 
 }  // namespace veldra::host::desktop

@@ -41,13 +41,18 @@ class SettingsTable {
   [[nodiscard]] std::optional<std::string> set(const PropertyKey& key, const std::string& value,
                                                Origin target, UnitCore* unit);
 
+  /// Whether a value of that origin can be taken away here: the user's, the project's, the unit's.
+  static bool isResettable(Origin origin);
+  /// Takes a value away where it is stored, so that the inherited one counts; answers as `set`.
+  [[nodiscard]] std::optional<std::string> reset(const PropertyKey& key, Origin origin,
+                                                 UnitCore* unit);
+
   /// The selected tool; empty for none.
   std::string tool() const;
 
  private:
-  std::optional<std::string> setInProject(const PropertyKey& key, const std::string& value);
-  std::optional<std::string> setOnUnit(const PropertyKey& key, const std::string& value,
-                                       UnitCore& unit);
+  /// Why nothing can be stored there; nothing when it can.
+  std::optional<std::string> objection(Origin target, UnitCore* unit) const;
 
   PropertyLayers& m_layers;
   Project* m_project;

@@ -13,9 +13,21 @@ namespace {
 // Longer than an event needs, shorter than a person notices.
 constexpr int PumpMilliseconds = 15;
 
+/// On a thread of its own: the windows cannot be painted while the provider holds theirs.
+void tellOfWaiting(const char* entryPoint) {
+  qWarning("The source control provider has been busy in its function %s for %d seconds.",
+           entryPoint, static_cast<int>(ProviderWatch::Patience.count()));
+}
+
 }  // namespace
 
-WorkWatch::WorkWatch(OutputSink& sink) : m_sink(sink) {
+WorkWatch::WorkWatch(OutputSink& sink)
+    : m_sink(sink),
+      m_providerWatch({.untilTold = ProviderWatch::Patience,
+                       .untilGivenUp = std::chrono::milliseconds::max(),
+                       .tell = tellOfWaiting,
+                       .giveUp = [](const char*) {},
+                       .isInterrupted = [] { return false; }}) {
   m_restTimer.setSingleShot(true);
   m_restTimer.setInterval(0);
   connect(&m_restTimer, &QTimer::timeout, this, &WorkWatch::rest);
@@ -26,6 +38,18 @@ void WorkWatch::cancel() {
   m_isCancelled = true;
   m_results.cancelled();
   emit cancelled();
+}
+
+void WorkWatch::providerCallStarted(const char* entryPoint) {
+  m_providerWatch.started(entryPoint);
+  if (IProgress* dialog = CCMDialog::currentProgress()) dialog->providerCallStarted(entryPoint);
+  emit providerCalled(QString::fromLatin1(entryPoint));
+}
+
+void WorkWatch::providerCallEnded() {
+  m_providerWatch.ended();
+  if (IProgress* dialog = CCMDialog::currentProgress()) dialog->providerCallEnded();
+  emit providerCalled({});
 }
 
 bool WorkWatch::isCancelled() {

@@ -7,7 +7,8 @@
 #include <QWidget>
 
 #include "cm/host/IProgress.h"
-#include "host/desktop/commands/CommandRun.h"
+#include "cm/ui/logic/BatchResults.h"
+#include "host/ProviderWatch.h"
 #include "host/desktop/session/OutputSink.h"
 #include "host/platform/Processes.h"
 
@@ -27,7 +28,7 @@ class WorkWatch : public QObject, public ChildWatch, public IProgress {
   /// The widget that gets input all the same, with what lies in it. Not owned.
   void setCancelWidget(QWidget* widget) { m_cancelWidget = widget; }
   bool isWorking() const { return m_isWorking; }
-  ResultCollector& results() { return m_results; }
+  BatchResults& results() { return m_results; }
   /// What the user asks for by cancelling; also lets the running child be ended.
   void cancel();
 
@@ -37,12 +38,17 @@ class WorkWatch : public QObject, public ChildWatch, public IProgress {
   // --- IProgress ---
   void unitStarted(const ProgressStep& step) override;
   void unitEnded(const ProgressStep& step, UnitEnd end, const std::string& words) override;
+  void providerCallStarted(const char* entryPoint) override;
+  void providerCallEnded() override;
   bool isCancelled() override;
 
  signals:
   void workStarted();
   void stepChanged(const veldra::ProgressStep& step);
   void cancelled();
+  /// The provider is called in that function, which holds this thread until it returns; empty when
+  /// it has returned.
+  void providerCalled(const QString& entryPoint);
   /// The ordinary event loop runs again.
   void workEnded();
 
@@ -52,7 +58,8 @@ class WorkWatch : public QObject, public ChildWatch, public IProgress {
   bool mayPass(const QObject& watched, const QEvent& event);
 
   OutputSink& m_sink;
-  ResultCollector m_results;
+  BatchResults m_results;
+  ProviderWatch m_providerWatch;
   QPointer<QWidget> m_cancelWidget;
   QTimer m_restTimer;
   bool m_isPumping = false;

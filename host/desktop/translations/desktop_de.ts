@@ -327,6 +327,10 @@ Diesen Befehlen vertrauen?</translation>
             <numerusform>%n Dateien des Projekts sind von der Platte verschwunden. Holen Sie sie aus dem Archiv, oder öffnen Sie das Projekt neu.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The source control provider is at work: %1</source>
+        <translation>Der Versionsverwaltungs-Anbieter arbeitet: %1</translation>
+    </message>
 </context>
 <context>
     <name>ModelTree</name>
@@ -534,6 +538,14 @@ Diesen Befehlen vertrauen?</translation>
     <message>
         <source>Select a property to see and change its value.</source>
         <translation>Wählen Sie eine Eigenschaft, um ihren Wert zu sehen und zu ändern.</translation>
+    </message>
+    <message>
+        <source>&amp;Reset to Inherited</source>
+        <translation>Auf &amp;Geerbtes zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Takes the value away where it is stored, so that the inherited counts</source>
+        <translation>Entfernt den Wert dort, wo er gespeichert ist, sodass der geerbte gilt</translation>
     </message>
 </context>
 <context>

@@ -27,12 +27,12 @@ QString unitsText(const QStringList& units) {
 
 }  // namespace
 
-CommandDialog::CommandDialog(const CommandRow& row, const QStringList& units, bool hasDescendants,
-                             const QString& comment, QWidget* parent)
+CommandDialog::CommandDialog(const WindowCommand& row, const QStringList& units,
+                             bool hasDescendants, const QString& comment, QWidget* parent)
     : QDialog(parent),
-      m_comment(new QPlainTextEdit(comment)),
-      m_label(new QLineEdit),
-      m_descendants(new QCheckBox(tr("With everything &below"))) {
+      m_comment(new QPlainTextEdit(comment, this)),
+      m_label(new QLineEdit(this)),
+      m_descendants(new QCheckBox(tr("With everything &below"), this)) {
   setWindowTitle(commandName(row));
   setMinimumWidth(440);
   auto* what = new QLabel(unitsText(units));
@@ -63,10 +63,12 @@ CommandDialog::CommandDialog(const CommandRow& row, const QStringList& units, bo
   layout->addWidget(buttons);
 }
 
-CommandChoice CommandDialog::choice() const {
-  return {.comment = bytesOf(m_comment->toPlainText()),
-          .label = bytesOf(m_label->text()),
-          .withDescendants = m_descendants->isChecked()};
+CommandOptions CommandDialog::choice() const {
+  CommandOptions options;
+  options.comment = bytesOf(m_comment->toPlainText());
+  options.label = bytesOf(m_label->text());
+  options.withDescendants = m_descendants->isChecked();
+  return options;
 }
 
 }  // namespace veldra::host::desktop

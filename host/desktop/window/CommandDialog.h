@@ -16,9 +16,9 @@ class CommandDialog : public QDialog {
   Q_OBJECT
 
  public:
-  CommandDialog(const CommandRow& row, const QStringList& units, bool hasDescendants,
+  CommandDialog(const WindowCommand& row, const QStringList& units, bool hasDescendants,
                 const QString& comment, QWidget* parent);
-  CommandChoice choice() const;
+  CommandOptions choice() const;
 
  private:
   QPlainTextEdit* m_comment;

@@ -4,11 +4,11 @@
 
 namespace veldra::host::desktop {
 
-QString commandName(const CommandRow& row) {
+QString commandName(const WindowCommand& row) {
   return QCoreApplication::translate("Command", row.name);
 }
 
-QString commandHint(const CommandRow& row) {
+QString commandHint(const WindowCommand& row) {
   return QCoreApplication::translate("Command", row.hint);
 }
 

@@ -7,7 +7,7 @@
 namespace veldra::host::desktop {
 
 /// The command's words in the user's language.
-QString commandName(const CommandRow& row);
-QString commandHint(const CommandRow& row);
+QString commandName(const WindowCommand& row);
+QString commandHint(const WindowCommand& row);
 
 }  // namespace veldra::host::desktop

@@ -51,6 +51,7 @@ MainWindow::MainWindow(DesktopSession& session)
   connect(&m_session, &DesktopSession::saved, this, [this] {
     if (Project* project = m_session.project()) m_disk.remember(*project);
   });
+  connect(&m_session.work(), &WorkWatch::providerCalled, this, &MainWindow::showProviderCall);
   m_session.door().setConnectWindow([this] { connectProject(); });
   restoreLayout();
   showRecent();
@@ -91,7 +92,7 @@ void MainWindow::buildContent() {
   m_editor = new UnitEditor(m_session);
   connect(m_editor, &UnitEditor::unitChanged, this, &MainWindow::refresh);
   connect(m_editor, &UnitEditor::checkOutWanted, this,
-          [this] { runCommand(commandRow(CommandId::CheckOut)); });
+          [this] { runCommand(windowCommand(DialogCommand::CheckOut)); });
   m_splitter = new QSplitter;
   m_splitter->setObjectName("Splitter");
   m_splitter->addWidget(m_tree);
@@ -141,6 +142,13 @@ void MainWindow::buildDocks() {
   tabifyDockWidget(m_outputDock, m_traceDock);
   m_outputDock->raise();
   resizeDocks({m_outputDock}, {180}, Qt::Vertical);
+}
+
+void MainWindow::showProviderCall(const QString& entryPoint) {
+  if (entryPoint.isEmpty()) return statusBar()->clearMessage();
+  statusBar()->showMessage(tr("The source control provider is at work: %1").arg(entryPoint));
+  // The call may hold this thread for long.
+  statusBar()->repaint();
 }
 
 void MainWindow::restoreLayout() {

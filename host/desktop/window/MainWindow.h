@@ -61,6 +61,7 @@ class MainWindow : public QMainWindow {
   QAction* addAction(QMenu& menu, const QString& iconName, const QString& text,
                      const QKeySequence& keys, void (MainWindow::*slot)());
   void restoreLayout();
+  void showProviderCall(const QString& entryPoint);
 
   // --- projects ---
   void chooseProject();
@@ -83,7 +84,7 @@ class MainWindow : public QMainWindow {
   void showTreeMenu(const QPoint& at);
 
   // --- version control ---
-  void runCommand(const CommandRow& row);
+  void runCommand(const WindowCommand& row);
   bool mayLoseChanges(const UnitList& units);
   void tellReport(const CommandReport& report, const QString& operation);
   void openDialog();
@@ -108,7 +109,7 @@ class MainWindow : public QMainWindow {
   QTimer m_diskDelay;
   QFileSystemWatcher* m_watcher;
   QString m_lastComment;
-  std::map<const CommandRow*, QAction*> m_commands;
+  std::map<const WindowCommand*, QAction*> m_commands;
   std::vector<QAction*> m_projectActions;
   QAction* m_save = nullptr;
   QAction* m_undo = nullptr;

@@ -127,7 +127,7 @@ void MainWindow::addAppearances(QMenu& menu) {
 
 void MainWindow::buildCommandMenu() {
   QMenu& menu = *menuBar()->addMenu(tr("Version &Control"));
-  for (const CommandRow& row : commandTable()) {
+  for (const WindowCommand& row : windowCommands()) {
     QAction* action = menu.addAction(commandName(row));
     action->setObjectName(row.icon);
     action->setShortcut(QKeySequence(row.shortcut));
@@ -137,7 +137,7 @@ void MainWindow::buildCommandMenu() {
     connect(action, &QAction::triggered, this, [this, &row] { runCommand(row); });
     m_commands[&row] = action;
     m_treeMenu->addAction(action);
-    if (row.id != CommandId::Properties) m_toolBar->addAction(action);
+    if (row.command != DialogCommand::Properties) m_toolBar->addAction(action);
   }
   menu.addSeparator();
   m_toolBar->addSeparator();

@@ -29,7 +29,7 @@ constexpr int RefreshQuestion = 46560;
 
 }  // namespace
 
-void MainWindow::runCommand(const CommandRow& row) {
+void MainWindow::runCommand(const WindowCommand& row) {
   Project* project = m_session.project();
   if (!project || m_session.work().isWorking()) return;
   m_editor->commit();
@@ -38,8 +38,8 @@ void MainWindow::runCommand(const CommandRow& row) {
   if (all.empty()) return;
   QStringList names;
   for (const OutlineNode* node : selectedNodes()) names << shown(node->name);
-  CommandChoice choice;
-  if (row.id != CommandId::History && row.id != CommandId::Properties) {
+  CommandOptions choice;
+  if (row.command != DialogCommand::History && row.command != DialogCommand::Properties) {
     CommandDialog dialog(row, names, all.size() > alone.size(), m_lastComment, this);
     if (dialog.exec() != QDialog::Accepted) return;
     choice = dialog.choice();
@@ -49,7 +49,7 @@ void MainWindow::runCommand(const CommandRow& row) {
   if (row.savesFirst && m_session.hasUnsaved() && !m_session.save()) return;
   if (row.losesChanges && !mayLoseChanges(units)) return;
   const CommandReport report =
-      veldra::host::desktop::runCommand(row, units, choice, *project, m_session.work().results());
+      veldra::host::desktop::runCommand(row, units, choice, m_session.work().results());
   if (report.isFine()) m_lastComment.clear();
   if (m_archive.isKnown() && row.changesArchive) {
     listArchive();
@@ -83,6 +83,7 @@ void MainWindow::afterWork() {
 }
 
 void MainWindow::tellReport(const CommandReport& report, const QString& operation) {
+  if (!report.remarks.empty()) m_session.questions().ask({.text = shown(report.remarks)});
   if (report.isFine()) {
     statusBar()->showMessage(
         tr("%1: %n unit(s) done.", nullptr, static_cast<int>(report.done)).arg(operation), 8000);
@@ -169,7 +170,8 @@ void MainWindow::refreshStatus() {
   if (!project) return;
   lookAtDisk();
   if (CMProperty::useSccCompliantTool() != 0) {
-    CMTraitFacade::instance().RefreshCMStatus();
+    // Whatever is set for the opening of projects: this was asked for.
+    refreshProviderStatus();
   } else if (!CMArchive::getMainArchive().empty()) {
     const CommandReport report = listArchive();
     if (!report.isFine()) tellReport(report, tr("Refresh Status"));

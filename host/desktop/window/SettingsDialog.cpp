@@ -82,6 +82,7 @@ QWidget* SettingsDialog::makeTable() {
   layout->setContentsMargins(0, 0, 0, 0);
   auto* filters = new QHBoxLayout;
   m_filter = new QLineEdit;
+  m_filter->setObjectName("Filter");
   m_filter->setPlaceholderText(tr("Filter"));
   m_filter->setAccessibleName(tr("Filter"));
   m_filter->setClearButtonEnabled(true);
@@ -136,6 +137,11 @@ QWidget* SettingsDialog::makeValueBox() {
   m_store = new QPushButton(tr("&Store"));
   m_store->setAutoDefault(false);
   connect(m_store, &QPushButton::clicked, this, &SettingsDialog::store);
+  m_reset = new QPushButton(tr("&Reset to Inherited"));
+  m_reset->setObjectName("Reset");
+  m_reset->setAutoDefault(false);
+  m_reset->setToolTip(tr("Takes the value away where it is stored, so that the inherited counts"));
+  connect(m_reset, &QPushButton::clicked, this, &SettingsDialog::reset);
   for (const Origin origin : m_table.targets(m_unit)) {
     m_target->addItem(origin == Origin::Project ? tr("For the project")
                       : origin == Origin::Unit  ? tr("For this unit")
@@ -144,6 +150,7 @@ QWidget* SettingsDialog::makeValueBox() {
   }
   column->addWidget(m_target);
   column->addWidget(m_store);
+  column->addWidget(m_reset);
   row->addLayout(column);
   layout->addLayout(row);
   return box;
@@ -169,6 +176,7 @@ void SettingsDialog::showRow() {
   const SettingRow* row = m_model->row(m_view->currentIndex());
   m_value->setEnabled(row != nullptr);
   m_store->setEnabled(row != nullptr);
+  m_reset->setEnabled(row && SettingsTable::isResettable(row->origin));
   m_value->setPlainText(row ? shown(row->value) : QString());
   m_source->setText(!row                  ? tr("Select a property to see and change its value.")
                     : row->source.empty() ? originText(row->origin)
@@ -202,6 +210,15 @@ void SettingsDialog::store() {
   if (!row) return;
   const PropertyKey key = row->key;
   set(key, bytesOf(m_value->toPlainText()), static_cast<Origin>(m_target->currentData().toInt()));
+}
+
+void SettingsDialog::reset() {
+  const SettingRow* row = m_model->row(m_view->currentIndex());
+  if (!row) return;
+  const PropertyKey key = row->key;
+  const auto failure = m_table.reset(key, row->origin, m_unit);
+  if (failure) m_session.questions().ask({.text = shown(*failure), .icon = QMessageBox::Warning});
+  fill();
 }
 
 void SettingsDialog::reject() {

@@ -36,6 +36,7 @@ class SettingsDialog : public QDialog {
   void takeTool();
   void takeArchive();
   void store();
+  void reset();
   bool set(const PropertyKey& key, const std::string& value, Origin target);
 
   DesktopSession& m_session;
@@ -52,6 +53,7 @@ class SettingsDialog : public QDialog {
   QPlainTextEdit* m_value;
   QComboBox* m_target;
   QPushButton* m_store;
+  QPushButton* m_reset;
 };
 
 }  // namespace veldra::host::desktop

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAccessible>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -26,6 +27,7 @@
 #include "cm/ui/options/CCMUnitArchiveDlg.h"
 #include "cm/ui/options/CCoBranch.h"
 #include "cm/ui/synchronize/CMSyncDlg.h"
+#include "cm/ui/synchronize/QuestionWindow.h"
 #include "cm/ui/widgets/CommandButton.h"
 #include "host/ReferenceHost.h"
 
@@ -72,6 +74,7 @@ const WindowRow Windows[] = {
     {"check out or fetch", alone<CCMFetchSelection>},
     {"unit's archive", [] { return std::make_unique<CCMUnitArchiveDlg>(nullptr); }},
     {"branch", alone<CCoBranch>},
+    {"question", [] { return std::make_unique<QuestionWindow>("Load it?", "Boiler"); }},
 };
 
 bool isControl(const QWidget& widget) {
@@ -128,7 +131,7 @@ class EveryWindowTest : public ::testing::TestWithParam<const char*> {
   std::unique_ptr<host::ReferenceHost> m_host;
 };
 
-TEST_P(EveryWindowTest, EveryControlTellsItsNameToAScreenReader) {
+TEST_P(EveryWindowTest, EveryControlTellsItsNameAndPurposeToAScreenReader) {
   int controls = 0;
   eachWidget([&controls](QWidget& widget, const std::string& where) {
     if (!isControl(widget) || widget.focusPolicy() == Qt::NoFocus) return;
@@ -136,18 +139,29 @@ TEST_P(EveryWindowTest, EveryControlTellsItsNameToAScreenReader) {
     QAccessibleInterface* const reader = QAccessible::queryAccessibleInterface(&widget);
     ASSERT_NE(reader, nullptr) << where;
     EXPECT_FALSE(reader->text(QAccessible::Name).isEmpty()) << where;
+    EXPECT_FALSE(reader->text(QAccessible::Description).isEmpty()) << where;
   });
   EXPECT_GT(controls, 60);
 }
 
+/// From right to left, too: the words stay, the layout is mirrored.
 TEST_P(EveryWindowTest, NoTextIsCutOff) {
   int texts = 0;
-  eachWidget([&texts](QWidget& widget, const std::string& where) {
+  const auto look = [&texts](QWidget& widget, const std::string& where) {
     const int needed = neededWidth(widget);
     if (needed > 0) ++texts;
     EXPECT_LE(needed, widget.width()) << where;
-  });
-  EXPECT_GT(texts, 60);
+    const QWidget& window = *widget.window();
+    EXPECT_TRUE(window.rect().contains(QRect(widget.mapTo(&window, QPoint()), widget.size())) ||
+                needed == 0)
+        << where << " lies outside its window";
+  };
+  for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+    QApplication::setLayoutDirection(direction);
+    eachWidget(look);
+  }
+  QApplication::setLayoutDirection(Qt::LeftToRight);
+  EXPECT_GT(texts, 120);
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, EveryWindowTest, ::testing::Values("en", "de"));

@@ -170,5 +170,23 @@ TEST_F(Layers, listsEveryPropertyWithItsOrigin) {
             "TimeOut site site.toml; ");
 }
 
+TEST_F(Layers, whatIsTakenAwayLeavesTheInheritedValue) {
+  ASSERT_EQ(model.layers.setForUser({CM, "RCS", "TimeOut"}, "7"), std::nullopt);
+  ASSERT_EQ(model.layers.setForUser({CM, "RCS", "CheckIn"}, "mine"), std::nullopt);
+  model.layers.setInProject({CM, "RCS", "TimeOut"}, "8");
+  model.layers.resetInProject({CM, "RCS", "TimeOut"});
+  EXPECT_EQ(value("TimeOut"), "7 from user");
+  ASSERT_EQ(model.layers.resetForUser({CM, "RCS", "TimeOut"}), std::nullopt);
+  EXPECT_EQ(value("TimeOut"), "6 from site");
+  load();
+  EXPECT_EQ(value("TimeOut"), "6 from site") << "it is out of the file, too";
+  EXPECT_EQ(value("CheckIn"), "mine from user") << "its neighbour is not";
+  model.put("user.toml",
+            "[ConfigurationManagement]\nRCS = {TimeOut = \"7\", CheckIn = \"mine\"}\n");
+  load();
+  EXPECT_NE(model.layers.resetForUser({CM, "RCS", "TimeOut"}), std::nullopt);
+  EXPECT_EQ(value("TimeOut"), "7 from user") << "a line that holds more is left to its author";
+}
+
 }  // namespace
 }  // namespace veldra::host

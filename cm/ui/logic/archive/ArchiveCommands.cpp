@@ -1,4 +1,5 @@
 #include "cm/ui/logic/archive/ArchiveCommands.h"
+#include "cm/ui/logic/FailureMessage.h"
 
 #include "cm/core/CMArchiveItem.h"
 #include "cm/core/CMAskOnCheckoutGuard.h"
@@ -6,7 +7,6 @@
 #include "cm/core/CMPartialLoadQuestionDlg.h"
 #include "cm/host/MessageIds.h"
 #include "cm/templates/CMProperty.h"
-#include "cm/ui/logic/CallArguments.h"
 #include "cm/ui/logic/GuardedCall.h"
 #include "cm/ui/logic/HostTexts.h"
 #include "cm/ui/logic/RecursiveRun.h"
@@ -47,7 +47,7 @@ bool ArchiveCommands::OnArcCo() {
 bool ArchiveCommands::checkOut(CMArchiveItemList& selected, const CommandOptions& options) {
   const std::optional<CMArchiveItemList> confirmed = ConfirmPartialLoad(selected, false);
   if (!confirmed) return false;
-  DialogArguments arguments(*commandRow(DialogCommand::CheckOut), options);
+  CallArguments arguments = OptionRules::arguments(*commandRow(DialogCommand::CheckOut), options);
   bool succeeded = false;
   {
     const ItemViewRunning running(m_view);
@@ -63,7 +63,7 @@ bool ArchiveCommands::OnRecCheckOut(const CMArchiveItemList& selected,
                                     const CommandOptions& options) {
   CMArchiveItemList items = withDescendants(selected, m_view.allItems());
   forgetAnswers(items);
-  DialogArguments arguments(*commandRow(DialogCommand::CheckOut), options);
+  CallArguments arguments = OptionRules::arguments(*commandRow(DialogCommand::CheckOut), options);
   bool succeeded = false;
   {
     const ItemViewRunning running(m_view);
@@ -105,15 +105,16 @@ bool ArchiveCommands::OnArcFetch() {
 
 bool ArchiveCommands::fetch(CMArchiveItemList& items, const CommandOptions& options) {
   if (options.withDescendants) return doFetch(items, options.label, m_diagnostics);
-  DialogArguments arguments(*commandRow(DialogCommand::Fetch), options);
+  CallArguments arguments = OptionRules::arguments(*commandRow(DialogCommand::Fetch), options);
   return guardedCall(&CMFacade::FetchFromArchive, items, arguments.list(), m_diagnostics);
 }
 
 bool ArchiveCommands::finish(bool succeeded, int failureMessage) {
+  if (const BatchResults* const results = m_view.results()) results->addFailures(m_diagnostics);
   if (succeeded) {
     m_view.refreshItems();
   } else {
-    showItemFailure(failureMessage, m_diagnostics);
+    showFailure(failureMessage, m_diagnostics);
   }
   return succeeded;
 }

@@ -42,7 +42,8 @@ bool FetchFileFromArchive(CMArchiveItem& item, const std::string& label,
   items.addTail(&item);
   const ItemCommandFunction function =
       usesProvider ? &CMFacade::FetchForDiffFromArc : &CMFacade::FetchFromArchive;
-  return bringsFile(file, [&] { return function(items, arguments, diagnostics); });
+  return bringsFile(
+      file, [&] { return function(items, arguments, diagnostics); }, diagnostics);
 }
 
 bool RecFetchFileFromArchive(CMArchiveItem& item, const std::string& label,

@@ -20,8 +20,8 @@ bool listArchiveInto(CMArchiveItemListWrapper& items, const std::string& label,
   ArgumentList arguments;
   if (!label.empty()) arguments.push_back(&labelArgument);
   const ListingOutcome outcome;
-  const std::optional<int> result =
-      guardedCall([&] { return CMFacade::ListArchive(items.list(), arguments, diagnostics); });
+  const std::optional<int> result = guardedCall(
+      [&] { return CMFacade::ListArchive(items.list(), arguments, diagnostics); }, diagnostics);
   return result && outcome.succeeded(*result);
 }
 

@@ -52,7 +52,8 @@ bool fetchTo(IUnit& unit, const std::string& label, const std::string& file,
   CMLabel version(label);
   ArgumentList arguments{&target, &mode, &version};
   UnitList units{&unit};
-  return bringsFile(file, [&] { return fetchCall()(units, arguments, diagnostics); });
+  return bringsFile(
+      file, [&] { return fetchCall()(units, arguments, diagnostics); }, diagnostics);
 }
 
 bool tellNotWritten(const IUnit& unit, const std::string& side) {
@@ -68,10 +69,11 @@ bool fetchTakesTarget(const std::string& property) {
          findNoCase(command, "targetDir") != std::string::npos;
 }
 
-bool bringsFile(const std::string& file, const std::function<int()>& fetch) {
+bool bringsFile(const std::string& file, const std::function<int()>& fetch,
+                DiagnosticList& diagnostics) {
   // Another comparison of this second may have left its file here.
   installedHost()->environment().removeFile(file);
-  const bool isDone = guardedCall(fetch).value_or(0) != 0;
+  const bool isDone = guardedCall(fetch, diagnostics).value_or(0) != 0;
   const bool toolFailed =
       CMProperty::getUseSCCtool() == 0 && theCMToolShellInterface().lastCommandEnd().failed;
   return isDone && !toolFailed && omFileExist(file);

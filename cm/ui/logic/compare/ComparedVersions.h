@@ -26,7 +26,8 @@ VELDRA_CM_EXPORT bool fetchTakesTarget(const std::string& property);
 
 /// Runs a call of the facade that is to bring a file. False when it failed, or the file did not
 /// come: what another comparison left there is not taken for it.
-VELDRA_CM_EXPORT bool bringsFile(const std::string& file, const std::function<int()>& fetch);
+VELDRA_CM_EXPORT bool bringsFile(const std::string& file, const std::function<int()>& fetch,
+                                 DiagnosticList& diagnostics);
 
 /// Fetches the archive's version of the unit into the directory. `label` is a label or version;
 /// empty means the newest. The working file, with everything that was changed in it, stays as it

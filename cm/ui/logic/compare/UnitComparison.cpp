@@ -6,9 +6,9 @@
 #include "cm/templates/CMProperty.h"
 #include "cm/ui/ControlIds.h"
 #include "cm/ui/logic/BackEndMode.h"
+#include "cm/ui/logic/FailureMessage.h"
 #include "cm/ui/logic/HostTexts.h"
 #include "cm/ui/logic/LiveUnits.h"
-#include "cm/ui/logic/OutputFlush.h"
 #include "cm/ui/logic/ProviderOptions.h"
 #include "cm/ui/logic/SelectionRules.h"
 #include "cm/ui/logic/compare/ComparedVersions.h"
@@ -115,7 +115,7 @@ bool UnitComparison::OnRecFetch(IUnit& unit, const std::string& label) {
 }
 
 bool UnitComparison::tellFailure() {
-  showFailure(Row, m_diagnostics);
+  showFailure(MessageId::CommandFailed + static_cast<int>(Row.command), m_diagnostics);
   return false;
 }
 

@@ -1,4 +1,5 @@
 #include "cm/ui/logic/synchronize/SyncCommand.h"
+#include "cm/ui/logic/FailureMessage.h"
 
 #include "cm/core/CCMSyncQuestionDlg.h"
 #include "cm/core/CMArchiveItem.h"
@@ -102,11 +103,12 @@ bool SyncCommand::OnSyncCo(const std::string& label) {
     const ItemViewRunning running(m_view);
     end = takeOver(*items, label, diagnostics);
   }
+  if (const BatchResults* const results = m_view.results()) results->addFailures(diagnostics);
   if (end == TakeOver::CheckOutFailed) {
-    showItemFailure(MessageId::SyncCheckOutFailed, diagnostics);
+    showFailure(MessageId::SyncCheckOutFailed, diagnostics);
     return false;
   }
-  if (end == TakeOver::LoadFailed) showItemFailure(MessageId::SyncLoadFailed, diagnostics);
+  if (end == TakeOver::LoadFailed) showFailure(MessageId::SyncLoadFailed, diagnostics);
   m_view.refreshItems();
   return end == TakeOver::Done;
 }

@@ -40,7 +40,7 @@ std::optional<int> objectionToSynchronizing() {
 
 bool canSynchronize(int /*flag*/) {
   const std::optional<int> objection = objectionToSynchronizing();
-  // Without a tool the button does nothing, as before a tool is chosen.
+  // Hosts ask without anybody having asked them.
   if (objection && *objection != MessageId::NoCMToolSelected) {
     dialogWarning(dialogText(*objection));
   }

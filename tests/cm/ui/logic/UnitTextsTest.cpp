@@ -1,5 +1,10 @@
 #include "cm/ui/logic/UnitTexts.h"
 
+#include <algorithm>
+#include <numeric>
+#include <random>
+
+#include "cm/ui/logic/KeyOrder.h"
 #include "cm/ui/logic/WorkspaceOrder.h"
 #include "tests/support/HostTest.h"
 
@@ -36,7 +41,8 @@ TEST_F(UnitTextsTest, CellsFollowTheUnit) {
   EXPECT_EQ(texts.cell(m_boiler, UnitColumn::Version), "1.7");
   EXPECT_EQ(texts.cell(m_boiler, UnitColumn::Access), "RO");
   EXPECT_EQ(texts.cell(m_boiler, UnitColumn::Controlled), "") << "no provider is connected";
-  EXPECT_NE(texts.sortKey(m_boiler, UnitColumn::Controlled), "");
+  std::string storage;
+  EXPECT_NE(texts.sortKey(m_boiler, UnitColumn::Controlled, storage), "");
 }
 
 TEST_F(UnitTextsTest, StubsAreMarkedUnlessTheSettingForbidsIt) {
@@ -62,6 +68,34 @@ TEST_F(UnitTextsTest, RowsAreSortedByBytesAndUnitsThatAreGoneComeLast) {
   m_model.destroy(&gone);
   EXPECT_EQ(orderByColumn(units, UnitTexts(), UnitColumn::Name),
             (std::vector<std::size_t>{2, 3, 0, 1}));
+}
+
+/// Against a sort that compares: texts with long common beginnings, one the beginning of the other,
+/// with bytes of value zero, and many of them.
+TEST(KeyOrderTest, SortsLikeAStableSortOfTheBytes) {
+  std::mt19937 random(7);
+  const auto below = [&random](std::size_t limit) { return random() % limit; };
+  for (const std::size_t count : {0U, 1U, 2U, 40U, 3000U}) {
+    std::vector<std::string> texts;
+    KeyOrder keys(count);
+    for (std::size_t i = 0; i < count; ++i) {
+      std::string text = "common/" + std::string(below(3) * 9, 'x');
+      for (std::size_t length = below(12); length > 0; --length) {
+        text += std::string("\0\1ab\xFF", 5)[below(5)];
+      }
+      texts.push_back(text);
+      keys.add(text);
+    }
+    std::vector<std::uint32_t> places(count);
+    std::iota(places.begin(), places.end(), 0U);
+    std::shuffle(places.begin(), places.end(), random);
+    std::vector<std::size_t> expected(count);
+    std::iota(expected.begin(), expected.end(), std::size_t{0});
+    std::stable_sort(expected.begin(), expected.end(), [&](std::size_t a, std::size_t b) {
+      return texts[places[a]] < texts[places[b]];
+    });
+    EXPECT_EQ(keys.order(places), expected) << count;
+  }
 }
 
 }  // namespace

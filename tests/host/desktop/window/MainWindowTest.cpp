@@ -6,9 +6,15 @@
 #include <QAction>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
+#include <QTableView>
 #include <QTest>
 #include <QTreeView>
 
+#include "cm/host/IPN.h"
+#include "host/desktop/logic/SettingsTable.h"
+#include "host/desktop/window/SettingsDialog.h"
+#include "host/desktop/window/SettingsModel.h"
 #include "host/desktop/window/UnitEditor.h"
 #include "tests/host/desktop/SampleProject.h"
 #include "tests/host/desktop/ScriptedQuestions.h"
@@ -118,6 +124,30 @@ TEST_F(MainWindowTest, EveryCommandCanBeReachedByKeyboardAndHasAName) {
     if (widget->focusPolicy() == Qt::NoFocus || widget->objectName().startsWith("qt_")) continue;
     EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->metaObject()->className();
   }
+}
+
+TEST_F(MainWindowTest, AValueIsResetWhereItIsStored) {
+  UnitCore& grinder = unit("Brewing/Grinder.vcmp");
+  SettingsTable table(m_session.host().properties(), m_session.project());
+  const PropertyKey key{IPN::CM, IPN::General, "DebugLevel"};
+  ASSERT_EQ(table.set(key, "1", Origin::Project, nullptr), std::nullopt);
+  ASSERT_EQ(table.set(key, "2", Origin::Unit, &grinder), std::nullopt);
+  SettingsDialog dialog(m_session, &grinder, &m_window);
+  auto* filter = dialog.findChild<QLineEdit*>("Filter");
+  filter->setText("DebugLevel");
+  auto& view = *dialog.findChild<QTableView*>();
+  const auto shownValue = [&] {
+    view.selectRow(0);
+    return view.model()->index(0, SettingsModel::Value).data().toString().toStdString();
+  };
+  auto& reset = *dialog.findChild<QPushButton*>("Reset");
+  EXPECT_EQ(shownValue(), "2");
+  reset.click();
+  EXPECT_EQ(shownValue(), "1") << "the project's is inherited";
+  reset.click();
+  EXPECT_EQ(view.model()->rowCount(), 0);
+  EXPECT_FALSE(reset.isEnabled());
+  EXPECT_TRUE(m_questions.asked.empty());
 }
 
 }  // namespace

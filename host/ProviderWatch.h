@@ -6,12 +6,15 @@
 #include <thread>
 #include <utility>
 
-namespace veldra::host::cli {
+namespace veldra::host {
 
 /// Watches the calls into a source control provider from a thread of its own, because a call that
 /// does not come back holds the thread that made it for ever.
 class ProviderWatch {
  public:
+  /// A server that answers at all answers within this; then people begin to wonder.
+  static constexpr std::chrono::seconds Patience{10};
+
   struct Rules {
     std::chrono::milliseconds untilTold;     ///< A call of that length is told of, once.
     std::chrono::milliseconds untilGivenUp;  ///< So long a call may go on after an interrupt.
@@ -38,4 +41,4 @@ class ProviderWatch {
   std::jthread m_thread;             ///< Runs from the first call on.
 };
 
-}  // namespace veldra::host::cli
+}  // namespace veldra::host

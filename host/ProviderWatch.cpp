@@ -1,10 +1,10 @@
-#include "host/cli/ProviderWatch.h"
+#include "host/ProviderWatch.h"
 
 #include <algorithm>
 #include <condition_variable>
 #include <mutex>
 
-namespace veldra::host::cli {
+namespace veldra::host {
 
 namespace {
 
@@ -52,4 +52,4 @@ void ProviderWatch::watch(const std::stop_token& stop) const {
   }
 }
 
-}  // namespace veldra::host::cli
+}  // namespace veldra::host

@@ -1,4 +1,4 @@
-#include "host/cli/ProviderWatch.h"
+#include "host/ProviderWatch.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <string>
 #include <thread>
 
-namespace veldra::host::cli {
+namespace veldra::host {
 namespace {
 
 using namespace std::chrono_literals;
@@ -80,4 +80,4 @@ TEST(ProviderWatchTest, GivesUpACallOnlyAfterAnInterrupt) {
 }
 
 }  // namespace
-}  // namespace veldra::host::cli
+}  // namespace veldra::host
