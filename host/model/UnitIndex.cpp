@@ -15,7 +15,7 @@ bool isAbsolute(std::string_view name) {
 }  // namespace
 
 UnitCore* UnitIndex::findExact(std::string_view name) const {
-  const auto found = m_units.find(name);
+  const auto found = m_units.find(std::string(name));
   return found == m_units.end() ? nullptr : found->second;
 }
 

@@ -28,18 +28,13 @@ class UnitIndex {
   UnitCore* find(std::string_view fileName) const;
 
  private:
-  struct Hash {
-    using is_transparent = void;
-    std::size_t operator()(std::string_view text) const {
-      return std::hash<std::string_view>()(text);
-    }
-  };
-
   UnitCore* findExact(std::string_view name) const;
   std::string_view belowRoot(std::string_view absolute) const;
 
   std::string m_root;
-  std::unordered_map<std::string, UnitCore*, Hash, std::equal_to<>> m_units;
+  // With the standard hash, whose values the table keeps: a look-up by a view would need another
+  // one and hash every name that it passes, which takes longer than the copy of a name.
+  std::unordered_map<std::string, UnitCore*> m_units;
 };
 
 }  // namespace veldra::host

@@ -20,5 +20,4 @@ above == "<commit" { split($0, part, "\""); revision = part[2] }
 /^<name>/ { name = content($0) }
 /^<owner>/ { locker = content($0) }
 /^<\/entry>/ && isFile { print revision "\t" locker "\t" (locker == "" ? "RO" : "RW") "\t" name }
-/^<failed/ { exit 1 }
 { above = $0 }

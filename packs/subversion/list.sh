@@ -3,5 +3,8 @@
 . "${0%/*}/common.sh"
 
 url=$(archive_url "$1") || exit
-{ svn list --xml --recursive -- "$url@" || printf '<failed/>\n'; } |
-  LC_ALL=C awk -f "${0%/*}/list.awk"
+# Through a file: svn writes every few bytes by themselves, and a pipe makes each of them wait.
+listing=$(temporary_file) || exit
+trap 'rm -f "$listing"' EXIT
+svn list --xml --recursive -- "$url@" >"$listing" || exit
+LC_ALL=C awk -f "${0%/*}/list.awk" "$listing"
