@@ -95,7 +95,7 @@ double checkoutAgainstShell() {
   copies.checkOutOurs();
   copies.checkOutTheirs();
   return ratioOf(
-      2, [&] { copies.unlockBoth(); }, [&] { copies.checkOutOurs(); },
+      5, [&] { copies.unlockBoth(); }, [&] { copies.checkOutOurs(); },
       [&] { copies.checkOutTheirs(); });
 }
 
