@@ -7,6 +7,7 @@
 #include <tuple>
 
 #include "host/model/PathNames.h"
+#include "host/model/TemplateForms.h"
 #include "host/model/TomlEdit.h"
 
 namespace veldra::host {
@@ -116,7 +117,22 @@ void PropertyLayers::putEffective(const PropertyKey& key, Property* property) {
 
 Property* PropertyLayers::find(const PropertyKeyView& key) const {
   const auto found = m_effective.find(key);
-  return found == m_effective.end() ? nullptr : found->second;
+  if (found == m_effective.end() || isOutdated(key, *found->second)) return nullptr;
+  return found->second;
+}
+
+/// Whether a property is another form of a template that a stronger layer has replaced.
+bool PropertyLayers::isOutdated(const PropertyKeyView& key, const Property& form) const {
+  const std::optional<std::string_view> name = templateOfForm(key.name);
+  if (!name) return false;
+  const PropertyKeyView ordinary(key.subject, key.metaclass, *name);
+  const auto inForce = m_effective.find(ordinary);
+  if (inForce == m_effective.end() || inForce->second->origin() <= form.origin()) return false;
+  for (int origin = static_cast<int>(form.origin()); origin >= 0; --origin) {
+    const Property* const former = findIn(static_cast<Origin>(origin), ordinary);
+    if (former != nullptr) return former->value() != inForce->second->value();
+  }
+  return true;
 }
 
 Property* PropertyLayers::findIn(Origin origin, const PropertyKeyView& key) const {
@@ -224,7 +240,9 @@ std::vector<PropertyEntry> PropertyLayers::projectEntries() const {
 std::vector<PropertyEntry> PropertyLayers::entries() const {
   std::vector<PropertyEntry> entries;
   entries.reserve(m_effective.size());
-  for (const auto& [key, property] : m_effective) entries.push_back(entryOf(key, *property));
+  for (const auto& [key, property] : m_effective) {
+    if (!isOutdated(key, *property)) entries.push_back(entryOf(key, *property));
+  }
   sortEntries(entries);
   return entries;
 }

@@ -38,6 +38,10 @@ struct PropertyEntry {
 
 /// The properties of tool packs, site, user and project, one layer over the other.
 ///
+/// Another form of a command template, for many units or a quick one, belongs to that template: a
+/// layer that puts a command of its own in the template's place takes away the forms of the layers
+/// below it, because they would run the former command.
+///
 /// A look-up takes one hash search whatever the number of layers. A reference to a property stays
 /// valid until its layer is read again or the property is replaced.
 class PropertyLayers {
@@ -99,6 +103,7 @@ class PropertyLayers {
   Property& putInProject(const PropertyKey& key, std::unique_ptr<Property> property);
   void putEffective(const PropertyKey& key, Property* property);
   void rebuildEffective();
+  bool isOutdated(const PropertyKeyView& key, const Property& form) const;
   void tellProjectChanged() const;
 
   std::array<PropertyTable, 4> m_layers;

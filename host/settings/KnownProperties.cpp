@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "host/model/PathNames.h"
+#include "host/model/TemplateForms.h"
 
 namespace veldra::host {
 
@@ -195,11 +196,9 @@ std::span<const KnownProperty> knownProperties() {
 
 const KnownProperty* knownProperty(std::string_view name) {
   if (const KnownProperty* const known = propertyNamed(name)) return known;
-  // Every command template may have one more for a list of units.
-  constexpr std::string_view Batch = "Batch";
-  if (!name.ends_with(Batch)) return nullptr;
-  const KnownProperty* const single = propertyNamed(name.substr(0, name.size() - Batch.size()));
-  return single != nullptr && single->kind == Command ? single : nullptr;
+  const std::optional<std::string_view> ordinary = templateOfForm(name);
+  const KnownProperty* const known = ordinary ? propertyNamed(*ordinary) : nullptr;
+  return known != nullptr && known->kind == Command ? known : nullptr;
 }
 
 std::span<const std::string_view> argumentKeywords() {

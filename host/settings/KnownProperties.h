@@ -24,8 +24,8 @@ struct KnownProperty {
 /// All of them, by their kinds. Tools add properties of their own that their templates refer to.
 std::span<const KnownProperty> knownProperties();
 
-/// The property of exactly that name, or null. A command template with "Batch" behind its name
-/// counts as the template.
+/// The property of exactly that name, or null. A command template with "Batch" or "Quick" behind
+/// its name counts as the template.
 const KnownProperty* knownProperty(std::string_view name);
 
 /// The names that a template may refer to without any property behind them: those that arguments

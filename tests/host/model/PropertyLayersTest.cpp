@@ -70,6 +70,28 @@ TEST_F(Layers, theStrongestCountsAndSaysWhereItComesFrom) {
   EXPECT_EQ(model.layers.packs()[0].title, "GNU RCS");
 }
 
+TEST_F(Layers, anotherFormOfATemplateGoesWithTheTemplate) {
+  model.put("packs/rcs.toml",
+            "[ConfigurationManagement.RCS]\nCheckIn = 'ci'\nCheckInBatch = 'ci-all'\n"
+            "CheckOut = 'co'\nCheckOutQuick = 'lock'\n");
+  model.put("site.toml",
+            "[ConfigurationManagement.RCS]\nCheckIn = 'our-ci'\nCheckOut = 'co'\n"
+            "CheckOutBatch = 'our-co'\n");
+  load();
+  EXPECT_EQ(value("CheckInBatch"), "none") << "the site's check-in is another one";
+  EXPECT_EQ(value("CheckOutQuick"), "lock from pack") << "the site says the same as the pack";
+  EXPECT_EQ(value("CheckOutBatch"), "our-co from site");
+  model.putProject(
+      "\"properties\": {\"ConfigurationManagement\": {\"RCS\": {\"CheckInBatch\": \"mine\", "
+      "\"CheckOut\": \"my-co\"}}}");
+  auto project = model.load();
+  EXPECT_EQ(value("CheckInBatch"), "mine from project");
+  EXPECT_EQ(value("CheckOutQuick"), "none");
+  EXPECT_EQ(value("CheckOutBatch"), "none");
+  model.layers.resetInProject({CM, "RCS", "CheckOut"});
+  EXPECT_EQ(value("CheckOutBatch"), "our-co from site");
+}
+
 TEST_F(Layers, onlyARealChangeMarksTheProject) {
   model.putProject();
   auto project = model.load();
