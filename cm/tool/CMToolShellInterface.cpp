@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <utility>
 
@@ -36,8 +37,22 @@ bool enterDirectory(const std::string& directory, std::string& errorText) {
   Host* const host = installedHost();
   if (host != nullptr && host->environment().setCurrentDirectory(directory)) return true;
   errorText = formatMessage(MessageId::DirectoryNotEntered, {directory, omGetErrorCodeString()});
-  echo(errorText);
   return false;
+}
+
+/// Does something in the project's working directory, and goes back. False, with the reason, when
+/// the system lets one of the two not happen.
+bool inWorkingDirectory(std::string& errorText, const std::function<void()>& work) {
+  const std::string previous = omGetFullPathOfDirectory("", errorText);
+  if (previous.empty() || !enterDirectory(workingDirectoryOfProject(), errorText)) return false;
+  try {
+    work();
+  } catch (...) {
+    // The host failed; its process goes on where it was.
+    installedHost()->environment().setCurrentDirectory(previous);
+    throw;
+  }
+  return enterDirectory(previous, errorText);
 }
 
 /// The wait in milliseconds; a setting that is missing, zero or no number waits for ever.
@@ -71,6 +86,7 @@ constexpr std::size_t MostSetAside = std::size_t{4} << 20;
 /// What one run left behind.
 struct RunResult {
   std::uint32_t wait = 0;
+  bool hasErrorLines = false;
   bool failed = false;  ///< By error lines or a time-out with output: the text is an error text.
   bool endedBadly = false;
   std::string setAside{};  ///< What was printed beside error lines.
@@ -89,8 +105,7 @@ RunResult runAndCollect(IProcesses& processes, const RedirectedCommand& command,
   if (!runner->errorLines().empty()) {
     runner->errorLines().moveTo(errorText);
     if (runner->outputLines().size() <= MostSetAside) runner->outputLines().moveTo(result.setAside);
-    echo(errorText);
-    result.failed = true;
+    result.hasErrorLines = result.failed = true;
   } else if (!runner->outputLines().empty()) {
     runner->outputLines().moveTo(timedOut ? errorText : output);
     result.failed = timedOut;
@@ -110,6 +125,8 @@ void noticeTimeOut() {
     notifyUser(text);
   }
 }
+
+constexpr char ErrorPattern[] = "OperationErrorPattern";
 
 /// Whether the text matches the pattern that the tool property holds.
 bool matchesProperty(const char* propertyName, const std::string& text) {
@@ -143,6 +160,7 @@ void CMToolShellInterface::runCommand(const std::string& command, std::string& o
   m_end.setAside = std::move(run.setAside);
   if (run.failed) {
     // The second echo of error lines is intended: once as they come, once as the result.
+    if (run.hasErrorLines) echo(errorText);
     echo(errorText);
     checkCommandResults(errorText);
   } else {
@@ -158,29 +176,45 @@ void CMToolShellInterface::runCommand(const std::string& command, std::string& o
   if (m_end.failed) m_end.words = errorText.empty() ? output : errorText;
 }
 
+bool CMToolShellInterface::tryCommand(const std::string& command, std::string& output) {
+  Host* const host = installedHost();
+  IProcesses* const processes = host != nullptr ? host->processes() : nullptr;
+  if (processes == nullptr) return false;
+  ++m_commandCount;
+  std::string printed;
+  std::string errorText;
+  const RunResult run = runAndCollect(*processes, RedirectedCommand(command), printed, errorText);
+  if (run.failed || run.endedBadly || run.wait == RunThread::WaitTimeout ||
+      matchesProperty(ErrorPattern, printed)) {
+    debugEcho({"given up: ", command, "\n", errorText, printed, "\n"});
+    return false;
+  }
+  output = std::move(printed);
+  echo(command + "\n");
+  echo(output);
+  checkCommandResults(output);
+  return true;
+}
+
 int CMToolShellInterface::Execute(const std::string& command, std::string& output,
-                                  std::string& errorText, std::string workingDirectory) {
+                                  std::string& errorText, std::string /*workingDirectory*/) {
   m_end = CommandEnd();
-  const std::string previous = omGetFullPathOfDirectory("", errorText);
-  if (previous.empty()) {
-    echo(errorText);
-    return 0;
-  }
-  workingDirectory = workingDirectoryOfProject();
-  if (!enterDirectory(workingDirectory, errorText)) return 0;
-  try {
-    runCommand(command, output, errorText);
-  } catch (...) {
-    // The host failed; its process goes on where it was.
-    installedHost()->environment().setCurrentDirectory(previous);
-    throw;
-  }
-  return enterDirectory(previous, errorText) ? 1 : 0;
+  const bool isWell =
+      inWorkingDirectory(errorText, [&] { runCommand(command, output, errorText); });
+  if (!isWell) echo(errorText);
+  return isWell ? 1 : 0;
+}
+
+bool CMToolShellInterface::TryExecute(const std::string& command, std::string& output) {
+  m_end = CommandEnd();
+  std::string forgotten;
+  bool isWell = false;
+  return inWorkingDirectory(forgotten, [&] { isWell = tryCommand(command, output); }) && isWell;
 }
 
 void CMToolShellInterface::checkCommandResults(const std::string& text) {
   if (text.empty()) return;
-  if (matchesProperty("OperationErrorPattern", text)) {
+  if (matchesProperty(ErrorPattern, text)) {
     m_end.failed = true;
     notifyUserAndAsk(loadMessage(MessageId::ErrorPatternMatched), MessageBox::IconError);
   } else if (matchesProperty("OperationWarningPattern", text)) {

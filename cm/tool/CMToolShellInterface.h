@@ -21,6 +21,9 @@ class VELDRA_CM_EXPORT CMToolShellInterface : public CMToolInterface {
  public:
   int Execute(const std::string& command, std::string& output, std::string& errorText,
               std::string workingDirectory) override;
+  /// Runs a command that may fail for reasons which another one finds out about. True when it ended
+  /// well. Otherwise nothing of what it said is told or kept.
+  bool TryExecute(const std::string& command, std::string& output);
 
   const CommandEnd& lastCommandEnd() const { return m_end; }
   /// How many commands have been run so far.
@@ -32,6 +35,7 @@ class VELDRA_CM_EXPORT CMToolShellInterface : public CMToolInterface {
 
  private:
   void runCommand(const std::string& command, std::string& output, std::string& errorText);
+  bool tryCommand(const std::string& command, std::string& output);
 
   CommandEnd m_end;
   std::size_t m_commandCount = 0;

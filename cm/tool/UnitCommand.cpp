@@ -8,6 +8,7 @@
 #include "cm/host/Host.h"
 #include "cm/templates/CMProperty.h"
 #include "cm/tool/CMToolShellInterface.h"
+#include "cm/tool/QuickForm.h"
 
 namespace veldra {
 
@@ -159,19 +160,19 @@ int UnitCommand::runCommand(UnitRun& run, const UnitCallFrame& call, UnitProgres
   std::optional<PushedArgument> pushedChange;
   if (change) pushedChange.emplace(call.arguments, *change);
   const CommandTemplate single = templateFor(*run.unit, call);
-  std::string command;
-  std::string extra;
-  const int expanded = CMProperty::ExpandProperty(single.property, call.arguments, command, extra,
-                                                  single.providerMetaclass);
-  int status = expanded;
-  bool isUnchanged = false;
-  if (expanded == 1) {
-    ToolAnswer answer;
-    status = runTraced(command, row(), answer);
-    isUnchanged = status == 1 && row().tellsUnchanged &&
-                  answer.marked(UnchangedMark).contains(run.unit->getFullFileName());
-    run.errorText = std::move(answer.errorText);
+  ToolAnswer answer;
+  int expanded = 1;
+  int status = 1;
+  if (!runQuickForm(single, call.arguments, row(), answer)) {
+    std::string command;
+    std::string extra;
+    status = expanded = CMProperty::ExpandProperty(single.property, call.arguments, command, extra,
+                                                   single.providerMetaclass);
+    if (expanded == 1) status = runTraced(command, row(), answer);
   }
+  const bool isUnchanged = status == 1 && row().tellsUnchanged &&
+                           answer.marked(UnchangedMark).contains(run.unit->getFullFileName());
+  run.errorText = std::move(answer.errorText);
   progress.endsByCommand(expanded, status);
   if (isUnchanged && !theCMToolShellInterface().lastCommandEnd().failed) {
     progress.endsAsUnchanged(run.unit->getFullFileName());

@@ -6,12 +6,6 @@
 
 mode=$1 units=$2 revision=${3:-HEAD}
 
-# One file at its newest, as nearly always, takes no more time than svn itself. Why it cannot be locked
-# is found out below.
-case $mode$revision$units in
-  --lockedHEAD@* | --lockHEAD@*) ;;
-  --lockedHEAD* | --lockHEAD*) command svn --non-interactive lock -- "$units@" 2>/dev/null && exit ;;
-esac
 . "${0%/*}/labels.sh"
 name_targets "$units"
 
