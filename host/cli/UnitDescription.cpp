@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "cm/core/ArchiveShortPath.h"
 #include "host/model/PathNames.h"
 #include "host/model/UnitCore.h"
 
@@ -27,6 +28,17 @@ std::string modeOf(const CMArchiveItem& item) {
   }
 }
 
+UnitRecord describe(const CMArchiveItem& item, const ArchiveShortPath& shortPath) {
+  UnitRecord record{.path = shortPath.of(item, true),
+                    .name = item.getName(),
+                    .type = item.getType(),
+                    .version = item.getVersion(),
+                    .mode = modeOf(item),
+                    .locker = item.getLocker()};
+  if (HostSeparator != '/') std::ranges::replace(record.path, HostSeparator, '/');
+  return record;
+}
+
 }  // namespace
 
 std::string projectPath(IUnit& unit) {
@@ -47,14 +59,16 @@ UnitRecord describeUnit(IUnit& unit, const CMHeaderReader& headers) {
 }
 
 UnitRecord describeItem(const CMArchiveItem& item) {
-  UnitRecord record{.path = item.getNameNShortPath(true),
-                    .name = item.getName(),
-                    .type = item.getType(),
-                    .version = item.getVersion(),
-                    .mode = modeOf(item),
-                    .locker = item.getLocker()};
-  if (HostSeparator != '/') std::ranges::replace(record.path, HostSeparator, '/');
-  return record;
+  return describe(item, ArchiveShortPath());
+}
+
+void describeItems(const CMArchiveItemList& items, const std::function<void(UnitRecord&)>& take) {
+  const ArchiveShortPath shortPath;
+  for (const CMArchiveItem* item : items) {
+    if (item == nullptr) continue;
+    UnitRecord record = describe(*item, shortPath);
+    take(record);
+  }
 }
 
 }  // namespace veldra::host::cli
