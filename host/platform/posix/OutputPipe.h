@@ -37,8 +37,12 @@ class OutputPipe {
 
   bool isOpen() const { return static_cast<bool>(m_reader); }
   int descriptor() const { return m_reader.get(); }
+  /// True for a child that has printed many small pieces, when more of them had better come
+  /// together before they are taken.
+  bool mayGather() const { return isOpen() && m_mayGather; }
 
  private:
+  void noteSize(std::size_t count);
   std::span<char> roomToRead();
   void preferLargePages();
 
@@ -46,6 +50,8 @@ class OutputPipe {
   ChildWatch* m_watch;
   FileDescriptor m_reader;
   FileDescriptor m_childEnd;
+  int m_smallPieces = 0;
+  bool m_mayGather = false;
   bool m_enlarged = false;
   bool m_forgets = false;
   bool m_insideLine = false;
