@@ -16,9 +16,23 @@ namespace veldra {
 
 namespace {
 
-bool showsAllFiles() {
-  const IProperty* const setting = CMProperty::getToolProperty("ShowAllFilesInArchive");
+bool isOn(const char* name) {
+  const IProperty* const setting = CMProperty::getToolProperty(name);
   return setting != nullptr && setting->getBool();
+}
+
+struct XmlEscape {
+  std::string_view escape;
+  std::string_view text;
+};
+
+/// The ampersand comes last: what it makes is no escape.
+constexpr XmlEscape XmlEscapes[] = {
+    {"&lt;", "<"}, {"&gt;", ">"}, {"&quot;", "\""}, {"&apos;", "'"}, {"&amp;", "&"}};
+
+void resolveXmlEscapes(std::string& text) {
+  if (text.find('&') == std::string::npos) return;
+  for (const XmlEscape& row : XmlEscapes) text = replaceAll(text, row.escape, row.text);
 }
 
 /// The mode of a record: unknown when the record does not have the field at all, otherwise
@@ -33,7 +47,8 @@ int listedMode(const PropertyPattern::Answer& answer) {
 
 ArchiveListing::ArchiveListing()
     : m_echoes(isDebugEchoOn()),
-      m_showsAllFiles(showsAllFiles()),
+      m_showsAllFiles(isOn("ShowAllFilesInArchive")),
+      m_isXml(isOn("ListArchiveIsXml")),
       m_ignoresNamesWithoutDot(
           CMProperty::getProjectBool(IPN::General, "IgnoreArchiveItemsWithoutDot", true)),
       m_workingFile(IPN::CMListArchiveItsWorkingFile),
@@ -67,11 +82,18 @@ void ArchiveListing::echo(std::initializer_list<std::string_view> pieces) const 
   if (m_echoes) writeDebugEcho(pieces);
 }
 
+PropertyPattern::Answer ArchiveListing::extract(const PropertyPattern& pattern,
+                                                std::string_view record, std::string& value) const {
+  const PropertyPattern::Answer answer = pattern.extract(record, value);
+  if (m_isXml) resolveXmlEscapes(value);
+  return answer;
+}
+
 /// A field that may be missing: its value, or nothing.
 std::string ArchiveListing::optionalField(const PropertyPattern& pattern, std::string_view record,
                                           const char* label, int& status) const {
   std::string value;
-  status = pattern.extract(record, value).result;
+  status = extract(pattern, record, value).result;
   if (status == 0) value.clear();
   echo({label, ": '", value, "'\n"});
   return value;
@@ -79,7 +101,7 @@ std::string ArchiveListing::optionalField(const PropertyPattern& pattern, std::s
 
 int ArchiveListing::readRecord(std::string_view record, CMArchiveItemList& items) const {
   std::string workingFile;
-  const PropertyPattern::Answer file = m_workingFile.extract(record, workingFile);
+  const PropertyPattern::Answer file = extract(m_workingFile, record, workingFile);
   echo({"Archive working file: '", workingFile, "'\n"});
   if (!isListed(workingFile) || file.result != 1 || file.found == 0) return file.result;
 

@@ -21,6 +21,8 @@ class ArchiveListing {
  private:
   int readRecord(std::string_view record, CMArchiveItemList& items) const;
   bool isListed(const std::string& workingFile) const;
+  PropertyPattern::Answer extract(const PropertyPattern& pattern, std::string_view record,
+                                  std::string& value) const;
   std::string optionalField(const PropertyPattern& pattern, std::string_view record,
                             const char* label, int& status) const;
   void echo(std::initializer_list<std::string_view> pieces) const;
@@ -29,6 +31,7 @@ class ArchiveListing {
   std::string m_projectExtension;
   bool m_echoes;  ///< Debug lines are wanted.
   bool m_showsAllFiles;
+  bool m_isXml;  ///< The values are as XML writes them.
   bool m_ignoresNamesWithoutDot;
   PropertyPattern m_workingFile;
   PropertyPattern m_version;

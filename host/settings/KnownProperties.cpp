@@ -82,6 +82,7 @@ constexpr KnownProperty Known[] = {
     // Reading what a tool prints.
     {"HeaderInfoItsRepositoryPath", Extraction},
     {"MultiRecordDelimiter", Pattern},
+    {"ListArchiveIsXml", Word},
     {"ListArchiveItsWorkingFile", Extraction},
     {"ListArchiveItsVersion", Extraction},
     {"ListArchiveItsMode", Extraction},

@@ -60,6 +60,15 @@ TEST_F(ListArchiveTest, RecordsBecomeItems) {
   EXPECT_EQ((*m_items.begin())->getStatus(), "");
 }
 
+TEST_F(ListArchiveTest, ValuesOfXmlAreRead) {
+  const std::string output = "a &amp;lt; &lt;b&gt;.vcl|&quot;1&apos;|ro|R&amp;D\n";
+  list(output);
+  EXPECT_THAT(listed(), ElementsAre("a &amp;lt; &lt;b&gt;.vcl &quot;1&apos; 1 R&amp;D"));
+  set("ListArchiveIsXml", "Yes");
+  list(output);
+  EXPECT_THAT(listed(), ElementsAre("a &lt; <b>.vcl \"1' 1 R&D"));
+}
+
 TEST_F(ListArchiveTest, ItemsAreAppended) {
   CMArchiveItem& first = addItem("first.vcl");
   answer("ls", {.output = "A.vcl|1|ro|\n"});
