@@ -1,6 +1,8 @@
 #include "host/cli/UnitDescription.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 #include "cm/core/ArchiveShortPath.h"
 #include "host/model/PathNames.h"
@@ -28,16 +30,32 @@ std::string modeOf(const CMArchiveItem& item) {
   }
 }
 
-UnitRecord describe(const CMArchiveItem& item, const ArchiveShortPath& shortPath) {
-  UnitRecord record{.path = shortPath.of(item, true),
-                    .name = item.getName(),
-                    .type = item.getType(),
-                    .version = item.getVersion(),
-                    .mode = modeOf(item),
-                    .locker = item.getLocker()};
-  if (HostSeparator != '/') std::ranges::replace(record.path, HostSeparator, '/');
-  return record;
-}
+/// Describes items. Most files of a list are of the same type as the one before.
+class ItemDescriber {
+ public:
+  UnitRecord describe(const CMArchiveItem& item) {
+    UnitRecord record{.path = m_shortPath.of(item, true),
+                      .name = item.getName(),
+                      .type = typeOf(item),
+                      .version = item.getVersion(),
+                      .mode = modeOf(item),
+                      .locker = item.getLocker()};
+    if (HostSeparator != '/') std::ranges::replace(record.path, HostSeparator, '/');
+    return record;
+  }
+
+ private:
+  const std::string& typeOf(const CMArchiveItem& item) {
+    std::string suffix = item.getSuffix();
+    if (!m_type || suffix != m_suffix) m_type = item.getType();
+    m_suffix = std::move(suffix);
+    return *m_type;
+  }
+
+  ArchiveShortPath m_shortPath;
+  std::string m_suffix;
+  std::optional<std::string> m_type;
+};
 
 }  // namespace
 
@@ -59,14 +77,14 @@ UnitRecord describeUnit(IUnit& unit, const CMHeaderReader& headers) {
 }
 
 UnitRecord describeItem(const CMArchiveItem& item) {
-  return describe(item, ArchiveShortPath());
+  return ItemDescriber().describe(item);
 }
 
 void describeItems(const CMArchiveItemList& items, const std::function<void(UnitRecord&)>& take) {
-  const ArchiveShortPath shortPath;
+  ItemDescriber describer;
   for (const CMArchiveItem* item : items) {
     if (item == nullptr) continue;
-    UnitRecord record = describe(*item, shortPath);
+    UnitRecord record = describer.describe(*item);
     take(record);
   }
 }

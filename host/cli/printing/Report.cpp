@@ -28,13 +28,17 @@ Json jsonOf(const UnitPlan& plan) {
   return json;
 }
 
-bool isPlain(char c) {
-  return c >= ' ' && c <= '~' && c != '"' && c != '\\';
+/// Whether a text stands in a document as it is. Without a way out in the middle, because this
+/// takes several characters at once.
+bool isPlain(std::string_view bytes) {
+  bool plain = true;
+  for (const char c : bytes) plain &= (c >= ' ') & (c <= '~') & (c != '"') & (c != '\\');
+  return plain;
 }
 
 /// What `jsonText` makes of the bytes, written out.
 void appendText(std::string_view bytes, std::string& text) {
-  if (std::ranges::all_of(bytes, isPlain)) {
+  if (isPlain(bytes)) {
     text.append(1, '"').append(bytes).append(1, '"');
   } else {
     text += jsonText(std::string(bytes)).dump();

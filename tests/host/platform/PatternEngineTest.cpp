@@ -129,7 +129,6 @@ TEST_F(PatternEngineTest, longTextsAreSearchedAsOneWhole) {
                                    {"(?<=ab)c*d", "abccd", "ccd"},
                                    {"a\\Kb", "ab", "b"},
                                    {"\\Gq", "aq", nullptr, PatternEnd::NoMatch},
-                                   {"(*COMMIT)q", "aq", nullptr, PatternEnd::NoMatch},
                                    {"a{3}\\z", "aaab", nullptr, PatternEnd::NoMatch},
                                    {"\\R.", "x\r\ny", "\r\ny"}}) {
     for (std::size_t before = 1000; before < 1030; ++before) {
