@@ -35,7 +35,7 @@ constexpr unsigned ItemsPerLook = 16;
 /// No line ends there: at the end of what it sees, PCRE2 takes no line to begin, and it would see
 /// half of a CRLF.
 std::size_t endOfPart(std::string_view text, std::size_t from) {
-  std::size_t end = from + PartBytes;
+  std::size_t end = std::min(from + PartBytes, text.size());
   while (end > from && (text[end - 1] == '\n' || text[end - 1] == '\r')) --end;
   return end;
 }
@@ -105,19 +105,18 @@ int CompiledPattern::search(std::string_view text, std::size_t from) const {
 
 int CompiledPattern::searchTimed(std::string_view text, std::size_t from) const {
   Watch watch(text.size() - from, m_timesGivenUp);
-  const std::optional<int> found = m_allowsParts ? searchParts(text, from, watch) : std::nullopt;
+  const std::optional<int> found = searchParts(text, from, PartBytes, watch);
   const int result = found ? *found : searchWatched(text, from, watch);
   if (result == PCRE2_ERROR_CALLOUT) m_timesGivenUp = std::min(m_timesGivenUp + 1, MostHalvings);
   return result;
 }
 
 std::optional<int> CompiledPattern::searchParts(std::string_view text, std::size_t& from,
-                                                Watch& watch) const {
-  if (text.size() - from > PartBytes) {
-    // Only now, because most patterns never see a long text.
-    pcre2_jit_compile(m_code.get(), PCRE2_JIT_PARTIAL_HARD);
-  }
-  while (text.size() - from > PartBytes) {
+                                                std::size_t rest, Watch& watch) const {
+  if (!m_allowsParts || text.size() - from <= rest) return std::nullopt;
+  // Only now, because most patterns never see a long text.
+  pcre2_jit_compile(m_code.get(), PCRE2_JIT_PARTIAL_HARD);
+  while (text.size() - from > rest) {
     if (watch.isOver()) return PCRE2_ERROR_CALLOUT;
     std::size_t next = endOfPart(text, from);
     const int result =
@@ -133,6 +132,19 @@ std::optional<int> CompiledPattern::searchParts(std::string_view text, std::size
     from = next;
   }
   return std::nullopt;
+}
+
+bool CompiledPattern::matchSurely(std::string_view text, std::size_t from,
+                                  PatternMatch& match) const {
+  match.captures.clear();
+  match.end = PatternEnd::NoMatch;
+  if (from > text.size()) return false;
+  Watch watch(text.size() - from, m_timesGivenUp);
+  const std::optional<int> found = searchParts(text, from, 0, watch);
+  if (!found || *found < 0) return false;
+  takeCaptures(text, match);
+  match.end = PatternEnd::Matched;
+  return true;
 }
 
 int CompiledPattern::searchWatched(std::string_view text, std::size_t from, Watch& watch) const {

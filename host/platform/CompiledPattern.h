@@ -25,15 +25,17 @@ class CompiledPattern : public IPattern {
 
   const std::string& text() const { return m_text; }
   PatternEnd match(std::string_view text, std::size_t from, PatternMatch& match) const override;
+  bool matchSurely(std::string_view text, std::size_t from, PatternMatch& match) const override;
 
  private:
   int search(std::string_view text, std::size_t from) const;
   class Watch;
   static int lookAtWatch(pcre2_callout_block*, void* watch);
   int searchTimed(std::string_view text, std::size_t from) const;
-  /// Nothing when a part cannot be decided by itself, or the last one is left: there, at `from`,
-  /// the search has to go on.
-  std::optional<int> searchParts(std::string_view text, std::size_t& from, Watch& watch) const;
+  /// Searches as far as more than `rest` is left. Nothing when a part cannot be decided by itself,
+  /// or that end has been reached: there, at `from`, the search has to go on.
+  std::optional<int> searchParts(std::string_view text, std::size_t& from, std::size_t rest,
+                                 Watch& watch) const;
   int searchWatched(std::string_view text, std::size_t from, Watch& watch) const;
   int run(const pcre2_code* code, std::uint32_t stepLimit, std::string_view text, std::size_t from,
           std::uint32_t options = 0) const;

@@ -83,6 +83,7 @@ constexpr KnownProperty Known[] = {
     {"HeaderInfoItsRepositoryPath", Extraction},
     {"MultiRecordDelimiter", Pattern},
     {"ListArchiveIsXml", Word},
+    {"ListArchiveStartsOver", Extraction},
     {"ListArchiveItsWorkingFile", Extraction},
     {"ListArchiveItsVersion", Extraction},
     {"ListArchiveItsMode", Extraction},

@@ -92,6 +92,7 @@ std::size_t OutputPipe::take(short events) {
     }
     if (count < room.size()) break;
   }
+  if (m_follower && taken != 0 && !m_forgets) (*m_follower)(m_lines.text());
   return taken;
 }
 

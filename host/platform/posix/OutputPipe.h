@@ -25,6 +25,8 @@ class OutputPipe {
   /// `events` is what `poll` has said of the descriptor, and not 0.
   std::size_t take(short events);
 
+  /// Who is told what has come, each time that there is more. Not owned.
+  void setFollower(const OutputFollower* follower) { m_follower = follower; }
   /// What comes from now on is read and forgotten.
   void forgetFurther() { m_forgets = true; }
 
@@ -48,6 +50,7 @@ class OutputPipe {
 
   LineList& m_lines;
   ChildWatch* m_watch;
+  const OutputFollower* m_follower = nullptr;
   FileDescriptor m_reader;
   FileDescriptor m_childEnd;
   int m_smallPieces = 0;
