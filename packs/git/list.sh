@@ -1,6 +1,7 @@
 # list.sh [--here]: a record a file, each with a zero byte behind it: mode, kind and object, then the
-# holder of a lock where there is one, a tab, the path below this folder. --here lists what the folder
-# came by, without asking the archive: mode, object and stage, a tab, the path.
+# holder of a lock where there is one, a tab, the path below this folder. After a record "again" all
+# begins anew. --here lists what the folder came by, without asking the archive: mode, object and
+# stage, a tab, the path.
 . "${0%/*}/common.sh"
 . "${0%/*}/locks.sh"
 
@@ -11,14 +12,9 @@
 begun=
 begin_listing() {
   answer=$(git rev-parse '@{upstream}^{commit}' --symbolic-full-name HEAD 2>/dev/null) || return 0
-  place=${TMPDIR:-/tmp}/veldra-cm-$$-listed
-  # What lies there already is not ours.
-  (umask 077 && set -C && : >"$place") 2>/dev/null || return 0
-  exec 3>"$place" 4<"$place"
-  rm -f -- "$place" &
   begun=${answer%%"$newline"*}
   branch=${answer#*"$newline"}
-  git ls-tree -r -z "$begun" >&3 2>/dev/null &
+  git ls-tree -r -z "$begun" 2>/dev/null &
   lister=$!
 }
 
@@ -39,20 +35,19 @@ if is_unchanged; then
   tip=$begun
 else
   receive || give_up
-  [ -n "$tip" ] || exit 0
 fi
-set -- git ls-tree -r -z "$tip"
-if [ -n "$begun" ] && wait "$lister" && [ "$begun" = "$tip" ]; then
-  exec <&4
-  set -- cat
+if [ -n "$begun" ]; then
+  ! wait "$lister" || [ "$begun" != "$tip" ] || has_locks || exit 0
+  printf 'again\000'
 fi
+[ -n "$tip" ] || exit 0
 if has_locks; then
   list=$(scratch)
   trap 'rm -f "$list"' EXIT
   holders >"$list"
-  "$@" | tr '\n\000' '\001\n' |
+  git ls-tree -r -z "$tip" | tr '\n\000' '\001\n' |
     awk -v prefix="$(git rev-parse --show-prefix)" -f "${0%/*}/list.awk" "$list" - |
     tr '\n\001' '\000\n'
 else
-  exec "$@"
+  exec git ls-tree -r -z "$tip"
 fi
