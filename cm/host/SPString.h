@@ -29,8 +29,9 @@ class IPattern {
   /// that would need more than the engine's bounds ends as `GivenUp`, never in a hang.
   virtual PatternEnd match(std::string_view text, std::size_t from, PatternMatch& match) const = 0;
   /// For a text that is still growing: true when there is a match, and the same one would be the
-  /// first whatever follows. False when that is not known, or not yet.
-  virtual bool matchSurely(std::string_view text, std::size_t from, PatternMatch& match) const {
+  /// first whatever follows. False when that is not known, or not yet; `from` then stands where the
+  /// search may go on when the text has grown.
+  virtual bool matchSurely(std::string_view text, std::size_t& from, PatternMatch& match) const {
     (void)text, (void)from, (void)match;
     return false;
   }

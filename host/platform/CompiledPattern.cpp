@@ -134,7 +134,7 @@ std::optional<int> CompiledPattern::searchParts(std::string_view text, std::size
   return std::nullopt;
 }
 
-bool CompiledPattern::matchSurely(std::string_view text, std::size_t from,
+bool CompiledPattern::matchSurely(std::string_view text, std::size_t& from,
                                   PatternMatch& match) const {
   match.captures.clear();
   match.end = PatternEnd::NoMatch;

@@ -25,7 +25,7 @@ class CompiledPattern : public IPattern {
 
   const std::string& text() const { return m_text; }
   PatternEnd match(std::string_view text, std::size_t from, PatternMatch& match) const override;
-  bool matchSurely(std::string_view text, std::size_t from, PatternMatch& match) const override;
+  bool matchSurely(std::string_view text, std::size_t& from, PatternMatch& match) const override;
 
  private:
   int search(std::string_view text, std::size_t from) const;

@@ -53,7 +53,7 @@ void append(const Json& part, std::string_view lineStart, std::string& text) {
   }
 }
 
-/// A unit as the library would write it, which for many thousands takes longer than to list them.
+/// A unit as the library would write it. Many thousands would take that longer than listing them.
 void append(const UnitRecord& unit, std::string& text) {
   text += "{\n      \"path\": ";
   appendText(unit.path, text);
