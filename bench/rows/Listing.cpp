@@ -52,7 +52,7 @@ double secondsOfPerl(const std::string& script, const std::string& file) {
 }
 
 void readInto(CMArchiveItemListWrapper& items, const std::string& text) {
-  const ArchiveListing reader;
+  ArchiveListing reader;
   if (reader.read(text, 1, items.list()) != 1 || items.list().size() != RecordCount) std::abort();
 }
 

@@ -22,7 +22,7 @@ Host* installedHost() {
 
 void traceLine(const char* file, int line, std::string_view text, std::string_view value) {
   LogTrace* log = theHost != nullptr ? theHost->trace() : nullptr;
-  if (log == nullptr) return;
+  if (log == nullptr || !log->isOn()) return;
   if (value.empty()) {
     log->write(LogTrace::Log::Min, text, file, line);
     return;

@@ -10,6 +10,8 @@ class LogTrace {
   enum class Log : int { Min = 4 };  ///< Log number of the module's steps.
 
   virtual ~LogTrace() = default;
+  /// False when nobody would see a line; then none need be made.
+  virtual bool isOn() const { return true; }
   /// One line, with the source file and line that wrote it.
   virtual void write(Log log, std::string_view text, const char* file, int line) = 0;
 };

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -32,6 +33,8 @@ class VELDRA_CM_EXPORT LineList {
   /// how to provide it.
   std::span<char> untouched();
 
+  /// What has come so far; valid until more comes.
+  std::string_view text() const { return std::string_view(m_text).substr(0, m_size); }
   bool empty() const { return m_size == 0; }
   /// All lines together, in bytes.
   std::size_t size() const { return m_size; }
@@ -47,6 +50,9 @@ class VELDRA_CM_EXPORT LineList {
 
 /// The closed list of ways in which a child process ends.
 enum class ProcessEnd { Running, CouldNotStart, Exited, Crashed, TimedOut, Cancelled };
+
+/// Told all that a child has printed on its output so far, each time that there is more.
+using OutputFollower = std::function<void(std::string_view soFar)>;
 
 /// Base of the runners.
 class ThreadObject {
@@ -69,6 +75,10 @@ class RunThread : public ThreadObject {
   /// Waits up to `timeout` milliseconds for the child to end. 0, or `WaitTimeout`; then the child
   /// and everything that it started have been ended. Both lists are complete afterwards.
   virtual std::uint32_t getStatus(std::uint32_t timeout) = 0;
+
+  /// Before `getStatus`: the follower is called while that waits, on its thread, and may throw. A
+  /// host need not do that; the output is complete in the end in any case.
+  virtual void setOutputFollower(OutputFollower follower) { (void)follower; }
 
   virtual LineList& errorLines() = 0;
   /// Empty for a runner whose output goes to a file. Error lines stand for the result of a command

@@ -56,26 +56,43 @@ bool SPString::m(const std::string& pattern, const std::string& options,
 
 void SPString::split(const std::string& pattern,
                      const std::function<void(std::string_view)>& take) const {
-  const IPattern* const compiled = compile(pattern, "");
-  std::size_t pieceStart = 0;
-  std::size_t from = 0;
+  PatternSplitter(pattern).finish(m_text, take);
+}
+
+template <class Find>
+void PatternSplitter::advance(std::string_view text, const Take& take, Find find) {
   PatternMatch match;
-  while (compiled != nullptr && from <= m_text.size() &&
-         matches(*compiled, pattern, m_text, from, match)) {
-    const auto start = static_cast<std::size_t>(match.captures[0].data() - m_text.data());
+  while (m_from <= text.size() && find(match)) {
+    const auto start = static_cast<std::size_t>(match.captures[0].data() - text.data());
     const std::size_t length = match.captures[0].size();
     if (length == 0) {
       // An empty match separates two characters, but makes no empty piece at either end.
-      if (start >= m_text.size()) break;
-      from = start + 1;
-      if (start == pieceStart) continue;
+      if (start >= text.size()) break;
+      m_from = start + 1;
+      if (start == m_pieceStart) continue;
     } else {
-      from = start + length;
+      m_from = start + length;
     }
-    take(m_text.substr(pieceStart, start - pieceStart));
-    pieceStart = start + length;
+    const std::string_view piece = text.substr(m_pieceStart, start - m_pieceStart);
+    m_pieceStart = start + length;
+    take(piece);
   }
-  if (pieceStart < m_text.size()) take(m_text.substr(pieceStart));
+}
+
+void PatternSplitter::more(std::string_view text, const Take& take) {
+  const IPattern* const compiled = compile(m_pattern, "");
+  if (compiled == nullptr) return;
+  advance(text, take,
+          [&](PatternMatch& match) { return compiled->matchSurely(text, m_from, match); });
+}
+
+void PatternSplitter::finish(std::string_view text, const Take& take) {
+  if (const IPattern* const compiled = compile(m_pattern, "")) {
+    advance(text, take, [&](PatternMatch& match) {
+      return matches(*compiled, m_pattern, text, m_from, match);
+    });
+  }
+  if (m_pieceStart < text.size()) take(text.substr(m_pieceStart));
 }
 
 }  // namespace veldra

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace veldra {
@@ -27,6 +28,13 @@ class IPattern {
   /// Finds the first match at or after `from` and fills `match` (its memory is reused). A match
   /// that would need more than the engine's bounds ends as `GivenUp`, never in a hang.
   virtual PatternEnd match(std::string_view text, std::size_t from, PatternMatch& match) const = 0;
+  /// For a text that is still growing: true when there is a match, and the same one would be the
+  /// first whatever follows. False when that is not known, or not yet; `from` then stands where the
+  /// search may go on when the text has grown.
+  virtual bool matchSurely(std::string_view text, std::size_t& from, PatternMatch& match) const {
+    (void)text, (void)from, (void)match;
+    return false;
+  }
 };
 
 /// The host's pattern service: Perl-style regular expressions over bytes. Every host has one.
@@ -58,6 +66,28 @@ class SPString {
 
  private:
   std::string_view m_text;
+};
+
+/// Splits a text that is still growing, as `SPString::split` would split it in the end.
+class PatternSplitter {
+ public:
+  using Take = std::function<void(std::string_view)>;
+  explicit PatternSplitter(std::string pattern) : m_pattern(std::move(pattern)) {}
+
+  /// Hands on the pieces that are sure by now. Each text begins with the one before.
+  void more(std::string_view text, const Take& take);
+  /// The same with the whole text, to its end.
+  void finish(std::string_view text, const Take& take);
+  /// How much of the text is done with.
+  std::size_t done() const { return m_pieceStart; }
+
+ private:
+  template <class Find>
+  void advance(std::string_view text, const Take& take, Find find);
+
+  std::string m_pattern;
+  std::size_t m_pieceStart = 0;
+  std::size_t m_from = 0;
 };
 
 }  // namespace veldra

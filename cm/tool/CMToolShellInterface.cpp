@@ -93,12 +93,13 @@ struct RunResult {
 };
 
 RunResult runAndCollect(IProcesses& processes, const RedirectedCommand& command,
-                        std::string& output, std::string& errorText) {
+                        OutputFollower follower, std::string& output, std::string& errorText) {
   const std::unique_ptr<IOutputFile> file =
       command.isRedirected ? processes.createOutputFile(command.fileName) : nullptr;
   const std::unique_ptr<RunThread> runner =
       command.isRedirected ? processes.createRunThreadRedirect(command.line, file.get())
                            : processes.createRunThread(command.line);
+  if (follower) runner->setOutputFollower(std::move(follower));
   RunResult result;
   result.wait = runner->getStatus(timeOut());
   const bool timedOut = result.wait == RunThread::WaitTimeout;
@@ -137,8 +138,8 @@ bool matchesProperty(const char* propertyName, const std::string& text) {
 
 }  // namespace
 
-void CMToolShellInterface::runCommand(const std::string& command, std::string& output,
-                                      std::string& errorText) {
+void CMToolShellInterface::runCommand(const std::string& command, OutputFollower follower,
+                                      std::string& output, std::string& errorText) {
   if (command.empty()) {
     debugEcho({"no command to execute\n"});
     return;
@@ -155,7 +156,7 @@ void CMToolShellInterface::runCommand(const std::string& command, std::string& o
   }
 
   const RedirectedCommand redirected(command);
-  RunResult run = runAndCollect(*processes, redirected, output, errorText);
+  RunResult run = runAndCollect(*processes, redirected, std::move(follower), output, errorText);
   m_end.failed = run.endedBadly;
   m_end.setAside = std::move(run.setAside);
   if (run.failed) {
@@ -183,7 +184,8 @@ bool CMToolShellInterface::tryCommand(const std::string& command, std::string& o
   ++m_commandCount;
   std::string printed;
   std::string errorText;
-  const RunResult run = runAndCollect(*processes, RedirectedCommand(command), printed, errorText);
+  const RunResult run =
+      runAndCollect(*processes, RedirectedCommand(command), {}, printed, errorText);
   if (run.failed || run.endedBadly || run.wait == RunThread::WaitTimeout ||
       matchesProperty(ErrorPattern, printed)) {
     debugEcho({"given up: ", command, "\n", errorText, printed, "\n"});
@@ -199,8 +201,9 @@ bool CMToolShellInterface::tryCommand(const std::string& command, std::string& o
 int CMToolShellInterface::Execute(const std::string& command, std::string& output,
                                   std::string& errorText, std::string /*workingDirectory*/) {
   m_end = CommandEnd();
-  const bool isWell =
-      inWorkingDirectory(errorText, [&] { runCommand(command, output, errorText); });
+  OutputFollower follower = std::exchange(m_follower, {});
+  const bool isWell = inWorkingDirectory(
+      errorText, [&] { runCommand(command, std::move(follower), output, errorText); });
   if (!isWell) echo(errorText);
   return isWell ? 1 : 0;
 }

@@ -2,7 +2,9 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 
+#include "cm/host/RunThread.h"
 #include "cm/tool/CMToolInterface.h"
 
 namespace veldra {
@@ -25,6 +27,10 @@ class VELDRA_CM_EXPORT CMToolShellInterface : public CMToolInterface {
   /// well. Otherwise nothing of what it said is told or kept.
   bool TryExecute(const std::string& command, std::string& output);
 
+  /// Who is told the output of the next command while it runs, where the host does that. Error
+  /// lines may still take its place in the end.
+  void followNextOutput(OutputFollower follower) { m_follower = std::move(follower); }
+
   const CommandEnd& lastCommandEnd() const { return m_end; }
   /// How many commands have been run so far.
   std::size_t commandCount() const { return m_commandCount; }
@@ -34,9 +40,11 @@ class VELDRA_CM_EXPORT CMToolShellInterface : public CMToolInterface {
   void checkCommandResults(const std::string& text);
 
  private:
-  void runCommand(const std::string& command, std::string& output, std::string& errorText);
+  void runCommand(const std::string& command, OutputFollower follower, std::string& output,
+                  std::string& errorText);
   bool tryCommand(const std::string& command, std::string& output);
 
+  OutputFollower m_follower;
   CommandEnd m_end;
   std::size_t m_commandCount = 0;
 };

@@ -1,17 +1,19 @@
 #include "cm/tool/ToolListing.h"
 
 #include <string>
+#include <string_view>
 
 #include "cm/core/CMArchive.h"
 #include "cm/host/IPN.h"
 #include "cm/templates/CMProperty.h"
 #include "cm/tool/ArchiveListing.h"
+#include "cm/tool/CMToolShellInterface.h"
 #include "cm/tool/ToolFrame.h"
 
 namespace veldra {
 
 int runListing(const ListingRow& row, CMArchiveItemList& items, ArgumentList& arguments) {
-  const ArchiveListing listing;
+  ArchiveListing listing;
   CMArchive archive{std::string()};
   const PushedArgument pushed(arguments, archive);
   UnitProgress progress(row.name, 1, 1, CMArchive::getMainArchive());
@@ -22,6 +24,8 @@ int runListing(const ListingRow& row, CMArchiveItemList& items, ArgumentList& ar
   int status = CMProperty::ExpandProperty(row.templateProperty, arguments, command, errorText);
   const int expanded = status;
   if (status == 1) {
+    theCMToolShellInterface().followNextOutput(
+        [&listing](std::string_view soFar) { listing.readAhead(soFar); });
     status = runTraced(command, row.traceBefore, row.traceAfter, output, errorText);
   }
   progress.endsByCommand(expanded, status);

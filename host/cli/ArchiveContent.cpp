@@ -1,5 +1,7 @@
 #include "host/cli/ArchiveContent.h"
 
+#include <utility>
+
 #include "cm/core/CMFacade.h"
 #include "cm/host/IPN.h"
 #include "cm/templates/CMProperty.h"
@@ -31,14 +33,6 @@ std::string reasonForNoRecords() {
   return {};
 }
 
-std::vector<UnitRecord> describeItems(const CMArchiveItemList& items) {
-  std::vector<UnitRecord> records;
-  for (const CMArchiveItem* item : items) {
-    if (item != nullptr) records.push_back(describeItem(*item));
-  }
-  return records;
-}
-
 }  // namespace
 
 std::string whyNotListed(Session& session, std::size_t tracesBefore,
@@ -52,7 +46,7 @@ std::string whyNotListed(Session& session, std::size_t tracesBefore,
   return reasonForNoRecords();
 }
 
-ArchiveContent listArchive(Session& session) {
+ArchiveContent listArchive(Session& session, const std::function<void(UnitRecord&)>& take) {
   CallArguments arguments = callArguments(
       {.projectDirectory = session.project().getProjectDirectory()}, session.options().dryRun);
   CMArchiveItemListWrapper items;
@@ -64,13 +58,21 @@ ArchiveContent listArchive(Session& session) {
   ArchiveContent content;
   // A provider is asked without a command.
   if (isListed && CMProperty::useSccCompliantTool() != 0) {
-    content.files = describeItems(items.list());
+    describeItems(items.list(), take);
     return content;
   }
   content.failure = whyNotListed(session, before, diagnostics);
   if (traces.size() == before) return content;
   content.commands = traces.back().commands;
-  content.files = describeItems(items.list());
+  describeItems(items.list(), take);
+  return content;
+}
+
+ArchiveContent listArchive(Session& session) {
+  std::vector<UnitRecord> files;
+  ArchiveContent content =
+      listArchive(session, [&files](UnitRecord& file) { files.push_back(std::move(file)); });
+  content.files = std::move(files);
   return content;
 }
 

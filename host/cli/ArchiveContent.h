@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,8 @@ struct ArchiveContent {
 };
 
 ArchiveContent listArchive(Session& session);
+/// The same for files that need not be kept: each is given to `take` instead.
+ArchiveContent listArchive(Session& session, const std::function<void(UnitRecord&)>& take);
 
 /// Why a listing of the archive came to nothing, or may lack something; empty when nothing speaks
 /// against it. `tracesBefore` is how many traces the session's progress had before.

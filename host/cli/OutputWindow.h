@@ -26,7 +26,13 @@ class OutputWindow : private std::streambuf, public std::ostream {
 
  private:
   std::streamsize xsputn(const char* text, std::streamsize size) override {
-    const std::string_view bytes(text, static_cast<std::size_t>(size));
+    std::string_view bytes(text, static_cast<std::size_t>(size));
+    // A flood that is neither shown nor kept need not be looked through, but a password may lie
+    // across the border.
+    const std::size_t unfilled = m_room - m_kept.size();
+    if (m_shown == nullptr && unfilled < bytes.size()) {
+      bytes = bytes.substr(0, unfilled + LongestSecret);
+    }
     if (holdsSecret(bytes)) {
       put(withoutSecrets(bytes));
     } else {
@@ -49,6 +55,8 @@ class OutputWindow : private std::streambuf, public std::ostream {
     if (m_shown != nullptr) m_shown->flush();
     return 0;
   }
+
+  static constexpr std::size_t LongestSecret = 4096;
 
   std::ostream* m_shown;
   std::size_t m_room;

@@ -133,8 +133,14 @@ Project& Session::openProject(const std::string& directoryOrFile) {
   if (const std::optional<std::string> reason = m_host.open(directoryOrFile)) {
     throw CommandError(ExitCode::NothingDone, *reason);
   }
-  tellProblems(project().problems());
-  return project();
+  Project& opened = project();
+  const std::size_t told = opened.problemsSoFar().size();
+  tellProblems(opened.problemsSoFar());
+  opened.setLoadListener([this, &opened, told] {
+    const Problems& all = opened.problemsSoFar();
+    tellProblems({all.begin() + static_cast<std::ptrdiff_t>(told), all.end()});
+  });
+  return opened;
 }
 
 void Session::setWindow(WindowUse window) {

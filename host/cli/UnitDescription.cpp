@@ -1,7 +1,10 @@
 #include "host/cli/UnitDescription.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
+#include "cm/core/ArchiveShortPath.h"
 #include "host/model/PathNames.h"
 #include "host/model/UnitCore.h"
 
@@ -27,6 +30,33 @@ std::string modeOf(const CMArchiveItem& item) {
   }
 }
 
+/// Describes items. Most files of a list are of the same type as the one before.
+class ItemDescriber {
+ public:
+  UnitRecord describe(const CMArchiveItem& item) {
+    UnitRecord record{.path = m_shortPath.of(item, true),
+                      .name = item.getName(),
+                      .type = typeOf(item),
+                      .version = item.getVersion(),
+                      .mode = modeOf(item),
+                      .locker = item.getLocker()};
+    if (HostSeparator != '/') std::ranges::replace(record.path, HostSeparator, '/');
+    return record;
+  }
+
+ private:
+  const std::string& typeOf(const CMArchiveItem& item) {
+    std::string suffix = item.getSuffix();
+    if (!m_type || suffix != m_suffix) m_type = item.getType();
+    m_suffix = std::move(suffix);
+    return *m_type;
+  }
+
+  ArchiveShortPath m_shortPath;
+  std::string m_suffix;
+  std::optional<std::string> m_type;
+};
+
 }  // namespace
 
 std::string projectPath(IUnit& unit) {
@@ -47,14 +77,16 @@ UnitRecord describeUnit(IUnit& unit, const CMHeaderReader& headers) {
 }
 
 UnitRecord describeItem(const CMArchiveItem& item) {
-  UnitRecord record{.path = item.getNameNShortPath(true),
-                    .name = item.getName(),
-                    .type = item.getType(),
-                    .version = item.getVersion(),
-                    .mode = modeOf(item),
-                    .locker = item.getLocker()};
-  if (HostSeparator != '/') std::ranges::replace(record.path, HostSeparator, '/');
-  return record;
+  return ItemDescriber().describe(item);
+}
+
+void describeItems(const CMArchiveItemList& items, const std::function<void(UnitRecord&)>& take) {
+  ItemDescriber describer;
+  for (const CMArchiveItem* item : items) {
+    if (item == nullptr) continue;
+    UnitRecord record = describer.describe(*item);
+    take(record);
+  }
 }
 
 }  // namespace veldra::host::cli

@@ -92,6 +92,14 @@ std::string Project::getFileExtension() const {
 
 // --- units ---
 
+void Project::needUnits() const {
+  if (!m_unitSource) return;
+  // That they are not there yet is nothing that anyone can see from outside.
+  auto& self = const_cast<Project&>(*this);
+  std::exchange(self.m_unitSource, {})(self);
+  if (m_loadListener) m_loadListener();
+}
+
 void Project::expectUnits(std::size_t count) {
   m_files.reserve(m_files.size() + count);
   m_units.reserve(m_units.size() + count);
@@ -261,6 +269,7 @@ ModelText* Project::contentToSave() {
 
 Problems Project::saveModified() {
   Problems failed;
+  // What is not loaded has not been changed.
   for (UnitCore* unit : m_files) {
     Problem problem;
     if (unit->isModified() && !unit->save(problem)) failed.push_back(std::move(problem));
@@ -269,7 +278,7 @@ Problems Project::saveModified() {
 }
 
 void Project::checkContents() {
-  for (UnitCore* unit : m_files) {
+  for (UnitCore* unit : files()) {
     if (unit == this || !unit->isOwnFile() || unit->record().stub) continue;
     const Result<std::string> bytes = readFile(unit->fullFileName(), ModelFileLimit);
     Problem problem;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -87,10 +88,24 @@ class Project : public UnitOf<IProject> {
   bool isLoadFromDM() const override { return false; }
 
   // --- units ---
+  // They are loaded when somebody first asks for one of them: much can be done with a project's
+  // settings alone, and reading the files of a large model takes longer than that.
+  /// What is to load them; it adds them, and the problems with their files.
+  void setUnitSource(std::function<void(Project&)> load) { m_unitSource = std::move(load); }
+  /// Called when the units have been loaded.
+  void setLoadListener(std::function<void()> listener) { m_loadListener = std::move(listener); }
+  /// Loads them unless that is done. For one thread, as everything here.
+  void needUnits() const;
   /// The project itself and every unit and controlled file that has a file, in the order of the
   /// folders.
-  const std::vector<UnitCore*>& files() const { return m_files; }
-  UnitCore* unitByFile(std::string_view fileName) const { return m_index.find(fileName); }
+  const std::vector<UnitCore*>& files() const {
+    needUnits();
+    return m_files;
+  }
+  UnitCore* unitByFile(std::string_view fileName) const {
+    needUnits();
+    return m_index.find(fileName);
+  }
   /// The units whose `qualifiedName` this is; names need not be unique.
   std::vector<UnitCore*> unitsByName(std::string_view qualifiedName) const;
   /// Makes room for so many more units at once.
@@ -115,7 +130,10 @@ class Project : public UnitOf<IProject> {
   /// that have no unit of their own.
   UnitCore& ownerOf(Folder& folder);
 
-  FolderTree& folders() { return *m_folders; }
+  FolderTree& folders() {
+    needUnits();
+    return *m_folders;
+  }
   FileTypes& types() { return m_types; }
   const FileTypes& types() const { return m_types; }
   ModelUndo& undo() { return m_undo; }
@@ -137,7 +155,13 @@ class Project : public UnitOf<IProject> {
   [[nodiscard]] bool reloadFile(Problem& problem);
 
   // --- problems and saving ---
-  const Problems& problems() const { return m_problems; }
+  /// Everything that is wrong with the project's files.
+  const Problems& problems() const {
+    needUnits();
+    return m_problems;
+  }
+  /// The same, of the files that have been read: at first those of the project's own.
+  const Problems& problemsSoFar() const { return m_problems; }
   /// A problem that is known already is not added again.
   void addProblem(const Problem& problem);
   /// Writes every unit that is marked as modified, the project included. What could not be written
@@ -170,6 +194,8 @@ class Project : public UnitOf<IProject> {
   Problems m_problems;
   std::unordered_set<std::string> m_knownProblems;
   ModelUndo m_undo;
+  std::function<void(Project&)> m_unitSource;  ///< Empty as soon as it is used.
+  std::function<void()> m_loadListener;
   ProjectComponent m_component;
   ProjectPart<IConfiguration> m_configuration;
 };

@@ -145,7 +145,7 @@ void Project::moveFolderOf(UnitCore& unit, const std::string& relative,
 }
 
 void Project::moveFolder(const std::string& relative, const std::string& newRelative) {
-  UnitCore* const package = m_folders->below(relative).owner;
+  UnitCore* const package = folders().below(relative).owner;
   for (UnitCore* unit : m_files) {
     if (unit != this) moveFolderOf(*unit, relative, newRelative);
   }

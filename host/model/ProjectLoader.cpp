@@ -79,7 +79,8 @@ std::unique_ptr<Project> loadProject(const std::string& projectFile, PropertyLay
     project->addProblem(problem);
   }
   if (std::optional<Problem> left = leftBehindCopy(projectFile)) project->addProblem(*left);
-  loadUnits(*project, headCacheFile(layers.files().cacheDirectory, projectFile));
+  project->setUnitSource([cache = headCacheFile(layers.files().cacheDirectory, projectFile)](
+                             Project& loaded) { loadUnits(loaded, cache); });
   return project;
 }
 

@@ -12,9 +12,9 @@ namespace veldra::host {
 /// reason and the way out in `error`, when there is none or more than one.
 std::string findProjectFile(const std::string& directoryOrFile, std::string& error);
 
-/// Loads a project with its units. Null, with the reason and the way out in `error`, only when the
-/// project file itself cannot be read; whatever else is wrong becomes one of the project's
-/// problems.
+/// Opens a project; its units are loaded when they are needed. Null, with the reason and the way
+/// out in `error`, only when the project file itself cannot be read; whatever else is wrong becomes
+/// one of the project's problems.
 std::unique_ptr<Project> loadProject(const std::string& projectFile, PropertyLayers& layers,
                                      std::string& error);
 

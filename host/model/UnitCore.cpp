@@ -77,6 +77,11 @@ void UnitCore::takePlaceOf(UnitCore& former) {
   former.m_children.clear();
 }
 
+const std::vector<UnitCore*>& UnitCore::children() const {
+  m_project.needUnits();
+  return m_children;
+}
+
 std::string UnitCore::qualifiedName() const {
   std::string name = m_record.name;
   for (const UnitCore* up = m_owner; up && up != &m_project; up = up->m_owner) {

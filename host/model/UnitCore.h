@@ -74,7 +74,7 @@ class UnitCore {
   void leaveOwner();
   /// Takes the place of another unit in its owner's list, and its children.
   void takePlaceOf(UnitCore& former);
-  const std::vector<UnitCore*>& children() const { return m_children; }
+  const std::vector<UnitCore*>& children() const;
   /// The names from the project's outermost package down to this unit, joined by "::".
   std::string qualifiedName() const;
   /// The nearest unit with a file, beginning with this one.

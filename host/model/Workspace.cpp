@@ -9,7 +9,7 @@ namespace {
 
 UnitRecord workspaceRecord(Project& project) {
   UnitRecord record;
-  record.folder = &project.folders().root();
+  record.folder = project.record().folder;
   record.unitType = "Workspace";
   record.name = project.record().name;
   return record;

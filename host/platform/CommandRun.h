@@ -22,6 +22,7 @@ struct ChildStatus {
 class CommandRun : public RunThread {
  public:
   std::uint32_t getStatus(std::uint32_t timeout) override;
+  void setOutputFollower(OutputFollower follower) override { m_follower = std::move(follower); }
   LineList& errorLines() override { return m_errorLines; }
   LineList& outputLines() override { return m_outputLines; }
   ProcessEnd end() const override { return m_end; }
@@ -52,6 +53,8 @@ class CommandRun : public RunThread {
   virtual std::string crashText(int number) const = 0;
 
   const ChildSettings& settings() const { return m_settings; }
+  /// Empty when nobody follows the output.
+  const OutputFollower& follower() const { return m_follower; }
   LineList& output() { return m_outputLines; }
   LineList& errors() { return m_errorLines; }
   /// "'NAME' could not be started: REASON."
@@ -68,6 +71,7 @@ class CommandRun : public RunThread {
   std::string m_command;
   const ChildSettings& m_settings;
   std::string m_name;
+  OutputFollower m_follower;
   LineList m_outputLines;
   LineList m_errorLines;
   ProcessEnd m_end = ProcessEnd::Running;

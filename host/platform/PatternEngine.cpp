@@ -1,5 +1,8 @@
 #include "host/platform/PatternEngine.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
 #include <list>
 #include <stdexcept>
 #include <unordered_map>
@@ -10,7 +13,9 @@ namespace veldra::host {
 
 namespace {
 
-constexpr std::size_t MostPatterns = 1000;
+// Those in front keep their places when they are asked for again.
+constexpr std::ptrdiff_t Recent = 8;
+constexpr std::size_t MostPatterns = 1000 + Recent;
 
 /// What a compiled pattern is found by. The key of an entry points into that entry's own texts.
 struct Key {
@@ -37,6 +42,11 @@ struct Entry {
 class PatternEngine::Cache {
  public:
   const IPattern* find(const Key& key) {
+    // A listing asks for the same few by turns, a hundred thousand times.
+    const auto recentEnd = std::next(m_entries.begin(), std::min(Recent, std::ssize(m_entries)));
+    const auto recent = std::find_if(m_entries.begin(), recentEnd,
+                                     [&](const Entry& entry) { return entry.key() == key; });
+    if (recent != recentEnd) return recent->compiled.get();
     const auto found = m_byKey.find(key);
     if (found == m_byKey.end()) return nullptr;
     m_entries.splice(m_entries.begin(), m_entries, found->second);

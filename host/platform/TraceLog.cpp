@@ -35,7 +35,7 @@ TraceLog::TraceLog(const std::string& path, Observer observer) : m_observer(std:
 void TraceLog::write(Log, std::string_view text, const char* file, int line) {
   try {
     const std::lock_guard lock(m_mutex);
-    if (!m_file.is_open() && !m_observer) return;
+    if (!isOn()) return;
     const std::tm now = localTimeNow();
     std::string entry = dateText(now) + ' ' + timeText(now) + ' ';
     entry.append(baseName(file == nullptr ? "" : file));

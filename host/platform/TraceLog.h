@@ -25,6 +25,7 @@ class TraceLog : public LogTrace {
   /// Why the file cannot be written, for the user. Empty when it can, or when there is none.
   [[nodiscard]] const std::string& error() const { return m_error; }
 
+  bool isOn() const override { return m_file.is_open() || m_observer; }
   void write(Log log, std::string_view text, const char* file, int line) override;
 
  private:

@@ -82,6 +82,8 @@ constexpr KnownProperty Known[] = {
     // Reading what a tool prints.
     {"HeaderInfoItsRepositoryPath", Extraction},
     {"MultiRecordDelimiter", Pattern},
+    {"ListArchiveIsXml", Word},
+    {"ListArchiveStartsOver", Extraction},
     {"ListArchiveItsWorkingFile", Extraction},
     {"ListArchiveItsVersion", Extraction},
     {"ListArchiveItsMode", Extraction},

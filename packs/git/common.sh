@@ -20,11 +20,15 @@ configure() {
 configure color.ui false
 configure core.askPass ''
 
-# Every start of git costs time, so what is asked often is asked once.
-settings=$newline$(git config --get-regexp '^(core|branch|remote|user|veldra)\.' || :)$newline
+# read_settings: every start of git costs time, so what is asked often is asked once.
+settings=
+read_settings() {
+  settings=$newline$(git config --get-regexp '^(core|branch|remote|user|veldra)\.' || :)$newline
+}
 
 # setting NAME: sets $value; the parts of a name that git does not tell apart are in lower case.
 setting() {
+  [ -n "$settings" ] || read_settings
   value=
   case $settings in
     *"$newline$1 "*)
@@ -34,11 +38,13 @@ setting() {
   esac
 }
 
-# An ssh that may not ask fails at once instead of waiting.
-if [ -z "${GIT_SSH_COMMAND:-${GIT_SSH:-}}" ]; then
+# silence_ssh: one that may not ask fails at once instead of waiting. To be called before git reaches
+# for the archive.
+silence_ssh() {
+  [ -z "${GIT_SSH_COMMAND:-${GIT_SSH:-}}" ] || return 0
   setting core.sshcommand
   export GIT_SSH_COMMAND="${value:-ssh} -o BatchMode=yes"
-fi
+}
 
 # on UNITS COMMAND...: a git command that takes the paths from its input.
 on() {
@@ -48,9 +54,11 @@ on() {
 }
 
 # open_repository: sets $remote (empty: the folder is the archive itself) and $target, the branch
-# there.
+# there; also $branch, that of this folder, unless it is known.
+branch=
 open_repository() {
-  branch=$(git symbolic-ref -q HEAD 2>/dev/null) || {
+  silence_ssh
+  [ -n "$branch" ] || branch=$(git symbolic-ref -q HEAD 2>/dev/null) || {
     git rev-parse --git-dir >/dev/null 2>&1 ||
       fail "The folder is not connected to an archive; connect it first."
     fail "No branch is checked out in this folder; git switch BRANCH leads back to one."

@@ -19,6 +19,7 @@ is_clone_of() {
 }
 
 clone() {
+  silence_ssh
   new=$(mktemp -d "$here/.veldra-clone-XXXXXX")
   trap 'rm -rf "$new"' EXIT
   run git clone -q --no-checkout -- "$archive" "$new/it" || give_up
@@ -38,7 +39,7 @@ else
   clone
 fi
 
-settings=$newline$(git config --get-regexp '^(branch|remote|user|veldra)\.' || :)$newline
+read_settings
 open_repository
 receive || give_up
 if [ "$(git config veldra.connected || :)" != true ]; then

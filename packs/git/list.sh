@@ -1,25 +1,53 @@
 # list.sh [--here]: a record a file, each with a zero byte behind it: mode, kind and object, then the
-# holder of a lock where there is one, a tab, the path below this folder. --here lists what the folder
-# came by, without asking the archive.
+# holder of a lock where there is one, a tab, the path below this folder. After a record "again" all
+# begins anew. --here lists what the folder came by, without asking the archive: mode, object and
+# stage, a tab, the path.
 . "${0%/*}/common.sh"
 . "${0%/*}/locks.sh"
 
-if [ "${1:-}" = --here ]; then
-  git ls-files --stage -z --abbrev=12 | tr '\n\000' '\001\n' |
-    sed 's/^\([0-7]*\) \([0-9a-f]*\) [0-3]/\1 blob \2/' | tr '\n\001' '\000\n'
-  exit
-fi
+[ "${1:-}" != --here ] || exec git ls-files --stage -z
 
+# begin_listing: mostly the archive holds what it held when it was asked last, so that is listed while
+# it is asked again. Sets $begun to that commit, and $branch.
+begun=
+begin_listing() {
+  answer=$(git rev-parse '@{upstream}^{commit}' --symbolic-full-name HEAD 2>/dev/null) || return 0
+  begun=${answer%%"$newline"*}
+  branch=${answer#*"$newline"}
+  git ls-tree -r -z "$begun" 2>/dev/null &
+  lister=$!
+}
+
+# is_unchanged: whether the archive still holds what is being listed.
+is_unchanged() {
+  [ -n "$begun" ] && [ -n "$remote" ] && [ -z "${target##refs/heads/*}" ] || return
+  run git ls-remote -q --heads -- "$remote" "$target" || give_up
+  received=yes
+  case $newline$answer$newline in
+    *"$newline$begun	$target$newline"*) ;;
+    *) return 1 ;;
+  esac
+}
+
+begin_listing
 open_repository
-receive || give_up
+if is_unchanged; then
+  tip=$begun
+else
+  receive || give_up
+fi
+if [ -n "$begun" ]; then
+  ! wait "$lister" || [ "$begun" != "$tip" ] || has_locks || exit 0
+  printf 'again\000'
+fi
 [ -n "$tip" ] || exit 0
 if has_locks; then
   list=$(scratch)
   trap 'rm -f "$list"' EXIT
   holders >"$list"
-  git ls-tree -r -z --abbrev=12 "$tip" | tr '\n\000' '\001\n' |
+  git ls-tree -r -z "$tip" | tr '\n\000' '\001\n' |
     awk -v prefix="$(git rev-parse --show-prefix)" -f "${0%/*}/list.awk" "$list" - |
     tr '\n\001' '\000\n'
 else
-  exec git ls-tree -r -z --abbrev=12 "$tip"
+  exec git ls-tree -r -z "$tip"
 fi

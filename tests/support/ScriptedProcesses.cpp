@@ -32,9 +32,14 @@ class ScriptedRunThread : public RunThread {
 
   std::uint32_t getStatus(std::uint32_t timeout) override {
     m_processes.runs.back().timeout = m_timeout = timeout;
+    const std::string_view output = m_output.text();
+    for (std::size_t size = 0; m_follower && size <= output.size(); size += 11) {
+      m_follower(output.substr(0, size));
+    }
     if (m_reply.effect) m_reply.effect();
     return m_reply.timesOut ? WaitTimeout : 0;
   }
+  void setOutputFollower(OutputFollower follower) override { m_follower = std::move(follower); }
   LineList& errorLines() override { return m_errors; }
   LineList& outputLines() override { return m_output; }
   ProcessEnd end() const override { return m_reply.timesOut ? ProcessEnd::TimedOut : m_reply.end; }
@@ -44,6 +49,7 @@ class ScriptedRunThread : public RunThread {
   ScriptedProcesses& m_processes;
   std::uint32_t m_timeout;
   Reply m_reply;
+  OutputFollower m_follower;
   LineList m_errors;
   LineList m_output;
 };

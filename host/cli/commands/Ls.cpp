@@ -7,27 +7,36 @@
 
 namespace veldra::host::cli {
 
+namespace {
+
+ExitCode exitCodeOf(const ArchiveContent& content, std::size_t fileCount) {
+  if (wasInterrupted()) return ExitCode::Interrupted;
+  if (content.failure.empty()) return ExitCode::AllDone;
+  return fileCount == 0 ? ExitCode::NothingDone : ExitCode::SomeFailed;
+}
+
+}  // namespace
+
 ExitCode runLs(const Invocation& invocation) {
+  const Options& options = invocation.options;
   Console& console = invocation.console;
   Session session(invocation);
   session.openProject();
-  ArchiveContent content = listArchive(session);
-  if (invocation.options.dryRun && !content.commands.empty()) {
+  JsonReport document(invocation.command.name, console.out);
+  const ArchiveContent content =
+      options.json ? listArchive(session, [&](const UnitRecord& file) { document.add(file); })
+                   : listArchive(session);
+  if (options.dryRun && !content.commands.empty()) {
     printCommandPlan(invocation, {}, content.commands);
     return ExitCode::AllDone;
   }
-  const Report report{.command = invocation.command.name,
-                      .units = std::move(content.files),
-                      .message = content.failure};
-  if (invocation.options.json) {
-    printJson(report, console.out);
-  } else if (!report.units.empty()) {
-    printListing(report.units, console.out);
+  if (options.json) {
+    document.end(content.failure);
+  } else if (!content.files.empty()) {
+    printListing(content.files, console.out);
   }
-  if (!report.message.empty()) console.err << linesForPeople(report.message) << '\n';
-  if (wasInterrupted()) return ExitCode::Interrupted;
-  if (report.message.empty()) return ExitCode::AllDone;
-  return report.units.empty() ? ExitCode::NothingDone : ExitCode::SomeFailed;
+  if (!content.failure.empty()) console.err << linesForPeople(content.failure) << '\n';
+  return exitCodeOf(content, content.files.size() + document.unitCount());
 }
 
 }  // namespace veldra::host::cli

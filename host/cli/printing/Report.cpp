@@ -1,6 +1,7 @@
 #include "host/cli/printing/Report.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <string_view>
 
 #include "host/cli/printing/BytesAsText.h"
@@ -10,6 +11,8 @@ namespace veldra::host::cli {
 namespace {
 
 using Json = nlohmann::ordered_json;
+
+constexpr std::size_t PrintedAtOnce = std::size_t{1} << 16;
 
 Json jsonOf(const UnitPlan& plan) {
   Json commands = Json::array();
@@ -25,29 +28,58 @@ Json jsonOf(const UnitPlan& plan) {
   return json;
 }
 
-Json jsonOf(const UnitRecord& unit) {
-  Json json;
-  json["path"] = jsonText(unit.path);
-  json["name"] = jsonText(unit.name);
-  json["type"] = jsonText(unit.type);
-  json["version"] = jsonText(unit.version);
-  json["mode"] = unit.mode;
-  json["locker"] = jsonText(unit.locker);
-  if (!unit.state.empty()) json["state"] = unit.state;
-  json["result"] = resultWord(unit.result);
-  json["message"] = jsonText(unit.message);
-  if (unit.result == UnitResult::Planned) json["plan"] = jsonOf(unit.plan);
-  return json;
+/// Whether a text stands in a document as it is. Without a way out in the middle, because this
+/// takes several characters at once.
+bool isPlain(std::string_view bytes) {
+  bool plain = true;
+  for (const char c : bytes) plain &= (c >= ' ') & (c <= '~') & (c != '"') & (c != '\\');
+  return plain;
 }
 
-/// Prints a part of a document whose lines begin with `lineStart`.
-void printInside(const Json& part, std::string_view lineStart, std::ostream& out) {
-  const std::string text = part.dump(2);
-  std::size_t from = 0;
-  for (std::size_t end = 0; (end = text.find('\n', from)) != std::string::npos; from = end + 1) {
-    out << std::string_view(text).substr(from, end - from) << lineStart;
+/// What `jsonText` makes of the bytes, written out.
+void appendText(std::string_view bytes, std::string& text) {
+  if (isPlain(bytes)) {
+    text.append(1, '"').append(bytes).append(1, '"');
+  } else {
+    text += jsonText(std::string(bytes)).dump();
   }
-  out << std::string_view(text).substr(from);
+}
+
+/// A part of a document whose lines begin with `lineStart`.
+void append(const Json& part, std::string_view lineStart, std::string& text) {
+  for (const char c : part.dump(2)) {
+    text += c;
+    if (c == '\n') text += lineStart;
+  }
+}
+
+/// A unit as the library would write it. Many thousands would take that longer than listing them.
+void append(const UnitRecord& unit, std::string& text) {
+  text += "{\n      \"path\": ";
+  appendText(unit.path, text);
+  text += ",\n      \"name\": ";
+  appendText(unit.name, text);
+  text += ",\n      \"type\": ";
+  appendText(unit.type, text);
+  text += ",\n      \"version\": ";
+  appendText(unit.version, text);
+  text += ",\n      \"mode\": ";
+  appendText(unit.mode, text);
+  text += ",\n      \"locker\": ";
+  appendText(unit.locker, text);
+  if (!unit.state.empty()) {
+    text += ",\n      \"state\": ";
+    appendText(unit.state, text);
+  }
+  text += ",\n      \"result\": ";
+  appendText(resultWord(unit.result), text);
+  text += ",\n      \"message\": ";
+  appendText(unit.message, text);
+  if (unit.result == UnitResult::Planned) {
+    text += ",\n      \"plan\": ";
+    append(jsonOf(unit.plan), "      ", text);
+  }
+  text += "\n    }";
 }
 
 }  // namespace
@@ -64,18 +96,33 @@ Json jsonText(const std::string& bytes) {
   return textForJson(bytes);
 }
 
-void printJson(const Report& report, std::ostream& out) {
-  // Unit by unit, because a document of many thousands takes longer to make than to print.
-  out << "{\n  \"command\": " << Json(report.command).dump() << ",\n  \"units\": [";
-  const char* separator = "\n    ";
-  for (const UnitRecord& unit : report.units) {
-    out << separator;
-    printInside(jsonOf(unit), "\n    ", out);
-    separator = ",\n    ";
+JsonReport::JsonReport(std::string_view command, std::ostream& out) : m_out(out) {
+  m_text = "{\n  \"command\": ";
+  appendText(command, m_text);
+  m_text += ",\n  \"units\": [";
+}
+
+void JsonReport::add(const UnitRecord& unit) {
+  m_text += m_unitCount++ == 0 ? "\n    " : ",\n    ";
+  append(unit, m_text);
+  if (m_text.size() < PrintedAtOnce) return;
+  m_out << m_text;
+  m_text.clear();
+}
+
+void JsonReport::end(std::string_view message) {
+  m_text += m_unitCount == 0 ? "]" : "\n  ]";
+  if (!message.empty()) {
+    m_text += ",\n  \"message\": ";
+    appendText(message, m_text);
   }
-  out << (report.units.empty() ? "]" : "\n  ]");
-  if (!report.message.empty()) out << ",\n  \"message\": " << jsonText(report.message).dump();
-  out << "\n}\n";
+  m_out << m_text << "\n}\n";
+}
+
+void printJson(const Report& report, std::ostream& out) {
+  JsonReport document(report.command, out);
+  for (const UnitRecord& unit : report.units) document.add(unit);
+  document.end(report.message);
 }
 
 void printJson(const Json& document, std::ostream& out) {

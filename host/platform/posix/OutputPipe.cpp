@@ -20,6 +20,9 @@ namespace {
 constexpr std::size_t FirstPipe = std::size_t{64} * 1024;
 constexpr std::size_t LargePipe = std::size_t{1024} * 1024;
 
+constexpr std::size_t SmallPiece = 4096;
+constexpr int ManySmallPieces = 64;
+
 }  // namespace
 
 int OutputPipe::open() {
@@ -51,6 +54,13 @@ bool OutputPipe::isFlood() const {
   return m_lines.size() > LargePipe;
 }
 
+/// Who writes line by line has its reader started for each of them, which takes longer than the
+/// writing; who writes more than this much at once would soon have to wait.
+void OutputPipe::noteSize(std::size_t count) {
+  if (count < SmallPiece && m_smallPieces < ManySmallPieces) ++m_smallPieces;
+  m_mayGather = m_smallPieces == ManySmallPieces && count < FirstPipe / 2;
+}
+
 std::span<char> OutputPipe::roomToRead() {
   static thread_local std::array<char, FirstPipe> forgotten;
   if (m_forgets) return forgotten;
@@ -76,11 +86,13 @@ std::size_t OutputPipe::take(short events) {
     if (m_watch) m_watch->printed({room.data(), count});
     if (!m_forgets) m_lines.took(count);
     taken += count;
+    noteSize(count);
     if (count >= FirstPipe && !std::exchange(m_enlarged, true)) {
       ::fcntl(m_reader.get(), F_SETPIPE_SZ, static_cast<int>(LargePipe));
     }
     if (count < room.size()) break;
   }
+  if (m_follower && taken != 0 && !m_forgets) (*m_follower)(m_lines.text());
   return taken;
 }
 

@@ -25,6 +25,8 @@ class OutputPipe {
   /// `events` is what `poll` has said of the descriptor, and not 0.
   std::size_t take(short events);
 
+  /// Who is told what has come, each time that there is more. Not owned.
+  void setFollower(const OutputFollower* follower) { m_follower = follower; }
   /// What comes from now on is read and forgotten.
   void forgetFurther() { m_forgets = true; }
 
@@ -37,15 +39,22 @@ class OutputPipe {
 
   bool isOpen() const { return static_cast<bool>(m_reader); }
   int descriptor() const { return m_reader.get(); }
+  /// True for a child that has printed many small pieces, when more of them had better come
+  /// together before they are taken.
+  bool mayGather() const { return isOpen() && m_mayGather; }
 
  private:
+  void noteSize(std::size_t count);
   std::span<char> roomToRead();
   void preferLargePages();
 
   LineList& m_lines;
   ChildWatch* m_watch;
+  const OutputFollower* m_follower = nullptr;
   FileDescriptor m_reader;
   FileDescriptor m_childEnd;
+  int m_smallPieces = 0;
+  bool m_mayGather = false;
   bool m_enlarged = false;
   bool m_forgets = false;
   bool m_insideLine = false;

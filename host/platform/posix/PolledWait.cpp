@@ -4,14 +4,22 @@
 #include <signal.h>
 
 #include <array>
+#include <chrono>
+#include <thread>
 
 namespace veldra::host {
+
+namespace {
+// In this time a child fills no pipe.
+constexpr std::chrono::milliseconds Gathering{1};
+}  // namespace
 
 PolledWait::PolledWait(ChildProcess& child, OutputPipe& output, OutputPipe& errors,
                        const CancelSignal& cancel, const ChildSettings& settings)
     : ChildWait(settings), m_child(child), m_output(output), m_errors(errors), m_cancel(cancel) {}
 
 void PolledWait::wait(int milliseconds) {
+  if (m_output.mayGather() || m_errors.mayGather()) std::this_thread::sleep_for(Gathering);
   // A negative descriptor is left out by `poll`.
   std::array<pollfd, 4> sources = {{{m_output.descriptor(), POLLIN, 0},
                                     {m_errors.descriptor(), POLLIN, 0},

@@ -46,6 +46,7 @@ Result<CommandRun::Ending> ProcessRunner::runChild(Start& start, std::uint32_t t
   ChildProcess child;
   if (const std::string reason = startChild(start, child, output, errors); !reason.empty())
     return Result<Ending>::failure(reason);
+  if (follower()) output.setFollower(&follower());
   PolledWait wait(child, output, errors, m_cancel, settings());
   const auto stop = wait.run(timeout);
   return Ending{stop, child.finish(wait.wasForced()), errors.endsInsideLine()};

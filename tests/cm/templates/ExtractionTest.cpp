@@ -1,3 +1,5 @@
+#include <string>
+
 #include "cm/host/IPN.h"
 #include "cm/host/SPString.h"
 #include "cm/templates/CMProperty.h"
@@ -6,6 +8,7 @@
 namespace veldra::test {
 namespace {
 
+using std::string_literals::operator""s;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -108,6 +111,32 @@ TEST_F(ExtractionTest, SplitAtAPattern) {
                              [&](std::string_view piece) { pieces.emplace_back(piece); });
     EXPECT_EQ(pieces, row.pieces);
   }
+}
+
+TEST_F(ExtractionTest, AGrowingTextIsSplitAsTheWholeOne) {
+  const std::string text =
+      "a--b---c\r\n<entry\n k>\n\n<entry\nl\0m\0"s + std::string(2000, 'x') + "--\n";
+  for (const char* pattern :
+       {"--", "-+", "", "\\n(?=.)", "<entry\\s+", "\\x00(?=.)", "(?m)^", "\\R", "-(?!-)", "x*",
+        "(?m)$", "\\Ga", "b.*", "(unclosed", "[^x]+\\z"}) {
+    std::vector<std::string> whole;
+    SPString(text).split(pattern, [&](std::string_view piece) { whole.emplace_back(piece); });
+    for (const std::size_t step : {1U, 7U, 1500U}) {
+      PatternSplitter splitter(pattern);
+      std::vector<std::string> pieces;
+      const auto take = [&](std::string_view piece) { pieces.emplace_back(piece); };
+      for (std::size_t size = 0; size < text.size(); size += step) {
+        splitter.more(text.substr(0, size), take);
+      }
+      splitter.finish(text, take);
+      EXPECT_EQ(pieces, whole) << pattern << " by " << step;
+    }
+  }
+  PatternSplitter splitter("\\n(?=.)");
+  std::vector<std::string> early;
+  splitter.more("a\nb\n", [&](std::string_view piece) { early.emplace_back(piece); });
+  EXPECT_THAT(early, ElementsAre("a"));
+  EXPECT_EQ(splitter.done(), 2U);
 }
 
 TEST_F(ExtractionTest, WithoutAHostNothingMatches) {

@@ -60,6 +60,28 @@ TEST_F(ListArchiveTest, RecordsBecomeItems) {
   EXPECT_EQ((*m_items.begin())->getStatus(), "");
 }
 
+TEST_F(ListArchiveTest, ValuesOfXmlAreRead) {
+  const std::string output = "a &amp;lt; &lt;b&gt;.vcl|&quot;1&apos;|ro|R&amp;D\n";
+  list(output);
+  EXPECT_THAT(listed(), ElementsAre("a &amp;lt; &lt;b&gt;.vcl &quot;1&apos; 1 R&amp;D"));
+  set("ListArchiveIsXml", "Yes");
+  list(output);
+  EXPECT_THAT(listed(), ElementsAre("a &lt; <b>.vcl \"1' 1 R&D"));
+}
+
+TEST_F(ListArchiveTest, WhatWasReadAheadCountsOnlyWhenItIsTheAnswer) {
+  const std::string output = "A.vcl|1|ro|\nagain\nB.vcl|2|ro|\nC.vcl|3|rw|ann\n";
+  EXPECT_EQ(list(output), 1);
+  EXPECT_THAT(m_items, SizeIs(3));
+  set("ListArchiveStartsOver", "^(again)$");
+  EXPECT_EQ(list(output), 1);
+  EXPECT_THAT(listed(), ElementsAre("B.vcl 2 1 ", "C.vcl 3 2 ann"));
+  answer("ls", {.output = output, .errors = "no archive\n"});
+  m_items.removeAll();
+  callOnItems<CMListArchive>();
+  EXPECT_THAT(m_items, IsEmpty()) << "error lines take the place of the output";
+}
+
 TEST_F(ListArchiveTest, ItemsAreAppended) {
   CMArchiveItem& first = addItem("first.vcl");
   answer("ls", {.output = "A.vcl|1|ro|\n"});

@@ -102,6 +102,16 @@ TEST_F(MainJobTest, aUnitGoesToTheArchiveAndBack) {
   EXPECT_THAT(cm({"--json", "status"}).output, HasSubstr("Pump"));
 }
 
+TEST_F(MainJobTest, aBrokenUnitIsToldByCommandsThatLookAtUnits) {
+  done({"init", m_folder.file("model"), "--name", "Plant"});
+  m_folder.write("model/Broken.vcmp", "no unit");
+  for (const char* command : {"checkout", "add"}) {
+    EXPECT_THAT(cm({"--dry-run", command, "Pump.mo"}).errors, HasSubstr("Broken.vcmp")) << command;
+  }
+  EXPECT_EQ(cm({"ls"}).errors, "");
+  EXPECT_EQ(cm({"property", "get", "CMTool"}).errors, "");
+}
+
 TEST_F(MainJobTest, aProviderIsInstalledAndChosenByTheProgram) {
   done({"init", m_folder.file("model"), "--name", "Plant"});
   done({"provider", "install", VELDRA_RECORDING_PROVIDER});

@@ -68,6 +68,20 @@ TEST(ReportTest, DocumentIsValidWhateverTheBytes) {
   EXPECT_EQ(document.count("message"), 0U);
 }
 
+TEST(ReportTest, DocumentIsWrittenAsTheLibraryWritesIt) {
+  UnitRecord plain{.path = "a/b c.vcmp", .name = "b c", .mode = "RO", .state = "checked in"};
+  UnitRecord planned{.path = "\x7F\t\\x41 \xC3\xA4", .locker = "R&D \"x\""};
+  planned.result = UnitResult::Planned;
+  planned.plan = {.commands = {{"svn", "a\nb"}, {}}, .file = "/f", .lock = "taken"};
+  for (const Report& report :
+       {Report{.command = "ls"}, Report{.command = "ls", .units = {plain}},
+        Report{.command = "add", .units = {plain, planned}, .message = "no\n\xFF"}}) {
+    std::ostringstream out;
+    printJson(report, out);
+    EXPECT_EQ(out.str(), nlohmann::ordered_json::parse(out.str()).dump(2) + "\n");
+  }
+}
+
 TEST(ListingTest, ColumnsLineUpAndAUnitIsALine) {
   UnitRecord one{.path = "a\nb", .name = "Long Name", .version = "1", .mode = "RO"};
   UnitRecord two{.path = "c", .name = "N", .version = "1.10", .mode = "RW", .locker = "alice"};

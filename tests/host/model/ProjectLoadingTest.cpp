@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <functional>
+
 #include "host/model/FolderScan.h"
 #include "host/model/NewProject.h"
 #include "tests/host/model/TempModel.h"
@@ -124,6 +126,33 @@ TEST(ProjectLoading, brokenUnitsStayUnitsAndAreReported) {
     ASSERT_NE(project->unitByFile(row.file), nullptr) << row.file;
     EXPECT_EQ(project->unitByFile(row.file)->record().name, stemOf(row.file));
     EXPECT_THAT(problemOf(*project, row.file), HasSubstr(row.what)) << row.file;
+  }
+}
+
+TEST(ProjectLoading, unitsAreLoadedWhenTheyAreAskedFor) {
+  TempModel model;
+  model.putProject(
+      "\"stubs\": [{\"file\": \"../S.vcmp\"}], \"fileTypes\": [{\"extension\": \"x\"}]");
+  model.put("Broken.vcmp", "// nothing");
+  for (const auto& ask : std::initializer_list<std::function<bool(Project&)>>{
+           [](Project& project) { return project.files().size() == 2; },
+           [](Project& project) { return project.unitByFile("Broken.vcmp") != nullptr; },
+           [](Project& project) { return project.unitsByName("Broken").size() == 1; },
+           [](Project& project) { return project.getAggregates().size() == 1; },
+           [](Project& project) { return problemOf(project, "Broken.vcmp") != ""; },
+           [](Project& project) { return project.folders().root().owner == &project; }}) {
+    const auto project = model.load();
+    int loads = 0;
+    project->setLoadListener([&] { ++loads; });
+    EXPECT_EQ(project->problemsSoFar().size(), 1U) << "of the project's own file";
+    EXPECT_EQ(project->findProperty("S", "M", "n", false), nullptr);
+    EXPECT_TRUE(project->saveModified().empty());
+    EXPECT_EQ(loads, 0);
+    EXPECT_TRUE(ask(*project));
+    EXPECT_EQ(loads, 1);
+    EXPECT_EQ(project->files().size(), 2U);
+    EXPECT_GT(project->problemsSoFar().size(), 1U);
+    EXPECT_EQ(loads, 1);
   }
 }
 

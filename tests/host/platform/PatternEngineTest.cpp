@@ -110,6 +110,40 @@ TEST_F(PatternEngineTest, longTextsAreSearchedToTheirEnd) {
   EXPECT_EQ(match("(?:x|y)*error", half), PatternEnd::Matched);
 }
 
+// A long text is searched part by part; wherever it is divided, the same must come out.
+TEST_F(PatternEngineTest, longTextsAreSearchedAsOneWhole) {
+  struct Case {
+    const char* pattern;
+    const char* text;
+    const char* found;
+    PatternEnd end = PatternEnd::Matched;
+  };
+  for (const Case& row :
+       std::initializer_list<Case>{{"<entry\\s+kind", "<<entry\n   kind", "<entry\n   kind"},
+                                   {"(?m)^b$", "a\nb\nc", "b"},
+                                   {"a\\n(?m:^)b", "a\nb", "a\nb"},
+                                   {"(?m)^\\n", "a\r\nb", nullptr, PatternEnd::NoMatch},
+                                   {"a(?!b)", "abac", "a"},
+                                   {"\\ba+\\b", "-aa,", "aa"},
+                                   {"ab|abc", "abc", "ab"},
+                                   {"(?<=ab)c*d", "abccd", "ccd"},
+                                   {"a\\Kb", "ab", "b"},
+                                   {"\\Gq", "aq", nullptr, PatternEnd::NoMatch},
+                                   {"a{3}\\z", "aaab", nullptr, PatternEnd::NoMatch},
+                                   {"\\R.", "x\r\ny", "\r\ny"}}) {
+    for (std::size_t before = 1000; before < 1030; ++before) {
+      const std::string text = std::string(before, '.') + row.text + std::string(3000, '.');
+      ASSERT_EQ(match(row.pattern, text), row.end) << row.pattern << " at " << before;
+      if (row.found == nullptr) continue;
+      const std::string_view found = m_match.captures[0];
+      EXPECT_EQ(found, row.found) << row.pattern << " at " << before;
+      const std::size_t place = static_cast<std::size_t>(found.data() - text.data());
+      EXPECT_GE(place, before) << row.pattern;
+      EXPECT_EQ(place - before, std::string_view(row.text).rfind(row.found)) << row.pattern;
+    }
+  }
+}
+
 TEST_F(PatternEngineTest, keepsThePatternsThatWereAskedForLast) {
   std::string error;
   const IPattern* const kept = m_engine.compile("kept", "i", error);

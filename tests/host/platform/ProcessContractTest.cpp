@@ -55,6 +55,20 @@ TEST_F(ProcessContract, keepsBothOutputsAndTheExitCode) {
   }
 }
 
+TEST_F(ProcessContract, aFollowerSeesWhatWillBeTheOutput) {
+  const auto runner = m_processes.createRunThread(child({"flood", "300000"}));
+  std::string followed;
+  runner->setOutputFollower([&](std::string_view soFar) {
+    EXPECT_GT(soFar.size(), followed.size());
+    EXPECT_TRUE(soFar.starts_with(followed));
+    followed = soFar;
+  });
+  const std::string output = outcomeOf(*runner).output;
+  // A system's own way of waiting may do without.
+  EXPECT_TRUE(output.starts_with(followed));
+  EXPECT_EQ(output.size(), 300000U);
+}
+
 TEST_F(ProcessContract, tenThousandArgumentListsArriveAsTheyWere) {
   constexpr int Lists = 10000;
   constexpr int ListsPerChild = 200;
