@@ -71,30 +71,42 @@ TEST_F(UnitTextsTest, RowsAreSortedByBytesAndUnitsThatAreGoneComeLast) {
 }
 
 /// Against a sort that compares: texts with long common beginnings, one the beginning of the other,
-/// with bytes of value zero, and many of them.
+/// with bytes of value zero, and many of them; in their order, almost, and in none.
 TEST(KeyOrderTest, SortsLikeAStableSortOfTheBytes) {
   std::mt19937 random(7);
   const auto below = [&random](std::size_t limit) { return random() % limit; };
-  for (const std::size_t count : {0U, 1U, 2U, 40U, 3000U}) {
-    std::vector<std::string> texts;
-    KeyOrder keys(count);
-    for (std::size_t i = 0; i < count; ++i) {
-      std::string text = "common/" + std::string(below(3) * 9, 'x');
-      for (std::size_t length = below(12); length > 0; --length) {
-        text += std::string("\0\1ab\xFF", 5)[below(5)];
-      }
-      texts.push_back(text);
-      keys.add(text);
+  const auto awkward = [&](std::size_t longest) {
+    std::string text = "common/" + std::string(below(3) * longest, 'x');
+    for (std::size_t length = below(12); length > 0; --length) {
+      text +=
+          below(40) == 0 ? static_cast<char>(below(256)) : std::string("\0\1ab\xFF", 5)[below(5)];
     }
-    std::vector<std::uint32_t> places(count);
-    std::iota(places.begin(), places.end(), 0U);
-    std::shuffle(places.begin(), places.end(), random);
-    std::vector<std::size_t> expected(count);
-    std::iota(expected.begin(), expected.end(), std::size_t{0});
-    std::stable_sort(expected.begin(), expected.end(), [&](std::size_t a, std::size_t b) {
-      return texts[places[a]] < texts[places[b]];
-    });
-    EXPECT_EQ(keys.order(places), expected) << count;
+    return text;
+  };
+  for (const std::size_t count : {0U, 1U, 2U, 40U, 3000U, 9000U}) {
+    for (const std::size_t longest : {9U, 25U, 70U}) {
+      for (const std::size_t displaced : {std::size_t{0}, std::size_t{2}, count}) {
+        std::vector<std::string> texts(count);
+        for (std::string& text : texts) text = awkward(longest);
+        std::sort(texts.begin(), texts.end());
+        for (std::size_t i = 0; i < displaced && count > 0; ++i) {
+          std::swap(texts[below(count)], texts[below(count)]);
+        }
+        std::vector<std::size_t> rows(count);  // By position, the text that stands there.
+        std::iota(rows.begin(), rows.end(), std::size_t{0});
+        std::shuffle(rows.begin(), rows.end(), random);
+        std::vector<std::size_t> positions(count);
+        for (std::size_t i = 0; i < count; ++i) positions[rows[i]] = i;
+        KeyOrder keys(count);
+        for (std::size_t i = 0; i < count; ++i) keys.add(texts[i], positions[i]);
+        std::vector<std::size_t> expected(count);
+        std::iota(expected.begin(), expected.end(), std::size_t{0});
+        std::stable_sort(expected.begin(), expected.end(), [&](std::size_t a, std::size_t b) {
+          return texts[rows[a]] < texts[rows[b]];
+        });
+        EXPECT_EQ(keys.order(), expected) << count << ' ' << longest << ' ' << displaced;
+      }
+    }
   }
 }
 
