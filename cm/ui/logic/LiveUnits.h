@@ -41,6 +41,8 @@ class VELDRA_CM_EXPORT LiveUnits {
   void reorder(const std::vector<std::size_t>& order);
 
  private:
+  bool isStill(const UnitList& units) const;
+
   struct Entry {
     IUnit* unit;
     std::unique_ptr<IHandle> handle;  ///< Null when the host gives none; then the unit is trusted.

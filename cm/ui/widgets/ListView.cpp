@@ -29,8 +29,8 @@ int widthOfFirstRows(const QTreeView& list, int column) {
 
 }  // namespace
 
-QTreeView* makeView(QWidget* parent, int id, const QString& name) {
-  auto* const view = control(new QTreeView(parent), id, name);
+LineView* makeView(QWidget* parent, int id, const QString& name) {
+  auto* const view = control(new LineView(parent), id, name);
   view->setSelectionMode(QAbstractItemView::ExtendedSelection);
   view->setUniformRowHeights(true);
   view->setAllColumnsShowFocus(true);
@@ -40,8 +40,8 @@ QTreeView* makeView(QWidget* parent, int id, const QString& name) {
   return view;
 }
 
-QTreeView* makeListView(QWidget* parent, int id, const QString& name) {
-  QTreeView* const list = makeView(parent, id, name);
+LineView* makeListView(QWidget* parent, int id, const QString& name) {
+  LineView* const list = makeView(parent, id, name);
   list->setRootIsDecorated(false);
   list->setAlternatingRowColors(true);
   list->setIconSize({18, 18});
@@ -75,14 +75,6 @@ std::vector<int> selectedRows(const QTreeView& list, const UnitFilter& filter) {
   std::sort(rows.begin(), rows.end());
   rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
   return rows;
-}
-
-std::size_t selectedCount(const QTreeView& view) {
-  std::size_t count = 0;
-  for (const QItemSelectionRange& range : view.selectionModel()->selection()) {
-    count += static_cast<std::size_t>(range.height());
-  }
-  return count;
 }
 
 void selectRows(QTreeView& list, const UnitFilter& filter, const QAbstractItemModel& source,
