@@ -12,7 +12,6 @@
 #include "cm/ui/logic/ProjectRoot.h"
 #include "cm/ui/logic/SelectionRules.h"
 #include "cm/ui/logic/ViewState.h"
-#include "cm/ui/logic/WorkspaceOrder.h"
 #include "cm/ui/widgets/ListView.h"
 #include "cm/ui/widgets/Text.h"
 #include "cm/ui/widgets/UnitFilter.h"
@@ -101,7 +100,7 @@ void CCMDialog::sortItems() {
 bool CCMDialog::orderRows() {
   if (!m_isOrderDue) return false;
   m_isOrderDue = false;
-  PrepareWsList(orderByColumn(m_data->units, *m_data->texts, ViewState::sortColumn()));
+  PrepareWsList(m_data->order.byColumn(m_data->units, *m_data->texts, ViewState::sortColumn()));
   return true;
 }
 

@@ -18,24 +18,17 @@ constexpr std::size_t FewNumbers = 4096;
 constexpr std::size_t FewTexts = 256;
 /// So many ascending runs are merged sooner than they are sorted.
 constexpr std::size_t FewRuns = 8;
-/// Room for an average text that is longer than the first.
-constexpr std::size_t SpareLength = 8;
 
 }  // namespace
 
-KeyOrder::KeyOrder(std::size_t expected) {
+KeyOrder::KeyOrder(std::size_t expected) : m_texts(expected) {
   m_heads.reserve(expected);
-  m_starts.reserve(expected + 1);
-  m_starts.push_back(0);
 }
 
 void KeyOrder::add(std::string_view key, std::size_t position) {
-  // Texts of a list are about as long as each other.
-  if (m_bytes.empty()) m_bytes.reserve(m_heads.capacity() * (key.size() + SpareLength));
   m_heads.push_back(
       {0, static_cast<std::uint32_t>(m_heads.size()), static_cast<std::uint32_t>(position)});
-  m_bytes += key;
-  m_starts.push_back(m_bytes.size());
+  m_texts.add(key);
   m_numbers.see(key);
 }
 
@@ -47,11 +40,6 @@ std::vector<std::size_t> KeyOrder::order() {
   order.reserve(m_heads.size());
   for (const Head& head : m_heads) order.push_back(head.position);
   return order;
-}
-
-std::string_view KeyOrder::keyOf(const Head& head) const {
-  const std::size_t start = m_starts[head.key];
-  return {m_bytes.data() + start, m_starts[head.key + 1] - start};
 }
 
 void KeyOrder::sort(Heads heads, std::size_t from, const TextNumbers& numbers) {

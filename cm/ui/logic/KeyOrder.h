@@ -3,11 +3,12 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
-#include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "cm/host/Export.h"
+#include "cm/ui/logic/KeyTexts.h"
 #include "cm/ui/logic/TextNumbers.h"
 
 namespace veldra {
@@ -25,6 +26,8 @@ class VELDRA_CM_EXPORT KeyOrder {
   void add(std::string_view key, std::size_t position);
   /// The positions, in the order of their texts. Called once, when all have been added.
   std::vector<std::size_t> order();
+  /// The texts as they were added, for whom they are of use afterwards.
+  KeyTexts takeTexts() { return std::move(m_texts); }
 
  private:
   struct Head {
@@ -34,7 +37,7 @@ class VELDRA_CM_EXPORT KeyOrder {
   };
   using Heads = std::span<Head>;
 
-  std::string_view keyOf(const Head& head) const;
+  std::string_view keyOf(const Head& head) const { return m_texts.at(head.key); }
   std::string_view restOf(const Head& head, std::size_t from) const {
     return keyOf(head).substr(from);
   }
@@ -46,8 +49,7 @@ class VELDRA_CM_EXPORT KeyOrder {
   void sortByNumber(Heads heads, unsigned bits);
   void sortByDigits(Heads heads, unsigned bits);
 
-  std::string m_bytes;
-  std::vector<std::size_t> m_starts;  ///< Of each text in the bytes, and the end of the last.
+  KeyTexts m_texts;
   std::vector<Head> m_heads;
   std::vector<Head> m_scratch;
   TextNumbers m_numbers;

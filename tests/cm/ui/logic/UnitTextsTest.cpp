@@ -1,6 +1,7 @@
 #include "cm/ui/logic/UnitTexts.h"
 
 #include <algorithm>
+#include <functional>
 #include <numeric>
 #include <random>
 
@@ -66,8 +67,45 @@ TEST_F(UnitTextsTest, RowsAreSortedByBytesAndUnitsThatAreGoneComeLast) {
   MemoryUnit& same = m_model.addUnit("other/Boiler.vcl");
   const LiveUnits units(UnitList{&small, &gone, &m_boiler, &same});
   m_model.destroy(&gone);
-  EXPECT_EQ(orderByColumn(units, UnitTexts(), UnitColumn::Name),
+  EXPECT_EQ(WorkspaceOrder().byColumn(units, UnitTexts(), UnitColumn::Name),
             (std::vector<std::size_t>{2, 3, 0, 1}));
+}
+
+TEST_F(UnitTextsTest, RowsFollowEveryTextThatChangesAfterTheyWereSorted) {
+  UnitList listed;
+  for (const char* file : {"c.vcl", "b.vcl", "a.vcl", "d.vcl", "e.vcl"}) {
+    listed.push_back(&m_model.addUnit(file));
+  }
+  const auto unit = [&](std::size_t i) { return static_cast<MemoryUnit*>(listed[i]); };
+  LiveUnits units(listed);
+  WorkspaceOrder sorted;
+  const std::vector<std::pair<const char*, std::function<void()>>> changes{
+      {"nothing", [] {}},
+      {"a name", [&] { unit(1)->record.name = "f"; }},
+      {"the last name", [&] { unit(4)->record.name = "0"; }},
+      {"a name like another", [&] { unit(0)->record.name = "d"; }},
+      {"rows that stand elsewhere",
+       [&] {
+         units.reorder({4, 3, 2, 1, 0});
+       }},
+      {"the list",
+       [&] {
+         units.assign({listed[3], listed[0], listed[1], listed[4], listed[2]});
+       }},
+      {"fewer units",
+       [&] {
+         units.assign({listed[3], listed[0]});
+       }},
+      {"one that is gone", [&] { m_model.destroy(unit(0)); }}};
+  for (const auto& [what, change] : changes) {
+    sorted.byColumn(units, UnitTexts(), UnitColumn::Name);
+    change();
+    for (const std::int32_t column : {UnitColumn::Name, UnitColumn::File, UnitColumn::Name}) {
+      EXPECT_EQ(sorted.byColumn(units, UnitTexts(), column),
+                WorkspaceOrder().byColumn(units, UnitTexts(), column))
+          << what << ' ' << column;
+    }
+  }
 }
 
 /// Against a sort that compares: texts with long common beginnings, one the beginning of the other,
