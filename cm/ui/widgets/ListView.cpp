@@ -79,21 +79,23 @@ std::vector<int> selectedRows(const QTreeView& list, const UnitFilter& filter) {
 
 void selectRows(QTreeView& list, const UnitFilter& filter, const QAbstractItemModel& source,
                 const std::vector<int>& rows) {
+  std::vector<int> shown;
+  shown.reserve(rows.size());
+  for (const int row : rows) {
+    const QModelIndex index = filter.shownFor(source.index(row, 0));
+    if (index.isValid()) shown.push_back(index.row());
+  }
   QItemSelection selection;
-  const int count = source.rowCount();
-  const int last = source.columnCount() - 1;
-  for (std::size_t i = 0; i < rows.size();) {
+  const QAbstractItemModel& model = *list.model();
+  const int last = model.columnCount() - 1;
+  for (std::size_t i = 0; i < shown.size();) {
     std::size_t end = i + 1;
-    while (end < rows.size() && rows[end] == rows[end - 1] + 1) ++end;
-    const int first = rows[i];
-    const int until = std::min(rows[end - 1], count - 1);
-    if (first <= until) {
-      selection.append(QItemSelectionRange(source.index(first, 0), source.index(until, last)));
-    }
+    while (end < shown.size() && shown[end] == shown[end - 1] + 1) ++end;
+    selection.append(
+        QItemSelectionRange(model.index(shown[i], 0), model.index(shown[end - 1], last)));
     i = end;
   }
-  const bool filtered = list.model() != &source;
-  setSelection(list, filtered ? filter.mapSelectionFromSource(selection) : selection);
+  setSelection(list, selection);
 }
 
 void setSelection(QTreeView& view, const QItemSelection& selection) {
