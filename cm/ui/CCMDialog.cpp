@@ -132,14 +132,14 @@ void CCMDialog::addColumns() {
 
 void CCMDialog::setView(bool flat) {
   ViewState::setViewMode(flat ? "Flat" : "Tree");
-  fillVisibleView();
+  if (fillVisibleView()) showRowsAnew();
   if (flat && std::exchange(m_isFitDue, false)) fitColumns(*m_list, width());
   updateState();
   m_panel->setCommandsEnabled(true);
   visibleView()->setFocus();
 }
 
-QTreeView* CCMDialog::visibleView() const {
+LineView* CCMDialog::visibleView() const {
   return ViewState::isFlat() ? m_list : m_tree;
 }
 

@@ -14,11 +14,11 @@ class QItemSelection;
 class QLabel;
 class QLineEdit;
 class QModelIndex;
-class QTreeView;
 
 namespace veldra {
 
 class ButtonPanel;
+class LineView;
 class UnitFilter;
 class UnitListModel;
 class UnitTreeModel;
@@ -107,14 +107,15 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public CommandWindow, private CommandView 
   void refresh40001();
   void afterCommand() override;
   void fillViews();
-  void fillVisibleView();
+  /// True when rows of the list stand elsewhere now.
+  bool fillVisibleView();
   void showRowsAnew();
   void expandTree();
-  void orderRows();
+  bool orderRows();
   void applyFilter(const QString& text);
   void rememberTreeSelection();
   void restoreTreeSelection();
-  QTreeView* visibleView() const;
+  LineView* visibleView() const;
   QModelIndex sourceOf(const QModelIndex& index) const;
   void updateState();
 
@@ -124,14 +125,15 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public CommandWindow, private CommandView 
   UnitFilter* m_listFilter;
   UnitFilter* m_treeFilter;
   ButtonPanel* m_panel = nullptr;
-  QTreeView* m_list = nullptr;
-  QTreeView* m_tree = nullptr;
+  LineView* m_list = nullptr;
+  LineView* m_tree = nullptr;
   QLineEdit* m_filter = nullptr;
   QLabel* m_empty = nullptr;
   QLabel* m_totals = nullptr;
 
   LiveUnits m_selection;
   std::vector<int> m_selectedRows;
+  std::size_t m_selectedSince = 0;           ///< When the list had these rows selected.
   std::vector<std::string> m_selectedFiles;  ///< In the tree.
   int m_refillDepth = 0;
   bool m_isRefillDue = false;

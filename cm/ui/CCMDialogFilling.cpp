@@ -12,7 +12,6 @@
 #include "cm/ui/logic/ProjectRoot.h"
 #include "cm/ui/logic/SelectionRules.h"
 #include "cm/ui/logic/ViewState.h"
-#include "cm/ui/logic/WorkspaceOrder.h"
 #include "cm/ui/widgets/ListView.h"
 #include "cm/ui/widgets/Text.h"
 #include "cm/ui/widgets/UnitFilter.h"
@@ -60,10 +59,9 @@ void CCMDialog::fillViews() {
             &CCMDialog::updateState, Qt::UniqueConnection);
   }
   m_list->header()->setSortIndicator(ViewState::sortColumn(), Qt::AscendingOrder);
-  updateState();
 }
 
-void CCMDialog::fillVisibleView() {
+bool CCMDialog::fillVisibleView() {
   if (ViewState::isFlat()) return orderRows();
   if (m_isTreeDue) {
     m_treeModel->beginRefill();
@@ -73,6 +71,7 @@ void CCMDialog::fillVisibleView() {
     m_isExpandDue = true;
   }
   if (m_isExpandDue) expandTree();
+  return false;
 }
 
 void CCMDialog::showRowsAnew() {
@@ -98,11 +97,11 @@ void CCMDialog::sortItems() {
   CmFillCI();
 }
 
-void CCMDialog::orderRows() {
-  if (!m_isOrderDue) return;
+bool CCMDialog::orderRows() {
+  if (!m_isOrderDue) return false;
   m_isOrderDue = false;
-  PrepareWsList(orderByColumn(m_data->units, *m_data->texts, ViewState::sortColumn()));
-  showRowsAnew();
+  PrepareWsList(m_data->order.byColumn(m_data->units, *m_data->texts, ViewState::sortColumn()));
+  return true;
 }
 
 void CCMDialog::PrepareWsList(const std::vector<std::size_t>& order) {
@@ -151,7 +150,7 @@ void CCMDialog::applyFilter(const QString& text) {
 // --- selection ---
 
 std::size_t CCMDialog::GetSelectedCount() {
-  return selectedCount(*visibleView());
+  return visibleView()->selectedCount();
 }
 
 QModelIndex CCMDialog::sourceOf(const QModelIndex& index) const {
@@ -164,6 +163,7 @@ UnitList CCMDialog::CmSelectedItems() {
 
 UnitList CCMDialog::FlatCmSelectedItems() {
   m_selectedRows = selectedRows(*m_list, *m_listFilter);
+  m_selectedSince = m_list->selectionChanges();
   UnitList units;
   for (const int row : m_selectedRows) {
     if (IUnit* const unit = m_data->units.at(static_cast<std::size_t>(row))) units.push_back(unit);
@@ -208,8 +208,10 @@ void CCMDialog::NewCmSelectedItem(IUnit* unit) {
 void CCMDialog::CmSelectTheItems() {
   if (!ViewState::isFlat()) return restoreTreeSelection();
   // Each range of a selection is known to the model; thousands take long to be replaced.
-  const bool isSelected = selectedRows(*m_list, *m_listFilter) == m_selectedRows;
-  if (!isSelected) selectRows(*m_list, *m_listFilter, *m_listModel, m_selectedRows);
+  if (m_list->selectionChanges() != m_selectedSince) {
+    selectRows(*m_list, *m_listFilter, *m_listModel, m_selectedRows);
+    m_selectedSince = m_list->selectionChanges();
+  }
   m_list->setFocus();
   m_list->viewport()->update();
 }

@@ -36,10 +36,8 @@ class InkEngine : public QIconEngine {
       : m_drawing(std::move(drawing)), m_selectedInk(selectedInk) {}
 
   void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State) override {
-    QSvgRenderer renderer(inked(mode));
-    renderer.setAspectRatioMode(Qt::KeepAspectRatio);
     const QRect moved = mode == QIcon::Selected ? place.translated(0, 1) : place;
-    renderer.render(painter, moved);
+    inked(inkOf(mode)).render(painter, moved);
   }
 
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
@@ -53,19 +51,29 @@ class InkEngine : public QIconEngine {
   QIconEngine* clone() const override { return new InkEngine(m_drawing, m_selectedInk); }
 
  private:
-  QByteArray inked(QIcon::Mode mode) const {
+  QColor inkOf(QIcon::Mode mode) const {
     const QPalette palette = QApplication::palette();
     const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
     const auto role = mode == QIcon::Selected ? m_selectedInk
                       : mode == QIcon::Active ? QPalette::Highlight
                                               : QPalette::ButtonText;
-    const QColor ink = palette.color(group, role);
+    return palette.color(group, role);
+  }
+
+  /// The drawing in that ink. A list shows the same icon in every line; it is read once.
+  QSvgRenderer& inked(const QColor& ink) {
+    std::shared_ptr<QSvgRenderer>& renderer = m_inked[ink.name()];
+    if (renderer != nullptr) return *renderer;
     QByteArray drawing = m_drawing;
-    return drawing.replace("currentColor", ink.name().toLatin1());
+    drawing.replace("currentColor", ink.name().toLatin1());
+    renderer = std::make_shared<QSvgRenderer>(drawing);
+    renderer->setAspectRatioMode(Qt::KeepAspectRatio);
+    return *renderer;
   }
 
   QByteArray m_drawing;
   QPalette::ColorRole m_selectedInk;
+  QHash<QString, std::shared_ptr<QSvgRenderer>> m_inked;  ///< By the name of the ink.
 };
 
 /// Two icons beside each other, and perhaps a third one in the corner of the right one.

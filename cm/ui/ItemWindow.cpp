@@ -120,7 +120,6 @@ void ItemWindow::CmFillCI() {
   connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &ItemWindow::updateState, Qt::UniqueConnection);
   m_list->header()->setSortIndicator(ViewState::itemSortColumn(m_name), Qt::AscendingOrder);
-  updateState();
 }
 
 void ItemWindow::sortItems() {
@@ -217,7 +216,7 @@ void ItemWindow::updateState() {
   m_filter->setVisible(!isEmpty);
   m_empty->setVisible(isEmpty);
   const int all = static_cast<int>(m_rows->size());
-  const int selected = static_cast<int>(selectedCount(*m_list));
+  const int selected = static_cast<int>(m_list->selectedCount());
   const bool filtered = m_list->model() != m_model;
   const QString entries = filtered
                               ? tr("%1 of %n row(s)", nullptr, all).arg(m_list->model()->rowCount())

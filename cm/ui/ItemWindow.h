@@ -9,11 +9,11 @@
 #include "cm/ui/logic/ItemRows.h"
 #include "cm/ui/logic/ItemView.h"
 #include "cm/ui/widgets/CommandWindow.h"
+#include "cm/ui/widgets/LineView.h"
 
 class QHBoxLayout;
 class QLabel;
 class QLineEdit;
-class QTreeView;
 class QVBoxLayout;
 
 namespace veldra {
@@ -37,7 +37,7 @@ class VELDRA_CM_UI_EXPORT ItemWindow : public CommandWindow, protected ItemView 
   /// Reads what is selected, and remembers the rows.
   CMArchiveItemList CmSelectedItems() override;
   void CmSelectTheItems();
-  QTreeView* list() const { return m_list; }
+  LineView* list() const { return m_list; }
 
  protected:
   /// `name` is what it remembers things under.
@@ -76,7 +76,7 @@ class VELDRA_CM_UI_EXPORT ItemWindow : public CommandWindow, protected ItemView 
   std::shared_ptr<ItemRows> m_rows;
   ItemListModel* m_model;
   UnitFilter* m_unitFilter;
-  QTreeView* m_list;
+  LineView* m_list;
   QLineEdit* m_filter;
   QHBoxLayout* m_buttonRow;
   QVBoxLayout* m_head;

@@ -5,9 +5,16 @@
 
 namespace veldra {
 
+bool LiveUnits::isStill(const UnitList& units) const {
+  return std::equal(
+      m_entries.begin(), m_entries.end(), units.begin(), units.end(),
+      [](const Entry& entry, const IUnit* unit) { return unit != nullptr && entry.get() == unit; });
+}
+
 void LiveUnits::assign(const UnitList& units) {
-  std::vector<Entry> former = std::exchange(m_entries, {});
   m_order.clear();
+  if (isStill(units)) return;
+  std::vector<Entry> former = std::exchange(m_entries, {});
   m_entries.reserve(units.size());
   std::size_t next = 0;
   for (IUnit* unit : units) {

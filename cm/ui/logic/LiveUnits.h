@@ -37,10 +37,14 @@ class VELDRA_CM_EXPORT LiveUnits {
   /// Those that still exist, in order.
   UnitList alive() const;
   bool anyGone() const;
+  /// Whether positions may differ from places.
+  bool isReordered() const { return !m_order.empty(); }
   /// Puts the units into another order: position i gets what was at `order[i]`.
   void reorder(const std::vector<std::size_t>& order);
 
  private:
+  bool isStill(const UnitList& units) const;
+
   struct Entry {
     IUnit* unit;
     std::unique_ptr<IHandle> handle;  ///< Null when the host gives none; then the unit is trusted.

@@ -29,8 +29,8 @@ int widthOfFirstRows(const QTreeView& list, int column) {
 
 }  // namespace
 
-QTreeView* makeView(QWidget* parent, int id, const QString& name) {
-  auto* const view = control(new QTreeView(parent), id, name);
+LineView* makeView(QWidget* parent, int id, const QString& name) {
+  auto* const view = control(new LineView(parent), id, name);
   view->setSelectionMode(QAbstractItemView::ExtendedSelection);
   view->setUniformRowHeights(true);
   view->setAllColumnsShowFocus(true);
@@ -40,8 +40,8 @@ QTreeView* makeView(QWidget* parent, int id, const QString& name) {
   return view;
 }
 
-QTreeView* makeListView(QWidget* parent, int id, const QString& name) {
-  QTreeView* const list = makeView(parent, id, name);
+LineView* makeListView(QWidget* parent, int id, const QString& name) {
+  LineView* const list = makeView(parent, id, name);
   list->setRootIsDecorated(false);
   list->setAlternatingRowColors(true);
   list->setIconSize({18, 18});
@@ -77,31 +77,25 @@ std::vector<int> selectedRows(const QTreeView& list, const UnitFilter& filter) {
   return rows;
 }
 
-std::size_t selectedCount(const QTreeView& view) {
-  std::size_t count = 0;
-  for (const QItemSelectionRange& range : view.selectionModel()->selection()) {
-    count += static_cast<std::size_t>(range.height());
-  }
-  return count;
-}
-
 void selectRows(QTreeView& list, const UnitFilter& filter, const QAbstractItemModel& source,
                 const std::vector<int>& rows) {
+  std::vector<int> shown;
+  shown.reserve(rows.size());
+  for (const int row : rows) {
+    const QModelIndex index = filter.shownFor(source.index(row, 0));
+    if (index.isValid()) shown.push_back(index.row());
+  }
   QItemSelection selection;
-  const int count = source.rowCount();
-  const int last = source.columnCount() - 1;
-  for (std::size_t i = 0; i < rows.size();) {
+  const QAbstractItemModel& model = *list.model();
+  const int last = model.columnCount() - 1;
+  for (std::size_t i = 0; i < shown.size();) {
     std::size_t end = i + 1;
-    while (end < rows.size() && rows[end] == rows[end - 1] + 1) ++end;
-    const int first = rows[i];
-    const int until = std::min(rows[end - 1], count - 1);
-    if (first <= until) {
-      selection.append(QItemSelectionRange(source.index(first, 0), source.index(until, last)));
-    }
+    while (end < shown.size() && shown[end] == shown[end - 1] + 1) ++end;
+    selection.append(
+        QItemSelectionRange(model.index(shown[i], 0), model.index(shown[end - 1], last)));
     i = end;
   }
-  const bool filtered = list.model() != &source;
-  setSelection(list, filtered ? filter.mapSelectionFromSource(selection) : selection);
+  setSelection(list, selection);
 }
 
 void setSelection(QTreeView& view, const QItemSelection& selection) {

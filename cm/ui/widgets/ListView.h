@@ -2,17 +2,18 @@
 
 #include <QItemSelection>
 #include <QLineEdit>
-#include <QTreeView>
 #include <vector>
+
+#include "cm/ui/widgets/LineView.h"
 
 namespace veldra {
 
 class UnitFilter;
 
 /// A view with the look and the keyboard that all lists and trees of the dialogs share.
-QTreeView* makeView(QWidget* parent, int id, const QString& name);
+LineView* makeView(QWidget* parent, int id, const QString& name);
 /// The same as a list of rows with columns, whose headers can be clicked to sort.
-QTreeView* makeListView(QWidget* parent, int id, const QString& name);
+LineView* makeListView(QWidget* parent, int id, const QString& name);
 
 /// Columns as wide as their contents in the first rows and no narrower than their headers; the
 /// first one takes two fifths of `width`.
@@ -21,8 +22,6 @@ void fitColumns(QTreeView& list, int width);
 /// The rows of `source` that are selected in the view, ascending; the view may look through the
 /// filter.
 std::vector<int> selectedRows(const QTreeView& list, const UnitFilter& filter);
-/// How many lines are selected; lines are always selected as a whole.
-std::size_t selectedCount(const QTreeView& view);
 /// Selects these rows of `source`, ascending, and nothing else. Rows outside the list are ignored.
 void selectRows(QTreeView& list, const UnitFilter& filter, const QAbstractItemModel& source,
                 const std::vector<int>& rows);

@@ -17,7 +17,7 @@ void UnitFilter::apply(const QString& text, QTreeView& view) {
     view.expandAll();
   } else {
     if (view.model() != m_source) view.setModel(m_source);
-    setSourceModel(nullptr);
+    if (sourceModel() != nullptr) setSourceModel(nullptr);
   }
 }
 

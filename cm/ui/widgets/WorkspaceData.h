@@ -5,13 +5,15 @@
 
 #include "cm/ui/logic/LiveUnits.h"
 #include "cm/ui/logic/UnitTexts.h"
+#include "cm/ui/logic/WorkspaceOrder.h"
 #include "cm/ui/logic/WorkspaceTree.h"
 
 namespace veldra {
 
-/// What both views look at. Nothing is kept per row: texts are made when they are painted.
+/// What both views look at. Texts are made when they are painted.
 struct WorkspaceData {
   LiveUnits units;
+  WorkspaceOrder order;
   WorkspaceTree tree;
   std::optional<UnitTexts> texts;
   /// While a command runs, units may die at any moment and are not looked at.

@@ -76,6 +76,22 @@ TEST_F(CCMDialogTest, ACommandWithNothingSelectedIsRefused) {
   EXPECT_TRUE(commands().empty());
 }
 
+TEST_F(CCMDialogTest, ARefreshSelectsTheSameRowsAgain) {
+  m_dialog.setView(true);
+  for (const char* filter : {"", "B"}) {
+    at<QLineEdit>(m_dialog, ControlId::Filter).setText(QString::fromLatin1(filter));
+    list().clearSelection();
+    EXPECT_EQ(m_dialog.GetSelectedCount(), 0U) << filter;
+    select(1);
+    const UnitList selected = m_dialog.CmSelectedItems();
+    ASSERT_EQ(selected.size(), 1U) << filter;
+    for (int refresh = 0; refresh < 2; ++refresh) m_dialog.DoAfterOpRefresh();
+    EXPECT_EQ(m_dialog.CmSelectedItems(), selected) << filter;
+    select(0);
+    EXPECT_EQ(m_dialog.GetSelectedCount(), 2U) << filter;
+  }
+}
+
 TEST_F(CCMDialogTest, CheckOutAndCheckInByKeyboardAlone) {
   ownNothing();
   set("CheckOut", "out $unit");
