@@ -7,12 +7,12 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
-#include <QSvgRenderer>
 #include <array>
 #include <memory>
 
 #include "cm/core/CMArchiveItem.h"
 #include "cm/core/CMStatus.h"
+#include "cm/ui/SvgDrawing.h"
 #include "cm/ui/widgets/Text.h"
 
 namespace veldra {
@@ -36,10 +36,7 @@ class InkEngine : public QIconEngine {
       : m_drawing(std::move(drawing)), m_selectedInk(selectedInk) {}
 
   void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State) override {
-    QSvgRenderer renderer(inked(mode));
-    renderer.setAspectRatioMode(Qt::KeepAspectRatio);
-    const QRect moved = mode == QIcon::Selected ? place.translated(0, 1) : place;
-    renderer.render(painter, moved);
+    drawSvg(inked(mode), *painter, mode == QIcon::Selected ? place.translated(0, 1) : place);
   }
 
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
@@ -106,7 +103,7 @@ QHash<QString, QIcon>& cache() {
 
 QIcon drawn(const QString& name, QPalette::ColorRole selectedInk = QPalette::HighlightedText) {
   QIcon& icon = cache()[name];
-  if (!icon.isNull()) return icon;
+  if (!icon.isNull() || !canDrawSvg()) return icon;
   QFile file(QStringLiteral(":/veldra-cm/icons/%1.svg").arg(name));
   if (file.open(QIODevice::ReadOnly)) icon = QIcon(new InkEngine(file.readAll(), selectedInk));
   return icon;
