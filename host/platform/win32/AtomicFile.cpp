@@ -36,14 +36,7 @@ std::string writeError(const std::string& path, DWORD error) {
 /// The file behind a link, in the system's form; the name itself when it is no link.
 std::wstring targetOf(const std::wstring& name, DWORD attributes) {
   if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return name;
-  const SystemHandle file(CreateFileW(name.c_str(), FILE_READ_ATTRIBUTES,
-                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                                      nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
-  if (!file) return {};
-  std::wstring target(32768, L'\0');
-  const DWORD size = static_cast<DWORD>(target.size());
-  target.resize(GetFinalPathNameByHandleW(file.get(), target.data(), size, FILE_NAME_NORMALIZED));
-  return target;
+  return finalName(name);
 }
 
 /// A new file beside its target. It is removed again unless it has taken the target's name.
