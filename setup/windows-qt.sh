@@ -30,8 +30,8 @@ build_module() {
 
 # Debian's package lacks what some of these need.
 off=""
-for feature in sql dbus network printsupport concurrent xml vulkan direct2d jpeg \
-  tabletevent androiddeployqt system_zlib system_pcre2 system_freetype system_harfbuzz system_png; do
+for feature in sql dbus network printsupport concurrent xml vulkan direct2d directwrite directwrite3 \
+  tabletevent jpeg androiddeployqt system_zlib system_pcre2 system_freetype system_harfbuzz system_png; do
   off="$off -DFEATURE_$feature=OFF"
 done
 "$top/setup/debian-source.sh" qt6-base "$prefix/source"
