@@ -38,10 +38,11 @@ done
 # shellcheck disable=SC2086  # a list of options on purpose
 build_module qt6-base -DINPUT_opengl=no $off
 # Not every mirror of the archive has it. It draws the icons; the windows are built without them, too.
-if "$top/setup/debian-source.sh" qt6-svg "$prefix/source"; then
+if "$top/setup/debian-source.sh" qt6-svg "$prefix/source" 2>"$prefix/qt6-svg.log"; then
   build_module qt6-svg
 else
-  echo "The archive does not give the source package qt6-svg; the windows will be without icons."
+  echo "The archive does not give the source package qt6-svg, as $prefix/qt6-svg.log tells."
+  echo "The windows will be without icons."
 fi
 rm -rf "$prefix/source"
 : >"$prefix/complete"
