@@ -4,6 +4,8 @@
 #if defined(_WIN32)
 #if defined(VELDRA_CM_UI_BUILDING)
 #define VELDRA_CM_UI_EXPORT __declspec(dllexport)
+#elif defined(VELDRA_CM_UI_STATIC)
+#define VELDRA_CM_UI_EXPORT
 #else
 #define VELDRA_CM_UI_EXPORT __declspec(dllimport)
 #endif

@@ -7,12 +7,12 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
-#include <QSvgRenderer>
 #include <array>
 #include <memory>
 
 #include "cm/core/CMArchiveItem.h"
 #include "cm/core/CMStatus.h"
+#include "cm/ui/SvgDrawing.h"
 #include "cm/ui/widgets/Text.h"
 
 namespace veldra {
@@ -37,7 +37,7 @@ class InkEngine : public QIconEngine {
 
   void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State) override {
     const QRect moved = mode == QIcon::Selected ? place.translated(0, 1) : place;
-    inked(inkOf(mode)).render(painter, moved);
+    inked(inkOf(mode)).draw(*painter, moved);
   }
 
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
@@ -61,19 +61,19 @@ class InkEngine : public QIconEngine {
   }
 
   /// The drawing in that ink. A list shows the same icon in every line; it is read once.
-  QSvgRenderer& inked(const QColor& ink) {
-    std::shared_ptr<QSvgRenderer>& renderer = m_inked[ink.name()];
-    if (renderer != nullptr) return *renderer;
-    QByteArray drawing = m_drawing;
-    drawing.replace("currentColor", ink.name().toLatin1());
-    renderer = std::make_shared<QSvgRenderer>(drawing);
-    renderer->setAspectRatioMode(Qt::KeepAspectRatio);
-    return *renderer;
+  const SvgDrawing& inked(const QColor& ink) {
+    auto at = m_inked.find(ink.name());
+    if (at == m_inked.end()) {
+      QByteArray drawing = m_drawing;
+      drawing.replace("currentColor", ink.name().toLatin1());
+      at = m_inked.insert(ink.name(), SvgDrawing(drawing));
+    }
+    return *at;
   }
 
   QByteArray m_drawing;
   QPalette::ColorRole m_selectedInk;
-  QHash<QString, std::shared_ptr<QSvgRenderer>> m_inked;  ///< By the name of the ink.
+  QHash<QString, SvgDrawing> m_inked;  ///< By the name of the ink.
 };
 
 /// Two icons beside each other, and perhaps a third one in the corner of the right one.
@@ -114,7 +114,7 @@ QHash<QString, QIcon>& cache() {
 
 QIcon drawn(const QString& name, QPalette::ColorRole selectedInk = QPalette::HighlightedText) {
   QIcon& icon = cache()[name];
-  if (!icon.isNull()) return icon;
+  if (!icon.isNull() || !canDrawSvg()) return icon;
   QFile file(QStringLiteral(":/veldra-cm/icons/%1.svg").arg(name));
   if (file.open(QIODevice::ReadOnly)) icon = QIcon(new InkEngine(file.readAll(), selectedInk));
   return icon;

@@ -13,6 +13,7 @@
 #include "host/cli/UnitDescription.h"
 #include "host/model/FileTypes.h"
 #include "host/model/PathNames.h"
+#include "host/platform/RealPath.h"
 
 namespace veldra::host::cli {
 

@@ -9,6 +9,7 @@
 #include "host/model/PathNames.h"
 #include "host/platform/AtomicFile.h"
 #include "host/platform/FolderList.h"
+#include "host/platform/RealPath.h"
 
 namespace veldra::host {
 namespace fs = std::filesystem;

@@ -8,6 +8,7 @@
 #include "host/model/PathNames.h"
 #include "host/model/ProjectFile.h"
 #include "host/platform/AtomicFile.h"
+#include "host/platform/RealPath.h"
 
 namespace veldra::host {
 namespace fs = std::filesystem;

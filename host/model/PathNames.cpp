@@ -95,12 +95,6 @@ std::string nameFromStored(std::string stored) {
   return stored;
 }
 
-std::string realPath(const std::string& path) {
-  std::error_code failed;
-  const fs::path real = fs::canonical(path, failed);
-  return failed ? std::string() : real.string();
-}
-
 std::string absolutePath(const std::string& path) {
   std::error_code failed;
   const fs::path absolute = fs::absolute(path, failed);

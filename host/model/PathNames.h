@@ -44,9 +44,6 @@ std::optional<std::string> plainRelative(std::string_view name);
 std::string storedName(std::string relative);
 std::string nameFromStored(std::string stored);
 
-/// The absolute form of a directory with all links resolved; empty when it does not exist.
-std::string realPath(const std::string& path);
-
 /// The absolute form of a name, "." and ".." taken out of it by its text alone.
 std::string absolutePath(const std::string& path);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/model/PathNames.h"
+#include "host/platform/RealPath.h"
 
 namespace veldra::host {
 namespace {

@@ -12,6 +12,7 @@
 #include "host/model/FolderScan.h"
 #include "host/model/HeadCache.h"
 #include "host/model/PathNames.h"
+#include "host/platform/RealPath.h"
 
 namespace veldra::host {
 namespace fs = std::filesystem;

@@ -9,8 +9,7 @@
 namespace veldra::host {
 
 /// The installation root, below which `packs` and `resources` lie: the variable VELDRA_ROOT, or
-/// else
-/// `../share/veldra-cm` beside the directory of the running program. Empty when neither can be had.
+/// `../share/veldra-cm` beside the directory of the running program. Empty when there is neither.
 [[nodiscard]] std::string findInstallationRoot();
 
 /// Why a directory cannot be had, for the user; the empty path is the current one.

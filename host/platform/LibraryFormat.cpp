@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "host/platform/NumberedText.h"
+
 namespace veldra::host {
 
 namespace {
@@ -13,12 +15,8 @@ constexpr std::size_t OffsetOfNewHeader = 0x3C;
 constexpr std::string_view OldMark = "MZ";
 constexpr std::string_view NewMark("PE\0\0", 4);
 
-struct Machine {
-  std::uint32_t number;
-  const char* programs;
-};
-
-constexpr std::array<Machine, 4> Machines = {{
+/// What they are for, by the number of the processor.
+constexpr std::array<NumberedText<std::uint32_t>, 4> ProgramsOf = {{
     {0x014C, "32-bit programs"},
     {0x01C4, "32-bit programs of ARM processors"},
     {0x8664, "64-bit programs"},
@@ -52,10 +50,8 @@ std::uint32_t machineOf(std::string_view head) {
 }
 
 const char* programsOf(std::uint32_t machine) {
-  for (const Machine& known : Machines) {
-    if (known.number == machine) return known.programs;
-  }
-  return "programs of another kind of processor";
+  const char* const known = textOf(ProgramsOf, machine);
+  return known != nullptr ? known : "programs of another kind of processor";
 }
 
 }  // namespace

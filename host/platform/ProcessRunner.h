@@ -33,6 +33,8 @@ class ProcessRunner : public CommandRun {
   /// Why the child could not be started; empty when it runs.
   std::string startChild(Start& start, ChildProcess& child, OutputPipe& output, OutputPipe& errors);
   std::string systemStartError(int error) const;
+  /// What the system's own words would not tell about a program that exists; null for other errors.
+  static const char* knownStartError(int error);
 
   const CancelSignal& m_cancel;
   Output m_output;

@@ -5,8 +5,8 @@
 #include <QHash>
 #include <QPainter>
 #include <QPalette>
-#include <QSvgRenderer>
 
+#include "cm/ui/SvgDrawing.h"
 #include "host/desktop/Text.h"
 
 namespace veldra::host::desktop {
@@ -29,9 +29,8 @@ QByteArray drawing(const QString& name, const QColor& ink) {
 QPixmap drawn(const QByteArray& svg, int size) {
   QPixmap pixmap(size, size);
   pixmap.fill(Qt::transparent);
-  QSvgRenderer renderer(svg);
   QPainter painter(&pixmap);
-  if (renderer.isValid()) renderer.render(&painter);
+  SvgDrawing(svg).draw(painter, pixmap.rect());
   return pixmap;
 }
 
@@ -100,7 +99,8 @@ QPixmap withBadge(QPixmap base, const Badge& badge) {
 
 QIcon icon(const QString& name) {
   QIcon& known = cache()[name];
-  if (known.isNull()) addAllPictures(name, known, [](QPixmap picture) { return picture; });
+  if (known.isNull() && canDrawSvg())
+    addAllPictures(name, known, [](QPixmap picture) { return picture; });
   return known;
 }
 

@@ -1,5 +1,3 @@
-#include "host/platform/AtomicFile.h"
-
 #include <errno.h>
 #include <fcntl.h>
 #include <stdio.h>
@@ -8,6 +6,7 @@
 
 #include <filesystem>
 
+#include "host/platform/FileReplacement.h"
 #include "host/platform/SystemError.h"
 #include "host/platform/Temporaries.h"
 #include "host/platform/posix/FileDescriptor.h"
@@ -23,10 +22,6 @@ constexpr int MostLinks = 40;
 constexpr mode_t PermissionBits = 07777;
 constexpr mode_t NewFileMode = 0666;
 
-std::string unwritten(const std::string& path, const std::string& reason) {
-  return "'" + path + "' could not be written: " + reason + ".";
-}
-
 /// The file behind a chain of links; it need not exist. Empty when the chain has no end.
 fs::path targetOf(fs::path path) {
   std::error_code error;
@@ -36,18 +31,6 @@ fs::path targetOf(fs::path path) {
     path = path.parent_path() / next;
   }
   return {};
-}
-
-/// Why the present file, if there is one, must not be replaced.
-std::optional<std::string> objection(const std::string& path, const struct stat& old,
-                                     ReadOnlyFile readOnly) {
-  if (S_ISDIR(old.st_mode)) return "'" + path + "' is a directory, not a file.";
-  if (!S_ISREG(old.st_mode)) return "'" + path + "' is not a regular file and is left as it is.";
-  if ((old.st_mode & S_IWUSR) == 0 && readOnly == ReadOnlyFile::Refuse) {
-    return "'" + path +
-           "' is read-only. Check it out, or give its owner the permission to write it.";
-  }
-  return std::nullopt;
 }
 
 /// A new file beside its target. It is removed again unless it has taken the target's name.
@@ -103,16 +86,19 @@ void syncDirectory(const fs::path& directory) {
   if (opened) ::fsync(opened.get());
 }
 
+}  // namespace
+
 std::optional<std::string> replaceFile(const std::string& path, std::string_view bytes,
                                        ReadOnlyFile readOnly) {
-  if (path.find('\0') != std::string::npos) return unwritten(path, "its name has a NUL byte");
   const fs::path target = targetOf(path);
-  if (target.empty())
-    return unwritten(path, path.empty() ? "it has no name" : "its links go round");
+  if (target.empty()) return unwritten(path, "its links go round");
   struct stat old {};
   const bool exists = ::lstat(target.c_str(), &old) == 0;
   if (exists) {
-    if (auto reason = objection(path, old, readOnly)) return reason;
+    const PresentFile present = {.isDirectory = S_ISDIR(old.st_mode),
+                                 .isRegular = S_ISREG(old.st_mode),
+                                 .isReadOnly = (old.st_mode & S_IWUSR) == 0};
+    if (auto reason = objection(path, present, readOnly)) return reason;
   }
   const fs::path directory = target.has_parent_path() ? target.parent_path() : fs::path(".");
   TemporaryFile file(directory, exists ? old.st_mode & 0777 : NewFileMode);
@@ -122,17 +108,6 @@ std::optional<std::string> replaceFile(const std::string& path, std::string_view
   if (file.error() != 0) return unwritten(path, systemErrorText(file.error()));
   syncDirectory(directory);
   return std::nullopt;
-}
-
-}  // namespace
-
-std::optional<std::string> writeFileAtomically(const std::string& path, std::string_view bytes,
-                                               ReadOnlyFile readOnly) {
-  try {
-    return replaceFile(path, bytes, readOnly);
-  } catch (const std::exception& problem) {
-    return unwritten(path, problem.what());
-  }
 }
 
 std::size_t restoreSetAside(const std::string& directory, const std::vector<std::string>& names,

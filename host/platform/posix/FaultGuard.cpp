@@ -9,16 +9,13 @@
 #include <mutex>
 #include <string>
 
+#include "host/platform/NumberedText.h"
+
 namespace veldra::host {
 
 namespace {
 
-struct Fault {
-  int signal;
-  const char* text;
-};
-
-constexpr std::array<Fault, 4> Faults = {{
+constexpr std::array<NumberedText<int>, 4> Faults = {{
     {SIGSEGV, "Invalid memory access, or no stack left"},
     {SIGBUS, "Memory access beyond a mapped file, or misaligned"},
     {SIGFPE, "Arithmetic fault, such as a division by zero"},
@@ -40,7 +37,7 @@ std::array<struct sigaction, Faults.size()> s_former;
 
 void handToFormer(int signal, const siginfo_t& info) {
   for (std::size_t i = 0; i < Faults.size(); ++i) {
-    if (Faults[i].signal == signal) sigaction(signal, &s_former[i], nullptr);
+    if (Faults[i].number == signal) sigaction(signal, &s_former[i], nullptr);
   }
   // A fault happens again as soon as this returns; a signal that somebody sent has to be repeated.
   if (info.si_code <= 0) raise(signal);
@@ -68,14 +65,14 @@ bool isInForce(int signal) {
 /// own sets them for all faults, so that one tells of the others.
 void putHandlersInForce() {
   const std::lock_guard lock(s_mutex);
-  if (isInForce(Faults.front().signal)) return;
+  if (isInForce(Faults.front().number)) return;
   struct sigaction action {};
   action.sa_sigaction = onFault;
   // The handler leaves by a jump; as it blocks no signal, the jump has no mask to restore.
   action.sa_flags = SA_SIGINFO | SA_ONSTACK | SA_NODEFER;
   sigemptyset(&action.sa_mask);
   for (std::size_t i = 0; i < Faults.size(); ++i) {
-    if (!isInForce(Faults[i].signal)) sigaction(Faults[i].signal, &action, &s_former[i]);
+    if (!isInForce(Faults[i].number)) sigaction(Faults[i].number, &action, &s_former[i]);
   }
 }
 
@@ -107,11 +104,8 @@ class HandlerStack {
 
 std::string describe(int signal, const void* address) {
   std::array<char, 128> text{};
-  for (const Fault& fault : Faults) {
-    if (fault.signal != signal) continue;
-    std::snprintf(text.data(), text.size(), "%s (signal %d, address %p).", fault.text, signal,
-                  address);
-  }
+  std::snprintf(text.data(), text.size(), "%s (signal %d, address %p).", textOf(Faults, signal),
+                signal, address);
   return text.data();
 }
 

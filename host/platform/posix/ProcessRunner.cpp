@@ -8,21 +8,16 @@
 
 #include <array>
 
-#include "host/platform/SystemError.h"
+#include "host/platform/NumberedText.h"
+#include "host/platform/posix/ChildProcess.h"
 #include "host/platform/posix/OutputFile.h"
-#include "host/platform/posix/PolledWait.h"
+#include "host/platform/posix/OutputPipe.h"
 
 namespace veldra::host {
 
 namespace {
 
-struct StartError {
-  int number;
-  const char* text;
-};
-
-/// What the system's own words would not tell about a program that exists and may be executed.
-constexpr std::array<StartError, 3> StartErrors = {{
+constexpr std::array<NumberedText<int>, 3> StartErrors = {{
     {ENOENT, "the interpreter that its first line names does not exist"},
     {ENOEXEC, "it is neither a program of this system nor a script that begins with #!"},
     {E2BIG, "its command line is too long for the system; pass long texts in a file"},
@@ -35,22 +30,6 @@ bool workingDirectoryIsGone() {
 }
 
 }  // namespace
-
-bool ProcessRunner::isCancelled() const {
-  return m_cancel.isRaised();
-}
-
-Result<CommandRun::Ending> ProcessRunner::runChild(Start& start, std::uint32_t timeout) {
-  OutputPipe output(this->output(), settings().watch);
-  OutputPipe errors(this->errors(), settings().watch);
-  ChildProcess child;
-  if (const std::string reason = startChild(start, child, output, errors); !reason.empty())
-    return Result<Ending>::failure(reason);
-  if (follower()) output.setFollower(&follower());
-  PolledWait wait(child, output, errors, m_cancel, settings());
-  const auto stop = wait.run(timeout);
-  return Ending{stop, child.finish(wait.wasForced()), errors.endsInsideLine()};
-}
 
 std::string ProcessRunner::startChild(Start& start, ChildProcess& child, OutputPipe& output,
                                       OutputPipe& errors) {
@@ -74,11 +53,8 @@ std::string ProcessRunner::startChild(Start& start, ChildProcess& child, OutputP
   return error == 0 ? std::string() : systemStartError(error);
 }
 
-std::string ProcessRunner::systemStartError(int error) const {
-  for (const StartError& known : StartErrors) {
-    if (known.number == error) return startError(known.text);
-  }
-  return startError(systemErrorText(error));
+const char* ProcessRunner::knownStartError(int error) {
+  return textOf(StartErrors, error);
 }
 
 std::string ProcessRunner::crashText(int signal) const {

@@ -1,11 +1,9 @@
-#include "host/platform/AtomicFile.h"
-
 #include <chrono>
-#include <exception>
 #include <filesystem>
 
 #include "host/platform/FileHead.h"
 #include "host/platform/FileNames.h"
+#include "host/platform/FileReplacement.h"
 #include "host/platform/SystemError.h"
 #include "host/platform/Temporaries.h"
 #include "host/platform/win32/OpenFile.h"
@@ -23,10 +21,6 @@ constexpr DWORD MillisecondsBetweenTries = 50;
 constexpr DWORD KeptAttributes = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN |
                                  FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
 
-std::string unwritten(const std::string& path, const std::string& reason) {
-  return "'" + path + "' could not be written: " + reason + ".";
-}
-
 bool isInUse(DWORD error) {
   return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION ||
          error == ERROR_USER_MAPPED_FILE;
@@ -42,26 +36,7 @@ std::string writeError(const std::string& path, DWORD error) {
 /// The file behind a link, in the system's form; the name itself when it is no link.
 std::wstring targetOf(const std::wstring& name, DWORD attributes) {
   if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return name;
-  const SystemHandle file(CreateFileW(name.c_str(), FILE_READ_ATTRIBUTES,
-                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                                      nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
-  if (!file) return {};
-  std::wstring target(32768, L'\0');
-  const DWORD size = static_cast<DWORD>(target.size());
-  target.resize(GetFinalPathNameByHandleW(file.get(), target.data(), size, FILE_NAME_NORMALIZED));
-  return target;
-}
-
-/// Why the present file must not be replaced.
-std::optional<std::string> objection(const std::string& path, DWORD attributes,
-                                     ReadOnlyFile readOnly) {
-  if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
-    return "'" + path + "' is a directory, not a file.";
-  if ((attributes & FILE_ATTRIBUTE_READONLY) != 0 && readOnly == ReadOnlyFile::Refuse) {
-    return "'" + path +
-           "' is read-only. Check it out, or give its owner the permission to write it.";
-  }
-  return std::nullopt;
+  return finalName(name);
 }
 
 /// A new file beside its target. It is removed again unless it has taken the target's name.
@@ -140,16 +115,18 @@ class TemporaryFile {
   bool m_exists = false;
 };
 
+}  // namespace
+
 std::optional<std::string> replaceFile(const std::string& path, std::string_view bytes,
                                        ReadOnlyFile readOnly) {
-  if (path.find('\0') != std::string::npos) return unwritten(path, "its name has a NUL byte");
   if (auto problem = windowsNameProblem(path)) return problem;
   const std::wstring name = nativePath(path);
-  if (name.empty())
-    return unwritten(path, path.empty() ? "it has no name" : "its name is not in UTF-8");
+  if (name.empty()) return unwritten(path, "its name is not in UTF-8");
   const DWORD attributes = GetFileAttributesW(name.c_str());
   if (attributes != INVALID_FILE_ATTRIBUTES) {
-    if (auto reason = objection(path, attributes, readOnly)) return reason;
+    const PresentFile present = {.isDirectory = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
+                                 .isReadOnly = (attributes & FILE_ATTRIBUTE_READONLY) != 0};
+    if (auto reason = objection(path, present, readOnly)) return reason;
   }
   const std::wstring target =
       attributes == INVALID_FILE_ATTRIBUTES ? name : targetOf(name, attributes);
@@ -159,17 +136,6 @@ std::optional<std::string> replaceFile(const std::string& path, std::string_view
   file.rename(target, attributes);
   if (file.error() != 0) return writeError(path, file.error());
   return std::nullopt;
-}
-
-}  // namespace
-
-std::optional<std::string> writeFileAtomically(const std::string& path, std::string_view bytes,
-                                               ReadOnlyFile readOnly) {
-  try {
-    return replaceFile(path, bytes, readOnly);
-  } catch (const std::exception& problem) {
-    return unwritten(path, problem.what());
-  }
 }
 
 std::size_t restoreSetAside(const std::string& directory, const std::vector<std::string>& names,

@@ -32,10 +32,9 @@ class InheritedHandles {
     auto* const list = reinterpret_cast<LPPROC_THREAD_ATTRIBUTE_LIST>(m_memory.get());
     if (!InitializeProcThreadAttributeList(list, 1, 0, &size)) return;
     m_list = list;
-    // A handle may stand there once only.
-    const std::size_t count = m_handles[1] == m_handles[2] ? 2 : 3;
-    UpdateProcThreadAttribute(m_list, 0, PROC_THREAD_ATTRIBUTE_HANDLE_LIST, m_handles.data(),
-                              count * sizeof(HANDLE), nullptr, nullptr);
+    m_isComplete =
+        UpdateProcThreadAttribute(m_list, 0, PROC_THREAD_ATTRIBUTE_HANDLE_LIST, m_handles.data(),
+                                  sizeof m_handles, nullptr, nullptr) != 0;
   }
   ~InheritedHandles() {
     if (m_list != nullptr) DeleteProcThreadAttributeList(m_list);
@@ -43,12 +42,14 @@ class InheritedHandles {
   InheritedHandles(const InheritedHandles&) = delete;
   InheritedHandles& operator=(const InheritedHandles&) = delete;
 
-  LPPROC_THREAD_ATTRIBUTE_LIST list() const { return m_list; }
+  /// Null when the system refuses; a child would then inherit everything.
+  LPPROC_THREAD_ATTRIBUTE_LIST list() const { return m_isComplete ? m_list : nullptr; }
 
  private:
   std::array<HANDLE, 3> m_handles;
   std::unique_ptr<char[]> m_memory;
   LPPROC_THREAD_ATTRIBUTE_LIST m_list = nullptr;
+  bool m_isComplete = false;
 };
 
 /// A copy that children may inherit.
@@ -91,6 +92,7 @@ int ChildProcess::start(const std::string& program, const std::vector<std::strin
   const SystemHandle childOutput = inheritable(output);
   const SystemHandle childErrors = inheritable(errors);
   const InheritedHandles handles({input.get(), childOutput.get(), childErrors.get()});
+  if (handles.list() == nullptr) return ERROR_NO_SYSTEM_RESOURCES;
 
   STARTUPINFOEXW startup{};
   startup.StartupInfo.cb = sizeof startup;

@@ -38,11 +38,6 @@ std::string withoutLastSeparator(std::string path) {
   return path;
 }
 
-std::string withoutLongSign(std::string path) {
-  if (path.starts_with("\\\\?\\UNC\\")) return path.replace(0, 8, "\\\\");
-  return path.starts_with("\\\\?\\") ? path.substr(4) : path;
-}
-
 /// The absolute name of a directory; the empty name is the current one. 0 or the error's number.
 int absoluteName(const std::string& path, std::string& absolute) {
   std::wstring name = path.empty() ? std::wstring(L".") : nativePath(path);
@@ -53,7 +48,7 @@ int absoluteName(const std::string& path, std::string& absolute) {
   full.resize(
       GetFullPathNameW(name.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
   if (full.empty()) return lastError();
-  absolute = withoutLastSeparator(withoutLongSign(fromWide(full)));
+  absolute = withoutLastSeparator(fromNativePath(full));
   return 0;
 }
 

@@ -7,18 +7,14 @@
 #include <cstdio>
 #include <string>
 
+#include "host/platform/NumberedText.h"
 #include "host/platform/win32/GuardedCall.h"
 
 namespace veldra::host {
 
 namespace {
 
-struct Fault {
-  DWORD code;
-  const char* text;
-};
-
-constexpr std::array<Fault, 10> Faults = {{
+constexpr std::array<NumberedText<DWORD>, 10> Faults = {{
     {EXCEPTION_ACCESS_VIOLATION, "Invalid memory access"},
     {EXCEPTION_IN_PAGE_ERROR, "Memory access beyond a mapped file"},
     {EXCEPTION_DATATYPE_MISALIGNMENT, "Misaligned memory access"},
@@ -34,21 +30,14 @@ constexpr std::array<Fault, 10> Faults = {{
 /// What the handler may still use of a stack that is used up.
 constexpr ULONG HandlerStack = ULONG{64} * 1024;
 
-const char* textOf(DWORD code) {
-  for (const Fault& fault : Faults) {
-    if (fault.code == code) return fault.text;
-  }
-  return nullptr;
-}
-
 bool isFault(unsigned long code) noexcept {
-  return textOf(code) != nullptr;
+  return textOf(Faults, code) != nullptr;
 }
 
 std::string describe(const GuardedEnd& end) {
   std::array<char, 128> text{};
-  std::snprintf(text.data(), text.size(), "%s (exception 0x%08lX, address %p).", textOf(end.code),
-                end.code, end.address);
+  std::snprintf(text.data(), text.size(), "%s (exception 0x%08lX, address %p).",
+                textOf(Faults, end.code), end.code, end.address);
   return text.data();
 }
 

@@ -49,6 +49,7 @@ bool takesException(const EXCEPTION_RECORD& record) {
 // GCC has no keyword for the system's exception handlers, its assembler has. The function that
 // follows keeps all registers that a caller may rely on in its frame, notes the frame, and calls
 // `body`. Who goes on at the second label, with the frame as the stack, makes it return 1, not 0.
+// Its frame begins with the 32 bytes that belong to whom it calls.
 extern "C" int veldraCallWithHandler(void (*body)(void*), void* argument, void** frame);
 extern "C" void veldraAfterFault();
 
@@ -69,44 +70,16 @@ asm(R"(
   .def veldraCallWithHandler; .scl 2; .type 32; .endef
   .seh_proc veldraCallWithHandler
 veldraCallWithHandler:
-  pushq %rbp
-  .seh_pushreg %rbp
-  pushq %rbx
-  .seh_pushreg %rbx
-  pushq %rdi
-  .seh_pushreg %rdi
-  pushq %rsi
-  .seh_pushreg %rsi
-  pushq %r12
-  .seh_pushreg %r12
-  pushq %r13
-  .seh_pushreg %r13
-  pushq %r14
-  .seh_pushreg %r14
-  pushq %r15
-  .seh_pushreg %r15
+  .irp register, rbp, rbx, rdi, rsi, r12, r13, r14, r15
+  pushq %\register
+  .seh_pushreg %\register
+  .endr
   subq $200, %rsp
   .seh_stackalloc 200
-  movaps %xmm6, 32(%rsp)
-  .seh_savexmm %xmm6, 32
-  movaps %xmm7, 48(%rsp)
-  .seh_savexmm %xmm7, 48
-  movaps %xmm8, 64(%rsp)
-  .seh_savexmm %xmm8, 64
-  movaps %xmm9, 80(%rsp)
-  .seh_savexmm %xmm9, 80
-  movaps %xmm10, 96(%rsp)
-  .seh_savexmm %xmm10, 96
-  movaps %xmm11, 112(%rsp)
-  .seh_savexmm %xmm11, 112
-  movaps %xmm12, 128(%rsp)
-  .seh_savexmm %xmm12, 128
-  movaps %xmm13, 144(%rsp)
-  .seh_savexmm %xmm13, 144
-  movaps %xmm14, 160(%rsp)
-  .seh_savexmm %xmm14, 160
-  movaps %xmm15, 176(%rsp)
-  .seh_savexmm %xmm15, 176
+  .irp number, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15
+  movaps %xmm\number, 16 * \number - 64(%rsp)
+  .seh_savexmm %xmm\number, 16 * \number - 64
+  .endr
   .seh_endprologue
   movq %rsp, (%r8)
   movq %rcx, %rax
@@ -117,25 +90,13 @@ veldraCallWithHandler:
 veldraAfterFault:
   movl $1, %eax
 veldraRestore:
-  movaps 32(%rsp), %xmm6
-  movaps 48(%rsp), %xmm7
-  movaps 64(%rsp), %xmm8
-  movaps 80(%rsp), %xmm9
-  movaps 96(%rsp), %xmm10
-  movaps 112(%rsp), %xmm11
-  movaps 128(%rsp), %xmm12
-  movaps 144(%rsp), %xmm13
-  movaps 160(%rsp), %xmm14
-  movaps 176(%rsp), %xmm15
+  .irp number, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15
+  movaps 16 * \number - 64(%rsp), %xmm\number
+  .endr
   addq $200, %rsp
-  popq %r15
-  popq %r14
-  popq %r13
-  popq %r12
-  popq %rsi
-  popq %rdi
-  popq %rbx
-  popq %rbp
+  .irp register, r15, r14, r13, r12, rsi, rdi, rbx, rbp
+  popq %\register
+  .endr
   ret
   .seh_handler veldraOnException, @except, @unwind
   .seh_endproc

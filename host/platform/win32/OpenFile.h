@@ -11,6 +11,10 @@ namespace veldra::host {
 /// Opens a file for reading, whoever else has it open; a directory too.
 [[nodiscard]] SystemHandle openForReading(const std::string& path);
 
+/// The system's own name for a file or directory, behind all links and spelled as the disk has it.
+/// Empty when it cannot be had.
+[[nodiscard]] std::wstring finalName(const std::wstring& name);
+
 /// Writes all bytes, however many calls that takes. 0, or the system's error number.
 [[nodiscard]] DWORD writeFully(HANDLE file, std::string_view bytes);
 

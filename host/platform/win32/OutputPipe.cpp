@@ -59,6 +59,7 @@ std::size_t OutputPipe::take() {
     taken += count;
     read();
   }
+  if (m_follower && taken != 0 && !m_forgets) (*m_follower)(m_lines.text());
   return taken;
 }
 

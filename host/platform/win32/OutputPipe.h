@@ -30,6 +30,8 @@ class OutputPipe {
   /// Takes all that is there, and closes the pipe at its end. The bytes taken.
   std::size_t take();
 
+  /// Who is told what has come, each time that there is more. Not owned.
+  void setFollower(const OutputFollower* follower) { m_follower = follower; }
   /// What comes from now on is read and forgotten.
   void forgetFurther() { m_forgets = true; }
 
@@ -50,6 +52,7 @@ class OutputPipe {
 
   LineList& m_lines;
   ChildWatch* m_watch;
+  const OutputFollower* m_follower = nullptr;
   SystemHandle m_reader;
   SystemHandle m_childEnd;
   SystemHandle m_event;

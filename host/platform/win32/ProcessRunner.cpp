@@ -2,26 +2,20 @@
 
 #include <array>
 #include <cstdio>
-#include <span>
 
-#include "host/platform/SystemError.h"
-#include "host/platform/win32/EventWait.h"
+#include "host/platform/NumberedText.h"
+#include "host/platform/win32/ChildProcess.h"
 #include "host/platform/win32/OpenFile.h"
 #include "host/platform/win32/OutputFile.h"
+#include "host/platform/win32/OutputPipe.h"
 
 namespace veldra::host {
 
 namespace {
 
-struct KnownNumber {
-  DWORD number;
-  const char* text;
-};
-
 constexpr char TooLong[] = "its command line is too long for the system; pass long texts in a file";
 
-/// What the system's own words would not tell about a program that exists.
-constexpr std::array<KnownNumber, 5> StartErrors = {{
+constexpr std::array<NumberedText<DWORD>, 5> StartErrors = {{
     {ERROR_FILENAME_EXCED_RANGE, TooLong},
     {ERROR_INVALID_PARAMETER, TooLong},
     {ERROR_BAD_EXE_FORMAT, "it is no program of this system"},
@@ -30,7 +24,7 @@ constexpr std::array<KnownNumber, 5> StartErrors = {{
      "it wants an administrator's rights; run this program with them"},
 }};
 
-constexpr std::array<KnownNumber, 6> Exceptions = {{
+constexpr std::array<NumberedText<DWORD>, 6> Exceptions = {{
     {EXCEPTION_ACCESS_VIOLATION, "invalid memory access"},
     {EXCEPTION_INT_DIVIDE_BY_ZERO, "division by zero"},
     {EXCEPTION_ILLEGAL_INSTRUCTION, "illegal instruction"},
@@ -39,29 +33,7 @@ constexpr std::array<KnownNumber, 6> Exceptions = {{
     {0xC000013A, "interrupted"},
 }};
 
-const char* textOf(std::span<const KnownNumber> known, DWORD number) {
-  for (const KnownNumber& row : known) {
-    if (row.number == number) return row.text;
-  }
-  return nullptr;
-}
-
 }  // namespace
-
-bool ProcessRunner::isCancelled() const {
-  return m_cancel.isRaised();
-}
-
-Result<CommandRun::Ending> ProcessRunner::runChild(Start& start, std::uint32_t timeout) {
-  OutputPipe output(this->output(), settings().watch);
-  OutputPipe errors(this->errors(), settings().watch);
-  ChildProcess child;
-  if (const std::string reason = startChild(start, child, output, errors); !reason.empty())
-    return Result<Ending>::failure(reason);
-  EventWait wait(child, output, errors, m_cancel, settings());
-  const auto stop = wait.run(timeout);
-  return Ending{stop, child.finish(wait.wasForced()), errors.endsInsideLine()};
-}
 
 std::string ProcessRunner::startChild(Start& start, ChildProcess& child, OutputPipe& output,
                                       OutputPipe& errors) {
@@ -87,9 +59,8 @@ std::string ProcessRunner::startChild(Start& start, ChildProcess& child, OutputP
   return {};
 }
 
-std::string ProcessRunner::systemStartError(int error) const {
-  const char* const known = textOf(StartErrors, static_cast<DWORD>(error));
-  return startError(known != nullptr ? known : systemErrorText(error));
+const char* ProcessRunner::knownStartError(int error) {
+  return textOf(StartErrors, static_cast<DWORD>(error));
 }
 
 std::string ProcessRunner::crashText(int exception) const {

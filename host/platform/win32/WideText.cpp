@@ -58,6 +58,12 @@ std::wstring nativePath(std::string_view path) {
   return std::wstring(Unlimited) + full;
 }
 
+std::string fromNativePath(std::wstring_view path) {
+  if (path.starts_with(UnlimitedShare))
+    return "\\\\" + fromWide(path.substr(UnlimitedShare.size()));
+  return fromWide(path.starts_with(Unlimited) ? path.substr(Unlimited.size()) : path);
+}
+
 }  // namespace veldra::host
 
 #if defined(__MINGW32__)

@@ -17,4 +17,7 @@ namespace veldra::host {
 /// and for one that is no UTF-8.
 [[nodiscard]] std::wstring nativePath(std::string_view path);
 
+/// Such a name as people write it, without the sign of the form without a limit.
+[[nodiscard]] std::string fromNativePath(std::wstring_view path);
+
 }  // namespace veldra::host

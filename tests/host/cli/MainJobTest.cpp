@@ -1,5 +1,5 @@
-
 #include <filesystem>
+
 #include "tests/host/platform/ProcessesTest.h"
 #include "tests/host/platform/TempDirectory.h"
 
@@ -110,6 +110,24 @@ TEST_F(MainJobTest, aBrokenUnitIsToldByCommandsThatLookAtUnits) {
   }
   EXPECT_EQ(cm({"ls"}).errors, "");
   EXPECT_EQ(cm({"property", "get", "CMTool"}).errors, "");
+}
+
+TEST_F(MainJobTest, aUnitWhosePathIsLongGoesToTheArchiveAndBack) {
+  std::string unit = "Deep.mo";
+  while (m_folder.file("model/" + unit).size() < 300) unit.insert(0, std::string(60, 'p') + '/');
+  const std::string file = m_folder.file("model/" + unit);
+  std::filesystem::create_directories(std::filesystem::path(file).parent_path());
+  m_folder.write("model/" + unit, "model Deep\nend Deep;\n");
+  done({"init", m_folder.file("model"), "--name", "Plant"});
+  done({"connect", "--archive", m_folder.file("archive")});
+  done({"add", file, "-m", "As drawn"});
+  EXPECT_FALSE(isWritable("model/" + unit));
+  done({"checkout", unit});
+  m_folder.write("model/" + unit, "model Deep\n  Real depth;\nend Deep;\n");
+  done({"checkin", unit, "-m", "Deeper"});
+  EXPECT_EQ(m_folder.read("archive/Deep.mo"), m_folder.read("model/" + unit));
+  EXPECT_THAT(m_folder.read("archive/Deep.mo"), HasSubstr("depth"));
+  EXPECT_FALSE(isWritable("model/" + unit));
 }
 
 TEST_F(MainJobTest, aProviderIsInstalledAndChosenByTheProgram) {

@@ -4,6 +4,7 @@
 
 #include "host/model/FolderScan.h"
 #include "host/model/NewProject.h"
+#include "host/platform/RealPath.h"
 #include "tests/host/model/TempModel.h"
 #include "tests/host/platform/FileSystem.h"
 

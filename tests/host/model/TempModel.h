@@ -7,6 +7,7 @@
 #include "host/model/PathNames.h"
 #include "host/model/ProjectLoader.h"
 #include "host/model/PropertyLayers.h"
+#include "host/platform/RealPath.h"
 #include "tests/host/platform/TempDirectory.h"
 
 namespace veldra::host {

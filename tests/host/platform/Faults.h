@@ -2,12 +2,19 @@
 
 #include <functional>
 #include <string>
+#if defined(_MSC_VER)
+#include <intrin.h>
+#endif
 
 #include "host/platform/FaultGuard.h"
 
 namespace veldra::host {
 
+#if defined(_MSC_VER)
+#define UNCHECKED __declspec(noinline)
+#else
 #define UNCHECKED __attribute__((noinline, no_sanitize("address", "undefined")))
+#endif
 
 UNCHECKED inline void writeToNull() {
   volatile int* volatile nowhere = nullptr;
@@ -21,7 +28,11 @@ UNCHECKED inline void divideByZero() {
 }
 
 UNCHECKED inline void executeNonsense() {
+#if defined(_MSC_VER)
+  __ud2();
+#else
   __builtin_trap();
+#endif
 }
 
 // Takes a kilobyte per call, and more calls than any stack has kilobytes.

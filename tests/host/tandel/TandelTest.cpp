@@ -8,6 +8,7 @@
 #include <thread>
 
 #include "host/model/RememberedProjects.h"
+#include "host/platform/CommandLine.h"
 #include "host/tandel/MergeTarget.h"
 #include "host/tandel/PaneRows.h"
 #include "tests/host/model/TempModel.h"
@@ -104,15 +105,11 @@ TEST_F(TandelTest, ShowsAWindowWhereThereIsADisplayUnlessItShallPrint) {
 }
 
 TEST_F(TandelTest, AToolOfTheUsersChoiceOpensInPlaceOfTheWindow) {
-#ifdef _WIN32
-  GTEST_SKIP() << "the tool is a script of the shell";
-#endif
   const TempDirectory place;
   const std::string a = place.write("a b", "1\n");
   const std::string b = place.write("b", "2\n");
-  const std::string seen = place.file("seen");
-  const std::string tool = place.write("tool", "#!/bin/sh\nprintf '%s|' \"$@\" >'" + seen + "'\n");
-  fs::permissions(tool, fs::perms::owner_all);
+  const std::string tool =
+      joinCommandLine({VELDRA_TEST_CHILD, "arguments-to", place.file("seen"), "--wait"});
   int shown = 0;
   const ShowWindow show = [&shown](ReferenceHost&, CompareSession&, const TandelOptions&) {
     ++shown;
@@ -121,7 +118,7 @@ TEST_F(TandelTest, AToolOfTheUsersChoiceOpensInPlaceOfTheWindow) {
   const auto choose = [this](const std::string& command) {
     home.write("config/veldra-cm/user.toml", "[General]\nCompareTool = '" + command + "'\n");
   };
-  choose(tool + " --wait");
+  choose(tool);
   EXPECT_EQ(run({a, b}, show), TandelEnd::Same);
   EXPECT_EQ(shown, 0) << errors.str();
   for (int wait = 0; wait < 500 && place.read("seen").empty(); ++wait) {

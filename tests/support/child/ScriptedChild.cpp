@@ -90,12 +90,25 @@ void tellArguments(Arguments arguments) {
     say(std::to_string(argument.size()) + ':' + argument);
 }
 
+/// The arguments into a file, for a child whose output nobody sees. It appears there as a whole.
+void tellArgumentsTo(const std::string& file, Arguments arguments) {
+  {
+    std::ofstream stream(file + ".new", std::ios::binary);
+    for (const std::string& argument : arguments) stream << argument << '|';
+  }
+  fs::rename(file + ".new", file);
+}
+
 int run(const std::string& self, Arguments arguments) {
   while (!arguments.empty()) {
     const std::string& step = arguments.front();
     arguments = arguments.subspan(1);
     if (step == "arguments") {
       tellArguments(arguments);
+      return 0;
+    }
+    if (step == "arguments-to" && !arguments.empty()) {
+      tellArgumentsTo(arguments.front(), arguments.subspan(1));
       return 0;
     }
     // Everything that follows is what a child of this child does.

@@ -10,6 +10,7 @@
 #include "host/platform/FolderList.h"
 #include "host/platform/Libraries.h"
 #include "host/platform/Processes.h"
+#include "host/platform/RealPath.h"
 #include "host/platform/win32/WideText.h"
 #include "tests/host/platform/LibraryHead.h"
 #include "tests/host/platform/TempDirectory.h"
@@ -107,6 +108,18 @@ TEST(FilesOfWindows, bothSeparatorsAreTaken) {
   for (char& c : slashes) c = c == '\\' ? '/' : c;
   EXPECT_EQ(writeFileAtomically(slashes, "x"), std::nullopt);
   EXPECT_EQ(directory.read("f"), "x");
+}
+
+TEST(FilesOfWindows, aFileHasOneNameHoweverItIsSpelled) {
+  const TempDirectory directory;
+  std::filesystem::create_directory(directory.file("Deep Folder"));
+  const std::string file = directory.write("Deep Folder/Pump.mo", "");
+  std::string other = file;
+  for (char& c : other) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+  EXPECT_NE(other, realPath(file));
+  EXPECT_EQ(realPath(other), realPath(file));
+  EXPECT_THAT(realPath(other), testing::EndsWith("\\Deep Folder\\Pump.mo"));
+  EXPECT_EQ(realPath(directory.file("absent")), "");
 }
 
 TEST(LibrariesOfWindows, aLibraryFor32BitProgramsIsRefusedWithTheReason) {
