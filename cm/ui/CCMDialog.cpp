@@ -123,7 +123,8 @@ void CCMDialog::OnInitDialog() {
     CmFillCI();
   }
   restorePlace({880, 620});
-  setView(ViewState::isFlat());
+  // Opening chooses nothing: the setting counts until somebody presses a button.
+  showView();
 }
 
 void CCMDialog::addColumns() {
@@ -132,8 +133,12 @@ void CCMDialog::addColumns() {
 
 void CCMDialog::setView(bool flat) {
   ViewState::setViewMode(flat ? "Flat" : "Tree");
+  showView();
+}
+
+void CCMDialog::showView() {
   fillVisibleView();
-  if (flat && std::exchange(m_isFitDue, false)) fitColumns(*m_list, width());
+  if (ViewState::isFlat() && std::exchange(m_isFitDue, false)) fitColumns(*m_list, width());
   updateState();
   m_panel->setCommandsEnabled(true);
   visibleView()->setFocus();

@@ -68,6 +68,7 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public CommandWindow, private CommandView 
   void sortItems();
   void CmSelectTheItems();
   void DoAfterOpRefresh() override;
+  /// As the buttons of the views do it.
   void setView(bool flat);
   /// The units as they stand in the list.
   const LiveUnits& units();
@@ -108,6 +109,7 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public CommandWindow, private CommandView 
   void afterCommand() override;
   void fillViews();
   void fillVisibleView();
+  void showView();
   void showRowsAnew();
   void expandTree();
   void orderRows();

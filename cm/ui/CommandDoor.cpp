@@ -32,18 +32,15 @@ class GivenUnits : public CommandView {
   QWidget* m_parent;
 };
 
-bool isUserCommand(DialogCommand command) {
-  return command == DialogCommand::RunTool ||
-         (command >= DialogCommand::UserCommand1 && command <= DialogCommand::UserCommand4);
-}
-
 }  // namespace
 
 bool runCommandOn(int controlId, const UnitList& units, QWidget* parent) {
   for (const ButtonRow& button : buttonTable()) {
     if (button.controlId != controlId) continue;
     if (!allowsCommands() || !CommandWindow::allowsAnother()) return false;
-    if (isUserCommand(button.command)) return UserDefinedCommand::run(button.command, units);
+    if (UserDefinedCommand::isBehind(button.command)) {
+      return UserDefinedCommand::run(button.command, units);
+    }
     GivenUnits view(units, parent);
     if (button.command == DialogCommand::Compare) return UnitComparison(view).OnVddiff();
     const CommandRow* const row = commandRow(button.command);
