@@ -216,9 +216,9 @@ bool CommandRun::callRecursive(const CommandRow& row, UnitList& units,
     return checkOutItems(units, arguments.list(), m_diagnostics);
   }
   if (row.command == DialogCommand::Fetch) return fetchRecursive(row, units, options);
-  // A provider has no recursive undo of its own: the plain one gets every unit.
-  const bool plainUndo = row.command == DialogCommand::UndoCheckOut && usesProvider;
-  return call(row, plainUndo ? row.call : row.recursiveCall, units, options);
+  // A provider has its own way for a check-in alone; otherwise it gets every unit.
+  const bool getsUnits = usesProvider && row.command != DialogCommand::CheckIn;
+  return call(row, getsUnits ? row.call : row.recursiveCall, units, options);
 }
 
 bool CommandRun::fetchRecursive(const CommandRow& row, const UnitList& units,

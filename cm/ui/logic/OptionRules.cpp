@@ -64,6 +64,7 @@ OptionPresets OptionRules::presets(const CommandRow& row, const UnitList& units)
   OptionPresets presets;
   presets.command = row.command;
   presets.window = mode.usesProvider ? row.provider.window : row.tool.window;
+  for (const IUnit* unit : units) presets.unitNames.push_back(unit->getName());
   presets.comment = ViewState::unusedComment(row.command);
   presets.offersInformationFiles = row.takesInformationFiles && InformationFiles::areOffered();
   presets.withInformationFiles =
@@ -73,7 +74,7 @@ OptionPresets OptionRules::presets(const CommandRow& row, const UnitList& units)
   presets.offersDescendants =
       !isAdd && offersDescendants(CheckForDescendentsInSelectedItems(units));
   if (presets.window == OptionWindow::Provider) presets.takesComment = takesComment(row.command);
-  if (presets.window == OptionWindow::CheckOut) {
+  if (row.command == DialogCommand::CheckOut) {
     // Who checks out wants to write, unless the settings say otherwise.
     presets.mode = CMProperty::getProjectBool(IPN::General, "DefaultLockReserveOnCheckOut", true);
     presets.saysReserved = mode.isBranchTool;
@@ -82,19 +83,22 @@ OptionPresets OptionRules::presets(const CommandRow& row, const UnitList& units)
   return presets;
 }
 
-std::string OptionRules::objection(const OptionPresets& presets, const CommandOptions& options) {
-  if (presets.window == OptionWindow::CheckIn) {
-    const BackEndMode mode = BackEndMode::current();
-    const std::string forbidden = forbiddenCharacters();
-    const bool applies = !mode.usesProvider && !mode.isNoTool && !forbidden.empty();
-    if (applies && options.comment.find_first_of(forbidden) != std::string::npos) {
-      return formatMessage(MessageId::ForbiddenCharacters, {forbidden});
-    }
+std::string OptionRules::commentObjection(DialogCommand command, const std::string& comment) {
+  const BackEndMode mode = BackEndMode::current();
+  if (mode.usesProvider) {
+    const bool isMissing =
+        command == DialogCommand::CheckIn && comment.empty() &&
+        CMProperty::getProjectBool(IPN::SCC, "CommentsRequiredForCheckIn", false);
+    return isMissing ? loadMessage(MessageId::CommentRequired) : std::string();
   }
-  if (presets.window == OptionWindow::Provider && presets.command == DialogCommand::CheckIn &&
-      options.comment.empty() &&
-      CMProperty::getProjectBool(IPN::SCC, "CommentsRequiredForCheckIn", false)) {
-    return loadMessage(MessageId::CommentRequired);
+  const std::string forbidden = mode.isNoTool ? std::string() : forbiddenCharacters();
+  if (comment.find_first_of(forbidden) == std::string::npos) return {};
+  return formatMessage(MessageId::ForbiddenCharacters, {forbidden});
+}
+
+std::string OptionRules::objection(const OptionPresets& presets, const CommandOptions& options) {
+  if (presets.window == OptionWindow::CheckIn || presets.window == OptionWindow::Provider) {
+    return commentObjection(presets.command, options.comment);
   }
   if (presets.window == OptionWindow::Connect && trimmed(options.archive).empty()) {
     return loadMessage(MessageId::ConnectWithoutArchive);

@@ -8,8 +8,4 @@ QString commandName(const WindowCommand& row) {
   return QCoreApplication::translate("Command", row.name);
 }
 
-QString commandHint(const WindowCommand& row) {
-  return QCoreApplication::translate("Command", row.hint);
-}
-
 }  // namespace veldra::host::desktop

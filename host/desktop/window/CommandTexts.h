@@ -6,8 +6,8 @@
 
 namespace veldra::host::desktop {
 
-/// The command's words in the user's language.
+/// The command's name in the user's language. Beside "Undo Last Change" and "New Unit" a menu needs
+/// more words than a button of the dialog.
 QString commandName(const WindowCommand& row);
-QString commandHint(const WindowCommand& row);
 
 }  // namespace veldra::host::desktop

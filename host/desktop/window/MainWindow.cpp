@@ -15,6 +15,7 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include "cm/ui/widgets/FailureStrip.h"
 #include "host/desktop/Text.h"
 #include "host/desktop/window/CommandTexts.h"
 #include "host/desktop/window/EditorParts.h"
@@ -111,6 +112,10 @@ void MainWindow::buildContent() {
           &MainWindow::connectProject);
   column->addWidget(m_hint);
   column->addWidget(m_splitter, 1);
+  m_failures = new FailureStrip;
+  m_failures->layout()->setContentsMargins(9, 4, 9, 4);
+  connect(m_failures, &FailureStrip::selectWanted, this, &MainWindow::selectFailed);
+  column->addWidget(m_failures);
   m_pages->addWidget(work);
   setCentralWidget(m_pages);
 
@@ -204,7 +209,8 @@ std::vector<const OutlineNode*> MainWindow::selectedNodes() const {
 UnitList MainWindow::selectedUnits(bool withDescendants) {
   UnitList units;
   for (const OutlineNode* node : selectedNodes()) {
-    collectUnits(*m_session.project(), *node, withDescendants, units);
+    // A package without a file of its own can only mean what it holds.
+    collectUnits(*m_session.project(), *node, withDescendants || node->file.empty(), units);
   }
   return units;
 }

@@ -3,9 +3,11 @@
 #include <QMainWindow>
 #include <QTimer>
 #include <map>
+#include <set>
+#include <string>
 #include <vector>
 
-#include "host/desktop/commands/CommandRun.h"
+#include "host/desktop/commands/CommandTable.h"
 #include "host/desktop/logic/DiskChanges.h"
 #include "host/desktop/logic/ModelOutline.h"
 #include "host/desktop/logic/RecentProjects.h"
@@ -17,6 +19,10 @@ class QLabel;
 class QSplitter;
 class QStackedWidget;
 class QTreeView;
+
+namespace veldra {
+class FailureStrip;
+}
 
 namespace veldra::host::desktop {
 
@@ -86,6 +92,8 @@ class MainWindow : public QMainWindow {
   // --- version control ---
   void runCommand(const WindowCommand& row);
   bool mayLoseChanges(const UnitList& units);
+  void tellEnd(const WindowCommand& row, bool isDone);
+  void selectFailed();
   void tellReport(const CommandReport& report, const QString& operation);
   void openDialog();
   void connectProject();
@@ -108,7 +116,6 @@ class MainWindow : public QMainWindow {
   ArchiveStatus m_archive;
   QTimer m_diskDelay;
   QFileSystemWatcher* m_watcher;
-  QString m_lastComment;
   std::map<const WindowCommand*, QAction*> m_commands;
   std::vector<QAction*> m_projectActions;
   QAction* m_save = nullptr;
@@ -129,6 +136,8 @@ class MainWindow : public QMainWindow {
   QDockWidget* m_outputDock;
   QDockWidget* m_traceDock;
   Banner* m_hint;
+  FailureStrip* m_failures;
+  std::set<std::string> m_failedFiles;  ///< Of the last command.
   QLabel* m_toolLabel;
   QLabel* m_countLabel;
   ProgressPopup* m_progress;

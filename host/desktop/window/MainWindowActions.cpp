@@ -8,6 +8,7 @@
 #include <QToolBar>
 #include <QTreeView>
 
+#include "cm/ui/logic/ButtonRules.h"
 #include "host/desktop/Appearance.h"
 #include "host/desktop/Text.h"
 #include "host/desktop/window/CommandTexts.h"
@@ -131,7 +132,7 @@ void MainWindow::buildCommandMenu() {
     QAction* action = menu.addAction(commandName(row));
     action->setObjectName(row.icon);
     action->setShortcut(QKeySequence(row.shortcut));
-    action->setStatusTip(commandHint(row));
+    action->setStatusTip(shown(ButtonRules::tooltip(row.command)));
     action->setIcon(icon(row.icon));
     action->setProperty("iconName", row.icon);
     connect(action, &QAction::triggered, this, [this, &row] { runCommand(row); });
