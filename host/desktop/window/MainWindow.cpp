@@ -14,6 +14,7 @@
 #include <QToolBar>
 #include <QTreeView>
 #include <QVBoxLayout>
+#include <cstdlib>
 
 #include "cm/ui/widgets/FailureStrip.h"
 #include "host/desktop/Text.h"
@@ -23,6 +24,7 @@
 #include "host/desktop/window/ModelTreeModel.h"
 #include "host/desktop/window/OutputView.h"
 #include "host/desktop/window/ProgressPopup.h"
+#include "host/desktop/window/ProviderNotice.h"
 #include "host/desktop/window/UnitEditor.h"
 #include "host/desktop/window/WelcomePage.h"
 
@@ -44,6 +46,9 @@ MainWindow::MainWindow(DesktopSession& session)
   buildDocks();
   buildActions();
   m_progress = new ProgressPopup(session.work(), this);
+  auto* notice = new ProviderNotice(session.work(), this);
+  connect(notice, &ProviderNotice::leaveWanted, this, &MainWindow::leaveNow);
+  m_leave = [] { std::_Exit(EXIT_SUCCESS); };
   m_diskDelay.setSingleShot(true);
   m_diskDelay.setInterval(DiskDelayMilliseconds);
   connect(&m_diskDelay, &QTimer::timeout, this, &MainWindow::lookAtDisk);
@@ -152,8 +157,6 @@ void MainWindow::buildDocks() {
 void MainWindow::showProviderCall(const QString& entryPoint) {
   if (entryPoint.isEmpty()) return statusBar()->clearMessage();
   statusBar()->showMessage(tr("The source control provider is at work: %1").arg(entryPoint));
-  // The call may hold this thread for long.
-  statusBar()->repaint();
 }
 
 void MainWindow::restoreLayout() {
@@ -173,11 +176,24 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     return;
   }
+  storeLayout();
+  event->accept();
+}
+
+void MainWindow::storeLayout() const {
   QSettings settings;
   settings.setValue("window/geometry", saveGeometry());
   settings.setValue("window/state", saveState(LayoutVersion));
   settings.setValue("window/splitter", m_splitter->saveState());
-  event->accept();
+}
+
+/// No destructor runs: the provider holds a thread, and nothing can take the call back.
+void MainWindow::leaveNow() {
+  m_editor->commit();
+  if (m_session.hasUnsaved() && !m_session.save()) return;
+  storeLayout();
+  QSettings().sync();
+  m_leave();
 }
 
 void MainWindow::changeEvent(QEvent* event) {

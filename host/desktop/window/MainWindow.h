@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 #include <QTimer>
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -47,6 +48,9 @@ class MainWindow : public QMainWindow {
   bool openProject(const QString& directoryOrFile);
   /// Selects the units of these paths below the project.
   void selectUnits(const QStringList& paths);
+  /// What ends the program while the provider holds one of its threads; by default the process
+  /// ends at once.
+  void setWayOut(std::function<void()> leave) { m_leave = std::move(leave); }
   /// Looks at the disk now, as the window does when it is activated.
   void lookAtDisk();
 
@@ -67,6 +71,8 @@ class MainWindow : public QMainWindow {
   QAction* addAction(QMenu& menu, const QString& iconName, const QString& text,
                      const QKeySequence& keys, void (MainWindow::*slot)());
   void restoreLayout();
+  void storeLayout() const;
+  void leaveNow();
   void showProviderCall(const QString& entryPoint);
 
   // --- projects ---
@@ -116,6 +122,7 @@ class MainWindow : public QMainWindow {
   ArchiveStatus m_archive;
   QTimer m_diskDelay;
   QFileSystemWatcher* m_watcher;
+  std::function<void()> m_leave;
   std::map<const WindowCommand*, QAction*> m_commands;
   std::vector<QAction*> m_projectActions;
   QAction* m_save = nullptr;
