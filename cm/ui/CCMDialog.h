@@ -130,7 +130,6 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public CommandWindow, private CommandView 
   QTreeView* m_tree = nullptr;
   QLineEdit* m_filter = nullptr;
   QLabel* m_empty = nullptr;
-  QLabel* m_totals = nullptr;
 
   LiveUnits m_selection;
   std::vector<int> m_selectedRows;
