@@ -79,6 +79,9 @@ void MainWindow::buildContent() {
   m_tree = new QTreeView;
   m_tree->setObjectName("ModelTree");
   m_tree->setAccessibleName(tr("Model"));
+  m_tree->setAccessibleDescription(
+      tr("The units of the project; commands work on the selected ones, and the current one is "
+         "edited beside"));
   m_tree->setModel(m_model);
   m_tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
   m_tree->setUniformRowHeights(true);
@@ -113,8 +116,9 @@ void MainWindow::buildContent() {
   column->setSpacing(0);
   m_hint = new Banner;
   m_hint->label()->setText(tr("This project is not under version control yet."));
-  connect(m_hint->addButton(tr("Co&nnect to Archive…")), &QPushButton::clicked, this,
-          &MainWindow::connectProject);
+  QPushButton* const connectIt = m_hint->addButton(
+      tr("Co&nnect to Archive…"), tr("Chooses the tool and the archive that keep the versions"));
+  connect(connectIt, &QPushButton::clicked, this, &MainWindow::connectProject);
   column->addWidget(m_hint);
   column->addWidget(m_splitter, 1);
   m_failures = new FailureStrip;
@@ -142,10 +146,12 @@ void MainWindow::buildDocks() {
   };
   m_output = new OutputView;
   m_output->setPlaceholderText(tr("What the CM tool does and says appears here."));
+  m_output->setAccessibleDescription(tr("What the CM tool does and says"));
   m_output->follow(m_session.output());
   m_outputDock = dock("OutputDock", tr("CM Output"), m_output);
   m_trace = new OutputView;
   m_trace->setPlaceholderText(tr("The module's steps appear here."));
+  m_trace->setAccessibleDescription(tr("The steps of the module, for whoever looks for a fault"));
   connect(&m_session, &DesktopSession::traceLine, m_trace,
           [this](const QString& line) { m_trace->addText(line + '\n'); });
   m_traceDock = dock("TraceDock", tr("Trace Log"), m_trace);

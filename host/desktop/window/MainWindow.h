@@ -108,6 +108,7 @@ class MainWindow : public QMainWindow {
   /// As the tool's setting for it says: always, never, or after a question.
   void refreshStatusAtOpening();
   void connectNow();
+  void connectThroughProvider();
   /// The module has been at work: files and units may be others.
   void afterWork();
   void editSettings();

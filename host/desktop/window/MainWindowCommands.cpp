@@ -11,6 +11,7 @@
 #include "cm/templates/CMProperty.h"
 #include "cm/ui/CCMDialog.h"
 #include "cm/ui/CommandDoor.h"
+#include "cm/ui/ControlIds.h"
 #include "cm/ui/logic/UnitTexts.h"
 #include "cm/ui/widgets/FailureStrip.h"
 #include "host/desktop/Text.h"
@@ -110,6 +111,8 @@ void MainWindow::connectProject() {
          .icon = QMessageBox::Warning});
     return;
   }
+  // A provider asks by itself where the project is to be.
+  if (CMProperty::useSccCompliantTool() != 0) return connectThroughProvider();
   PropertyLayers& layers = m_session.host().properties();
   ConnectDialog dialog(layers, SettingsTable(layers, project).tool(),
                        shown(CMArchive::getMainArchive()), this);
@@ -118,6 +121,15 @@ void MainWindow::connectProject() {
   layers.setInProject({IPN::CM, IPN::General, IPN::CMTool}, tool);
   layers.setInProject({IPN::CM, tool, IPN::CMArchive}, bytesOf(dialog.choice().archive()));
   connectNow();
+}
+
+void MainWindow::connectThroughProvider() {
+  if (!m_session.save()) return;
+  const bool isConnected = runCommandOn(ControlId::Connect, {}, this);
+  m_session.save();
+  if (isConnected) refreshProviderStatus();
+  showProject();
+  if (isConnected) statusBar()->showMessage(tr("Connected to the archive."));
 }
 
 void MainWindow::connectNow() {
@@ -156,6 +168,7 @@ void MainWindow::refreshStatus() {
   lookAtDisk();
   if (CMProperty::useSccCompliantTool() != 0) {
     // Whatever is set for the opening of projects: this was asked for.
+    project->startShowingCMStatus();
     refreshProviderStatus();
   } else if (!CMArchive::getMainArchive().empty()) {
     const CommandReport report = listArchive();

@@ -43,6 +43,7 @@ ProgressPopup::ProgressPopup(WorkWatch& work, QWidget* parent)
   bold.setBold(true);
   m_operation->setFont(bold);
   m_bar->setAccessibleName(tr("Progress"));
+  m_cancel->setAccessibleDescription(tr("Ends the command after the unit at hand"));
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(m_operation);
   layout->addWidget(m_unit);

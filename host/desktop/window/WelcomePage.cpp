@@ -22,13 +22,17 @@ WelcomePage::WelcomePage(QWidget* parent)
   QFont large = title->font();
   large.setPointSizeF(large.pointSizeF() * 1.9);
   title->setFont(large);
+  title->setWordWrap(true);
   auto* hint = new QLabel(tr("Open a project, or make one from a folder of model files."));
+  hint->setWordWrap(true);
   hint->setForegroundRole(QPalette::PlaceholderText);
   auto* open = new QCommandLinkButton(tr("&Open Project…"), tr("A folder with a project file"));
   open->setIcon(icon("open"));
+  open->setAccessibleDescription(open->description());
   auto* make = new QCommandLinkButton(tr("&New Project…"),
                                       tr("From a folder, with a CM tool and an archive"));
   make->setIcon(icon("new"));
+  make->setAccessibleDescription(make->description());
   connect(open, &QPushButton::clicked, this, &WelcomePage::openWanted);
   connect(make, &QPushButton::clicked, this, &WelcomePage::newWanted);
   for (QWidget* widget : std::initializer_list<QWidget*>{title, hint, open, make, m_recent}) {
@@ -51,6 +55,7 @@ void WelcomePage::showRecent(const std::vector<std::string>& projects) {
     const QString path = shown(project);
     auto* button = new QCommandLinkButton(shown(baseName(project)).replace('&', "&&"), path);
     button->setIcon(icon("project"));
+    button->setAccessibleDescription(tr("Opens %1").arg(path));
     connect(button, &QPushButton::clicked, this, [this, path] { emit recentWanted(path); });
     m_recentLayout->addWidget(button);
   }
