@@ -48,6 +48,8 @@ class VELDRA_CM_EXPORT OptionRules {
   static std::string commentObjection(DialogCommand command, const std::string& comment);
   /// What the command is called with.
   static CallArguments arguments(const CommandRow& row, const CommandOptions& options);
+  /// The command's name with the words that a button has no room for: "Undo Check Out".
+  static std::string commandTitle(DialogCommand command);
   /// The window's title; under a provider it names the command when the settings want that.
   static std::string title(const OptionPresets& presets);
 };

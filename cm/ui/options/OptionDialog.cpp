@@ -22,7 +22,7 @@ OptionDialog::OptionDialog(int dialogId, OptionPresets presets, QWidget* parent)
   connect(m_buttons, &QDialogButtonBox::accepted, this, &OptionDialog::accept);
   connect(m_buttons, &QDialogButtonBox::rejected, this, &OptionDialog::reject);
   describeButtons(*m_buttons);
-  setAcceptText(windowTitle());
+  setAcceptText(shown(OptionRules::commandTitle(m_presets.command)));
   m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   m_form->setRowWrapPolicy(QFormLayout::WrapAllRows);
   m_form->setVerticalSpacing(8);

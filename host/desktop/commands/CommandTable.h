@@ -10,7 +10,6 @@ namespace veldra::host::desktop {
 /// are free here, and what its editor has to do first.
 struct WindowCommand {
   DialogCommand command;
-  const char* name;  ///< In English; the windows translate it.
   const char* shortcut;
   const char* icon;
   bool savesFirst = false;     ///< What is unsaved must be in the file that the tool takes.

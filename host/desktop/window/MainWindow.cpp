@@ -18,7 +18,6 @@
 
 #include "cm/ui/widgets/FailureStrip.h"
 #include "host/desktop/Text.h"
-#include "host/desktop/window/CommandTexts.h"
 #include "host/desktop/window/EditorParts.h"
 #include "host/desktop/window/Icons.h"
 #include "host/desktop/window/ModelTreeModel.h"

@@ -9,9 +9,9 @@
 #include <QTreeView>
 
 #include "cm/ui/logic/ButtonRules.h"
+#include "cm/ui/logic/OptionRules.h"
 #include "host/desktop/Appearance.h"
 #include "host/desktop/Text.h"
-#include "host/desktop/window/CommandTexts.h"
 #include "host/desktop/window/Icons.h"
 #include "host/desktop/window/MainWindow.h"
 #include "host/desktop/window/OutputView.h"
@@ -129,7 +129,7 @@ void MainWindow::addAppearances(QMenu& menu) {
 void MainWindow::buildCommandMenu() {
   QMenu& menu = *menuBar()->addMenu(tr("Version &Control"));
   for (const WindowCommand& row : windowCommands()) {
-    QAction* action = menu.addAction(commandName(row));
+    QAction* action = menu.addAction(shown(OptionRules::commandTitle(row.command)));
     action->setObjectName(row.icon);
     action->setShortcut(QKeySequence(row.shortcut));
     action->setStatusTip(shown(ButtonRules::tooltip(row.command)));

@@ -12,13 +12,13 @@
 #include "cm/ui/CCMDialog.h"
 #include "cm/ui/CommandDoor.h"
 #include "cm/ui/ControlIds.h"
+#include "cm/ui/logic/OptionRules.h"
 #include "cm/ui/logic/UnitTexts.h"
 #include "cm/ui/widgets/FailureStrip.h"
 #include "host/desktop/Text.h"
 #include "host/desktop/commands/ArchiveCalls.h"
 #include "host/desktop/logic/SettingsTable.h"
 #include "host/desktop/window/ArchiveChoice.h"
-#include "host/desktop/window/CommandTexts.h"
 #include "host/desktop/window/ConnectDialog.h"
 #include "host/desktop/window/MainWindow.h"
 #include "host/desktop/window/SettingsDialog.h"
@@ -49,11 +49,12 @@ void MainWindow::runCommand(const WindowCommand& row) {
 void MainWindow::tellEnd(const WindowCommand& row, bool isDone) {
   const BatchResults& results = m_session.work().results();
   m_failedFiles = results.failedFiles();
-  m_failures->tell(commandName(row), m_failedFiles.size());
+  m_failures->tell(shown(OptionRules::commandTitle(row.command)), m_failedFiles.size());
   const auto done = std::ranges::count(results.all(), UnitEnd::Done, &UnitResult::end);
   if (!isDone || !m_failedFiles.empty()) return;
-  statusBar()->showMessage(
-      tr("%1: %n unit(s) done.", nullptr, static_cast<int>(done)).arg(commandName(row)), 8000);
+  statusBar()->showMessage(tr("%1: %n unit(s) done.", nullptr, static_cast<int>(done))
+                               .arg(shown(OptionRules::commandTitle(row.command))),
+                           8000);
 }
 
 void MainWindow::selectFailed() {

@@ -14,7 +14,7 @@ WelcomePage::WelcomePage(QWidget* parent)
     : QWidget(parent), m_recent(new QWidget), m_recentLayout(new QVBoxLayout(m_recent)) {
   auto* outer = new QVBoxLayout(this);
   auto* column = new QWidget;
-  column->setMaximumWidth(520);
+  column->setMaximumWidth(640);
   column->setMinimumWidth(420);
   auto* layout = new QVBoxLayout(column);
   layout->setSpacing(8);
@@ -22,9 +22,7 @@ WelcomePage::WelcomePage(QWidget* parent)
   QFont large = title->font();
   large.setPointSizeF(large.pointSizeF() * 1.9);
   title->setFont(large);
-  title->setWordWrap(true);
   auto* hint = new QLabel(tr("Open a project, or make one from a folder of model files."));
-  hint->setWordWrap(true);
   hint->setForegroundRole(QPalette::PlaceholderText);
   auto* open = new QCommandLinkButton(tr("&Open Project…"), tr("A folder with a project file"));
   open->setIcon(icon("open"));

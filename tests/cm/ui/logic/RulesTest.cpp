@@ -118,6 +118,19 @@ TEST_F(RulesTest, CommentsAreChecked) {
   EXPECT_EQ(OptionRules::objection(presets, options).substr(0, 5), "60406");
 }
 
+TEST_F(RulesTest, TitlesNameTheCommandAsTheSettingSays) {
+  OptionPresets presets;
+  presets.command = DialogCommand::UndoCheckOut;
+  presets.window = OptionWindow::Provider;
+  useProvider("Any");
+  EXPECT_EQ(OptionRules::title(presets).substr(0, 5), "60520");
+  set("UseSCCCommandTitles", "True", "SCC");
+  EXPECT_EQ(OptionRules::title(presets).substr(0, 5), "60532");
+  presets.command = DialogCommand::Lock;
+  presets.window = OptionWindow::Lock;
+  EXPECT_EQ(OptionRules::title(presets).substr(0, 5), "60432");
+}
+
 TEST_F(RulesTest, TheFirstViewComesFromTheSettingsAndIsNotReadAgain) {
   EXPECT_EQ(ViewState::sortColumn(), 1);
   set("GUI", "Flat", "General");

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QDialog>
 
 #include "host/desktop/Words.h"
@@ -85,8 +86,19 @@ TEST_P(EveryDesktopWindowTest, NoTextIsCutOff) {
     const int needed = test::neededWidth(widget);
     if (needed > 0) ++texts;
     EXPECT_LE(needed, widget.width()) << where;
+    const bool isButton = needed > 0 && qobject_cast<const QAbstractButton*>(&widget) != nullptr;
+    EXPECT_TRUE(!isButton || widget.minimumSizeHint().height() <= widget.height()) << where;
   });
   EXPECT_GT(texts, 80);
+}
+
+TEST_P(EveryDesktopWindowTest, CommandsAreNamedInTheLanguage) {
+  ScriptedQuestions questions;
+  DesktopSession session(questions, speaking(GetParam()));
+  const MainWindow window(session);
+  const QString name = window.findChild<QAction*>("undo-check-out")->text();
+  const bool isGerman = std::string_view(GetParam()) == "de";
+  EXPECT_EQ(name.toStdString(), isGerman ? "Auschecken verwerfen" : "Undo Check Out");
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, EveryDesktopWindowTest, testing::Values("en", "de"));
