@@ -87,7 +87,11 @@ TEST_P(EveryDesktopWindowTest, NoTextIsCutOff) {
     if (needed > 0) ++texts;
     EXPECT_LE(needed, widget.width()) << where;
     const bool isButton = needed > 0 && qobject_cast<const QAbstractButton*>(&widget) != nullptr;
-    EXPECT_TRUE(!isButton || widget.minimumSizeHint().height() <= widget.height()) << where;
+    const int height = widget.hasHeightForWidth() ? widget.heightForWidth(widget.width())
+                                                  : widget.minimumSizeHint().height();
+    if (isButton) {
+      EXPECT_LE(height, widget.height()) << where;
+    }
   });
   EXPECT_GT(texts, 80);
 }
