@@ -94,6 +94,7 @@ struct ReferenceHost::Parts {
         outputWindow(options.output, options.clearOutput),
         undo(model),
         trace(options.traceLog, options.traceObserver),
+        givenGuard(options.faultGuard),
         progress(options.progress),
         trustedCommands(layers, trustFileBeside(layers.files().userFile)),
         kept(
@@ -138,6 +139,7 @@ struct ReferenceHost::Parts {
   OpenProjectUndo undo;
   TraceLog trace;
   FaultGuard faultGuard;
+  CSignal2Exception* givenGuard;
   Registry registry;
   Libraries libraries;
   QuickReload quickReload;
@@ -237,7 +239,7 @@ LogTrace* ReferenceHost::trace() {
   return &m_parts->trace;
 }
 CSignal2Exception* ReferenceHost::faultGuard() {
-  return &m_parts->faultGuard;
+  return m_parts->givenGuard != nullptr ? m_parts->givenGuard : &m_parts->faultGuard;
 }
 IRegistry* ReferenceHost::registry() {
   return &m_parts->registry;

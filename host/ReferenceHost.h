@@ -31,7 +31,8 @@ struct HostOptions {
   IProgress* progress = nullptr;      ///< Follows operations unit by unit; null for none.
   IProcesses* processes =
       nullptr;  ///< In place of the real child processes, for example a dry run.
-  ChildWatch* childWatch = nullptr;  ///< Follows real child processes; null for nobody.
+  CSignal2Exception* faultGuard = nullptr;  ///< In place of the host's own.
+  ChildWatch* childWatch = nullptr;         ///< Follows real child processes; null for nobody.
   std::map<std::string, std::string> childEnvironment;  ///< Set for real child processes.
   std::string language;                                 ///< For messages; empty: the process's.
   std::optional<SettingsFiles> settings;                ///< In place of the standard places.

@@ -41,11 +41,12 @@ struct EntrySlot : EntryName {
 /// success: a provider that cannot do something must not stop what can be done without it. Callers
 /// that want to tell the user ask `has` first.
 ///
-/// A call runs on the caller's thread under the host's fault guard. A provider that crashes, or
-/// lets an exception out, is reported as `ProviderFailure` and never called again in this process:
-/// every later call throws the same. One that hangs cannot be called back, because providers open
-/// dialogs and keep state of the thread; the host is told of every call's begin and end
-/// (`IProgress`) so that it can tell the user.
+/// A call runs under the host's fault guard, on the caller's thread unless that takes it elsewhere.
+/// A provider that crashes, or lets an exception out, is reported as `ProviderFailure` and never
+/// called again in this process: every later call throws the same. One that hangs cannot be called
+/// back; the host is told of every call's begin and end (`IProgress`) so that it can tell the user,
+/// and may let its guard make the call on another thread, as long as that is always the same one:
+/// providers keep state of it.
 class SCCdll : public PDLL {
  public:
   template <class Function>

@@ -4,7 +4,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QTreeView>
 #include <QVBoxLayout>
 #include <initializer_list>
@@ -64,10 +63,7 @@ void CCMDialog::buildControls() {
   m_tree->setIconSize(unitIconWithStateSize(18));
   m_list = makeListView(this, ControlId::FlatList, tr("Units as a list"));
   m_list->setModel(m_listModel);
-  m_empty = control(new QLabel(this), ControlId::EmptyState, tr("What to do first"));
-  m_empty->setAlignment(Qt::AlignCenter);
-  m_empty->setWordWrap(true);
-  m_totals = control(new QLabel(this), ControlId::Totals, tr("Totals"));
+  m_empty = makeEmptyState(tr("What to do first"));
 }
 
 void CCMDialog::layOutControls() {
@@ -75,22 +71,11 @@ void CCMDialog::layOutControls() {
   for (QWidget* view : std::initializer_list<QWidget*>{m_tree, m_list, m_empty}) {
     views->addWidget(view, 1);
   }
-  auto* const close = control(new QPushButton(tr("&Close"), this), ControlId::Close, tr("Close"));
-  connect(close, &QPushButton::clicked, this, &CCMDialog::reject);
-  close->setAutoDefault(false);
-  auto* const foot = new QHBoxLayout;
-  foot->addWidget(m_totals);
-  foot->addWidget(&progressStrip(), 1);
-  foot->addStretch();
-  foot->addWidget(close);
-  auto* const layout = new QVBoxLayout(this);
-  layout->setContentsMargins(14, 12, 14, 12);
-  layout->setSpacing(10);
-  layout->addWidget(m_panel);
-  layout->addWidget(m_filter);
-  layout->addLayout(views, 1);
-  layout->addWidget(&failureStrip());
-  layout->addLayout(foot);
+  QVBoxLayout* const column = layOutColumn();
+  column->addWidget(m_panel);
+  column->addWidget(m_filter);
+  column->addLayout(views, 1);
+  layOutFoot(*column);
 }
 
 void CCMDialog::connectControls() {
@@ -123,7 +108,8 @@ void CCMDialog::OnInitDialog() {
     CmFillCI();
   }
   restorePlace({880, 620});
-  setView(ViewState::isFlat());
+  // Opening chooses nothing: the setting counts until somebody presses a button.
+  showView();
 }
 
 void CCMDialog::addColumns() {
@@ -132,8 +118,12 @@ void CCMDialog::addColumns() {
 
 void CCMDialog::setView(bool flat) {
   ViewState::setViewMode(flat ? "Flat" : "Tree");
+  showView();
+}
+
+void CCMDialog::showView() {
   if (fillVisibleView()) showRowsAnew();
-  if (flat && std::exchange(m_isFitDue, false)) fitColumns(*m_list, width());
+  if (ViewState::isFlat() && std::exchange(m_isFitDue, false)) fitColumns(*m_list, width());
   updateState();
   m_panel->setCommandsEnabled(true);
   visibleView()->setFocus();

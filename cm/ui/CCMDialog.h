@@ -68,6 +68,7 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public CommandWindow, private CommandView 
   void sortItems();
   void CmSelectTheItems();
   void DoAfterOpRefresh() override;
+  /// As the buttons of the views do it.
   void setView(bool flat);
   /// The units as they stand in the list.
   const LiveUnits& units();
@@ -109,6 +110,7 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public CommandWindow, private CommandView 
   void fillViews();
   /// True when rows of the list stand elsewhere now.
   bool fillVisibleView();
+  void showView();
   void showRowsAnew();
   void expandTree();
   bool orderRows();
@@ -129,7 +131,6 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public CommandWindow, private CommandView 
   LineView* m_tree = nullptr;
   QLineEdit* m_filter = nullptr;
   QLabel* m_empty = nullptr;
-  QLabel* m_totals = nullptr;
 
   LiveUnits m_selection;
   std::vector<int> m_selectedRows;

@@ -57,6 +57,8 @@ void CCMDialog::runPressed(DialogCommand command) {
       return synchronize();
     case DialogCommand::RefreshStatus:
       return refreshStatus();
+    case DialogCommand::CheckOutBranch:
+      return;  // The button is there for hosts, which do the work.
     default:
       break;
   }
@@ -82,8 +84,10 @@ void CCMDialog::RunUserDefCommandFromBrowser(const std::string& command, IUnit* 
 }
 
 void CCMDialog::refreshStatus() {
-  StatusRefresh::run(m_data->units.alive());
-  CmFillCI();
+  holdInput(shown(ButtonRules::caption(DialogCommand::RefreshStatus)));
+  const bool isRead = StatusRefresh::run(m_data->units.alive());
+  releaseInput();
+  if (isRead) CmFillCI();
 }
 
 void CCMDialog::listArchive() {

@@ -258,7 +258,7 @@ void CCMDialog::updateState() {
                          ? tr("No project is open. Open one, then come back here.")
                          : tr("This project has no units with files of their own yet. Save the "
                               "model, then add its units to the archive."));
-    m_totals->clear();
+    totals().clear();
     return;
   }
   const int all = static_cast<int>(m_data->units.size());
@@ -267,7 +267,7 @@ void CCMDialog::updateState() {
   const int visible = filtered ? m_list->model()->rowCount() : all;
   const QString units =
       filtered ? tr("%1 of %n unit(s)", nullptr, all).arg(visible) : tr("%n unit(s)", nullptr, all);
-  m_totals->setText(tr("%1, %n selected", nullptr, selected).arg(units));
+  totals().setText(tr("%1, %n selected", nullptr, selected).arg(units));
 }
 
 }  // namespace veldra

@@ -28,9 +28,21 @@ constexpr std::array<const char*, 22> CommandDrawings{
 constexpr std::array<const char*, 7> StateDrawings{"state-0", "state-1", "state-2", "state-3",
                                                    "state-4", "state-5", "state-6"};
 
+/// Whatever is painted is the picture, too.
+class PaintedEngine : public QIconEngine {
+ public:
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap picture(size);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    paint(&painter, picture.rect(), mode, state);
+    return picture;
+  }
+};
+
 /// Draws an SVG in the palette's ink whenever it is asked, so that every size is sharp. The ink of
 /// the Selected mode is given, since a pressed button and a selected line differ there.
-class InkEngine : public QIconEngine {
+class InkEngine : public PaintedEngine {
  public:
   InkEngine(QByteArray drawing, QPalette::ColorRole selectedInk)
       : m_drawing(std::move(drawing)), m_selectedInk(selectedInk) {}
@@ -38,14 +50,6 @@ class InkEngine : public QIconEngine {
   void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State) override {
     const QRect moved = mode == QIcon::Selected ? place.translated(0, 1) : place;
     inked(inkOf(mode)).draw(*painter, moved);
-  }
-
-  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    QPixmap picture(size);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    paint(&painter, picture.rect(), mode, state);
-    return picture;
   }
 
   QIconEngine* clone() const override { return new InkEngine(m_drawing, m_selectedInk); }
@@ -77,7 +81,7 @@ class InkEngine : public QIconEngine {
 };
 
 /// Two icons beside each other, and perhaps a third one in the corner of the right one.
-class PairEngine : public QIconEngine {
+class PairEngine : public PaintedEngine {
  public:
   PairEngine(QIcon left, QIcon right, QIcon corner)
       : m_left(std::move(left)), m_right(std::move(right)), m_corner(std::move(corner)) {}
@@ -89,14 +93,6 @@ class PairEngine : public QIconEngine {
     m_right.paint(painter, right, Qt::AlignCenter, mode);
     m_corner.paint(painter, right.adjusted(side * 2 / 5, side * 2 / 5, 0, 0), Qt::AlignCenter,
                    mode);
-  }
-
-  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    QPixmap picture(size);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    paint(&painter, picture.rect(), mode, state);
-    return picture;
   }
 
   QIconEngine* clone() const override { return new PairEngine(m_left, m_right, m_corner); }

@@ -4,7 +4,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QPushButton>
 #include <QTreeView>
 #include <QVBoxLayout>
 #include <utility>
@@ -41,28 +40,14 @@ ItemWindow::ItemWindow(const QString& name, int listId, std::shared_ptr<ItemRows
                              tr("Shows only entries that contain this text"));
   m_list = makeListView(this, listId, tr("Entries"));
   m_list->setModel(m_model);
-  m_empty = control(new QLabel(this), ControlId::EmptyState, tr("Nothing to show"));
-  m_empty->setAlignment(Qt::AlignCenter);
-  m_empty->setWordWrap(true);
-  m_totals = control(new QLabel(this), ControlId::Totals, tr("Totals"));
-  auto* const close = control(new QPushButton(tr("&Close"), this), ControlId::Close, tr("Close"));
-  close->setAutoDefault(false);
-  auto* const foot = new QHBoxLayout;
-  foot->addWidget(m_totals);
-  foot->addWidget(&progressStrip(), 1);
-  foot->addStretch();
-  foot->addWidget(close);
-  auto* const layout = new QVBoxLayout(this);
-  layout->setContentsMargins(14, 12, 14, 12);
-  layout->setSpacing(10);
-  layout->addLayout(m_buttonRow);
-  layout->addLayout(m_head);
-  layout->addWidget(m_filter);
-  layout->addWidget(m_list, 1);
-  layout->addWidget(m_empty, 1);
-  layout->addWidget(&failureStrip());
-  layout->addLayout(foot);
-  connect(close, &QPushButton::clicked, this, &ItemWindow::reject);
+  m_empty = makeEmptyState(tr("Nothing to show"));
+  QVBoxLayout* const column = layOutColumn();
+  column->addLayout(m_buttonRow);
+  column->addLayout(m_head);
+  column->addWidget(m_filter);
+  column->addWidget(m_list, 1);
+  column->addWidget(m_empty, 1);
+  layOutFoot(*column);
   connect(m_filter, &QLineEdit::textChanged, this, &ItemWindow::applyFilter);
   connect(m_list->header(), &QHeaderView::sectionClicked, this, &ItemWindow::OnColumnclick);
   connect(m_list, &QWidget::customContextMenuRequested, this, &ItemWindow::showContextMenu);
@@ -221,7 +206,7 @@ void ItemWindow::updateState() {
   const QString entries = filtered
                               ? tr("%1 of %n row(s)", nullptr, all).arg(m_list->model()->rowCount())
                               : tr("%n row(s)", nullptr, all);
-  m_totals->setText(tr("%1, %n selected", nullptr, selected).arg(entries));
+  totals().setText(tr("%1, %n selected", nullptr, selected).arg(entries));
 }
 
 }  // namespace veldra

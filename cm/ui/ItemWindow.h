@@ -81,7 +81,6 @@ class VELDRA_CM_UI_EXPORT ItemWindow : public CommandWindow, protected ItemView 
   QHBoxLayout* m_buttonRow;
   QVBoxLayout* m_head;
   QLabel* m_empty;
-  QLabel* m_totals;
   std::vector<CommandButton*> m_buttons;
   std::vector<int> m_selectedRows;
   bool m_wasEmpty = true;  ///< Before the refill at hand.

@@ -1,11 +1,15 @@
 #include "cm/ui/Translations.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
 #include <QTranslator>
+#include <memory>
 
 namespace veldra {
 
 namespace {
+
+bool isChosen = false;
 
 QString processLanguage() {
   for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
@@ -15,25 +19,32 @@ QString processLanguage() {
   return QStringLiteral("en");
 }
 
+/// Nothing stays installed when there is no such file.
+void install(std::unique_ptr<QTranslator>& translator, const QString& file) {
+  translator = std::make_unique<QTranslator>();
+  if (translator->load(file)) QCoreApplication::installTranslator(translator.get());
+}
+
 }  // namespace
 
 void loadDialogTranslations(const QString& language) {
-  static QTranslator* loaded = nullptr;
-  if (loaded != nullptr) QCoreApplication::removeTranslator(loaded);
-  delete loaded;
-  loaded = new QTranslator(QCoreApplication::instance());
+  isChosen = true;
+  static std::unique_ptr<QTranslator> toolkit;
+  static std::unique_ptr<QTranslator> dialogs;
   const bool isGerman = language.startsWith(QLatin1String("de"));
   const QString name =
       isGerman ? QStringLiteral("veldra_cm_ui_de") : QStringLiteral("veldra_cm_ui_en");
-  if (loaded->load(QStringLiteral(":/veldra-cm/translations/") + name)) {
-    QCoreApplication::installTranslator(loaded);
+  toolkit.reset();
+  // Qt's own English words need no file, and its others come in a package of their own.
+  if (isGerman) {
+    install(toolkit,
+            QLibraryInfo::path(QLibraryInfo::TranslationsPath) + QStringLiteral("/qtbase_de.qm"));
   }
+  install(dialogs, QStringLiteral(":/veldra-cm/translations/") + name);
 }
 
 void loadDialogTranslationsOnce() {
-  static bool isDone = false;
-  if (!isDone) loadDialogTranslations(processLanguage());
-  isDone = true;
+  if (!isChosen) loadDialogTranslations(processLanguage());
 }
 
 }  // namespace veldra

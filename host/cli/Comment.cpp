@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "cm/host/IUserMessages.h"
+#include "cm/ui/logic/BatchResults.h"
 #include "host/cli/ExitCode.h"
 #include "host/cli/printing/BytesAsText.h"
 #include "host/kept/ProjectRecords.h"
@@ -65,19 +66,6 @@ void keepComment(Session& session, const std::string& comment, bool isDone) {
   } else if (!isDone) {
     session.console().err << "The comment is kept; --last-comment takes it for the next try.\n";
   }
-}
-
-void refuseForbidden(std::string_view comment, std::string_view forbiddenCharacters) {
-  std::string found;
-  for (const char c : forbiddenCharacters) {
-    if (comment.find(c) == std::string_view::npos) continue;
-    if (!found.empty()) found += ' ';
-    found += textForPeople(std::string_view(&c, 1));
-  }
-  if (found.empty()) return;
-  throw CommandError(
-      ExitCode::WrongUsage,
-      "The tool cannot take these characters of the comment: " + found + ". Leave them out.");
 }
 
 }  // namespace veldra::host::cli

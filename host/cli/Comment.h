@@ -2,7 +2,6 @@
 
 #include <istream>
 #include <string>
-#include <string_view>
 
 #include "host/cli/Options.h"
 #include "host/cli/Session.h"
@@ -20,8 +19,5 @@ void offerLastComment(Session& session, std::string& comment);
 /// Keeps the comment for the next try, unless `isDone`: the command did all of its work, and the
 /// comment is in the archive. Then what was kept is forgotten.
 void keepComment(Session& session, const std::string& comment, bool isDone);
-
-/// Ends the command when the comment holds one of the characters that the tool cannot take.
-void refuseForbidden(std::string_view comment, std::string_view forbiddenCharacters);
 
 }  // namespace veldra::host::cli

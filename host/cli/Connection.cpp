@@ -9,6 +9,7 @@
 #include "cm/templates/CMProperty.h"
 #include "cm/tool/CMToolShellInterface.h"
 #include "cm/tool/CommandText.h"
+#include "cm/ui/logic/BatchResults.h"
 #include "host/cli/CallArguments.h"
 #include "host/cli/ProviderConnection.h"
 #include "host/cli/UnitOutcome.h"
@@ -49,7 +50,7 @@ std::optional<std::string> createArchive(const std::string& place) {
   const int executed = theCMToolShellInterface().Execute(command, output, errorText, "");
   if (executed != 0 && !theCMToolShellInterface().lastCommandEnd().failed) return std::nullopt;
   const std::string& words = theCMToolShellInterface().lastCommandEnd().words;
-  return "The archive " + place + " cannot be made.\n" + toolWords(words) +
+  return "The archive " + place + " cannot be made.\n" + firstWords(words) +
          "\ncommand: " + withoutSecrets(command) + adviceLine(words);
 }
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <filesystem>
 
+#include "cm/host/IPN.h"
 #include "cm/scc/SccInterface.h"
 #include "host/cli/ExitCode.h"
 #include "host/platform/FaultGuard.h"
@@ -117,6 +118,12 @@ void installProvider(const std::string& place, const std::string& name,
 
 void makeDefaultProvider(const std::string& place, const InstalledProvider& provider) {
   store(place, {{ProvidersKey, DefaultName, provider.key}});
+}
+
+std::vector<std::pair<PropertyKey, std::string>> providerSettings() {
+  return {{{IPN::CM, IPN::General, "UseSCCtool"}, "Yes"},
+          // Without it nothing that the provider has to say is ever seen.
+          {{IPN::CM, IPN::SCC, "RedirectOutputToVeldra"}, "True"}};
 }
 
 std::string shippedProvider(const std::string& installationRoot) {

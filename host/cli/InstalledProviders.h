@@ -1,8 +1,10 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "host/model/Property.h"
 #include "host/platform/Registry.h"
 
 namespace veldra::host::cli {
@@ -28,6 +30,9 @@ void installProvider(const std::string& place, const std::string& name, const st
 
 /// Makes an installed provider the default of the user. Throws like the above.
 void makeDefaultProvider(const std::string& place, const InstalledProvider& provider);
+
+/// How a project is set that works with the user's provider.
+std::vector<std::pair<PropertyKey, std::string>> providerSettings();
 
 /// The library of the provider that comes with this program, whether it exists or not.
 std::string shippedProvider(const std::string& installationRoot);

@@ -9,6 +9,7 @@
 #include "cm/core/CMAskOnCheckoutGuard.h"
 #include "cm/templates/CMProperty.h"
 #include "cm/tool/CommandText.h"
+#include "cm/ui/logic/OptionRules.h"
 #include "host/cli/ArchiveContent.h"
 #include "host/cli/CallArguments.h"
 #include "host/cli/Comment.h"
@@ -32,10 +33,16 @@ void checkUsage(const Options& options) {
   }
 }
 
-void checkComment(const std::string& comment) {
-  std::string forbidden;
-  CMProperty::getToolPropertyValue("InValidCharactersInRevisionDescription", forbidden);
-  refuseForbidden(comment, forbidden);
+void checkComment(const UnitOperation& operation, const std::string& comment) {
+  // What only this program has goes by the rules of a tool.
+  const DialogCommand command =
+      operation.row != nullptr ? operation.row->command : DialogCommand::AddToArchive;
+  const std::string objection = OptionRules::commentObjection(command, comment);
+  if (!objection.empty()) throw CommandError(ExitCode::WrongUsage, textForPeople(objection));
+}
+
+const char* templateOf(const UnitOperation& operation) {
+  return operation.row != nullptr ? operation.row->templateProperty : operation.templateProperty;
 }
 
 /// Whether what a tool shows waits for its good end: the words of a failure are told with the unit,
@@ -86,9 +93,13 @@ class UnitBatch {
     const bool usesProvider = CMProperty::useSccCompliantTool() != 0;
     // A provider runs no commands that could be held back.
     if (options.dryRun && usesProvider) return planAll();
+    const CommandRow* const row = m_operation.row;
     // What lies in packages has been selected; a provider takes each unit and loads it anew.
-    const bool isRecursive = options.recursive && m_operation.runRecursive && !usesProvider;
-    const UnitOperation::Run& run = isRecursive ? m_operation.runRecursive : m_operation.run;
+    const bool isRecursive =
+        options.recursive && row != nullptr && row->recursiveCall != nullptr && !usesProvider;
+    const UnitOperation::Run run = row == nullptr ? m_operation.run
+                                   : isRecursive  ? row->recursiveCall
+                                                  : row->call;
     run(units, arguments.list(), m_diagnostics);
     if (isRecursive && m_operation.recursiveReloads && !options.dryRun) reload();
   }
@@ -203,7 +214,7 @@ class UnitBatch {
     if (at == m_indexOf.end()) return;
     UnitRecord& record = m_records[at->second];
     m_reached.insert(at->second);
-    applyTrace(trace, m_operation.templateProperty, m_diagnostics, record);
+    applyTrace(trace, templateOf(m_operation), m_diagnostics, record);
     if (m_session.options().dryRun) return makePlan(trace, m_operation.lock, record);
     if (m_operation.outputIsResult && record.result == UnitResult::Done) {
       record.message = resultText(trace);
@@ -295,7 +306,7 @@ ExitCode runUnitOperation(const Invocation& invocation, const UnitOperation& ope
     session.setWindow(WindowUse::Quiet);
   }
   if ((invocation.command.options & OptionSet::Comment) != 0) offerLastComment(session, comment);
-  checkComment(comment);
+  checkComment(operation, comment);
   UnitBatch batch(session, operation, comment);
   batch.select();
   const bool isEmpty = batch.isEmpty();

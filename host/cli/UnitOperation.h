@@ -5,6 +5,7 @@
 #include "cm/core/CMArguments.h"
 #include "cm/core/CMDiagnostic.h"
 #include "cm/host/IUnit.h"
+#include "cm/ui/logic/CommandTable.h"
 #include "host/cli/Commands.h"
 #include "host/cli/Rearranging.h"
 #include "host/cli/UnitSelection.h"
@@ -16,11 +17,13 @@ struct UnitOperation {
   using Run =
       std::function<int(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics)>;
 
-  Run run;
-  Run runRecursive{};            ///< For "-r"; without one, `run` does it.
-  const char* templateProperty;  ///< Where the tool's command stands.
-  const char* action;            ///< "check in"
-  const char* pastAction;        ///< "checked in"
+  /// What it does, from the table that the windows go by as well; null for what only this program
+  /// has, which says it by itself.
+  const CommandRow* row = nullptr;
+  Run run{};
+  const char* templateProperty = nullptr;  ///< Where the tool's command stands.
+  const char* action;                      ///< "check in"
+  const char* pastAction;                  ///< "checked in"
   CMMode::Mode mode;
   AllUnits all;      ///< What "--all" means for it, and the content of packages for "-r".
   const char* lock;  ///< What it does to the lock: "taken", "given back" or "untouched".

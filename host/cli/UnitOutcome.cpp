@@ -2,9 +2,8 @@
 
 #include <algorithm>
 #include <sstream>
-#include <string_view>
-#include <unordered_set>
 
+#include "cm/ui/logic/BatchResults.h"
 #include "host/cli/CallArguments.h"
 #include "host/cli/printing/BytesAsText.h"
 #include "host/platform/CommandLine.h"
@@ -13,9 +12,6 @@
 namespace veldra::host::cli {
 
 namespace {
-
-// A tool's first lines say what is wrong; what follows is mostly its own trace.
-constexpr std::size_t ShownToolLines = 4;
 
 UnitResult resultOf(UnitEnd end) {
   switch (end) {
@@ -30,28 +26,12 @@ UnitResult resultOf(UnitEnd end) {
   }
 }
 
-/// What to say when neither the tool nor the module has words for it.
-std::string wordsFor(UnitEnd end, const char* templateProperty) {
-  switch (end) {
-    case UnitEnd::Done:
-      return {};
-    case UnitEnd::Refused:
-      return "It cannot take part in this operation.";
-    case UnitEnd::Declined:
-      return "The file is writable and stays as it is. --force overwrites it.";
-    case UnitEnd::NotExpanded:
-      return std::string(
-                 "The tool's command cannot be made. \"veldra-cm expand --explain "
-                 "--property ") +
-             templateProperty + "\" shows where it fails.";
-    case UnitEnd::NotRun:
-      return "The tool's command cannot be run.";
-    case UnitEnd::ToolFailed:
-      return "The tool failed without a word, or ran out of time.";
-    case UnitEnd::NotReloaded:
-      return "The tool did its work, but the file cannot be loaded.";
-  }
-  return {};
+/// What this program has to offer beside what an end means.
+std::string wayOut(UnitEnd end, const char* templateProperty) {
+  if (end == UnitEnd::Declined) return " --force overwrites it.";
+  if (end != UnitEnd::NotExpanded) return {};
+  return std::string(" \"veldra-cm expand --explain --property ") + templateProperty +
+         "\" shows where it fails.";
 }
 
 /// What a provider said by itself. It goes to the output window, among the names of files; the
@@ -77,10 +57,6 @@ const CMDiagnostic* diagnosticOf(const std::string& file, const DiagnosticList& 
 
 }  // namespace
 
-std::string toolWords(const std::string& words) {
-  return firstLines(words, ShownToolLines);
-}
-
 std::string adviceLine(const std::string& words) {
   Host* const host = installedHost();
   const std::string advice = host != nullptr ? adviceOn(*host, words) : std::string();
@@ -89,10 +65,10 @@ std::string adviceLine(const std::string& words) {
 
 std::string failureOf(const UnitTrace& trace, const char* templateProperty) {
   if (trace.end == UnitEnd::Done) return {};
-  std::string failure = toolWords(providerWords(trace) + trace.words);
+  std::string failure = firstWords(providerWords(trace) + trace.words);
   // Why nothing could be run was written to the output window alone.
-  if (trace.end == UnitEnd::NotRun) failure = toolWords(trace.output);
-  if (failure.empty()) failure = wordsFor(trace.end, templateProperty);
+  if (trace.end == UnitEnd::NotRun) failure = firstWords(trace.output);
+  if (failure.empty()) failure = meaningOf(trace.end) + wayOut(trace.end, templateProperty);
   for (const std::string& command : trace.commands) failure += "\ncommand: " + command;
   return failure + adviceLine(trace.end == UnitEnd::NotRun ? trace.output : trace.words);
 }
@@ -114,17 +90,12 @@ void applyAbsence(bool wasCancelled, const std::string& reason, UnitRecord& reco
 
 std::string generalMessage(const DiagnosticList& diagnostics,
                            const std::vector<UnitTrace>& traces) {
+  std::vector<veldra::UnitResult> results;
+  for (const UnitTrace& trace : traces) results.push_back({trace.file, trace.end, trace.words});
   std::string message;
-  std::unordered_set<std::string_view> told;
-  for (const UnitTrace& trace : traces) told.insert(trace.words);
-  for (const CMDiagnostic& diagnostic : diagnostics) {
-    const bool isOfUnit = told.contains(diagnostic.getMessage()) ||
-                          std::ranges::any_of(traces, [&](const UnitTrace& trace) {
-                            return diagnostic.getMessage().find(trace.file) != std::string::npos;
-                          });
-    if (isOfUnit || diagnostic.getStatus() != CMDiagnostic::Failed) continue;
+  for (const std::string& failure : failuresOfNoUnit(diagnostics, results)) {
     if (!message.empty()) message += '\n';
-    message += diagnostic.getMessage();
+    message += failure;
   }
   return message;
 }

@@ -14,9 +14,6 @@ namespace veldra::host::cli {
 /// the property to look at when the command could not be made. Empty for work that is done.
 std::string failureOf(const UnitTrace& trace, const char* templateProperty);
 
-/// The first words of what a tool said about its failure.
-std::string toolWords(const std::string& words);
-
 /// A line that says what to do about a failure with these words, behind a line end; empty when we
 /// do not know.
 std::string adviceLine(const std::string& words);

@@ -1,22 +1,22 @@
 #include "host/desktop/Words.h"
 
 #include <QApplication>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QTranslator>
+#include <memory>
+
+#include "cm/ui/Translations.h"
 
 namespace veldra::host::desktop {
 
-void installWords() {
-  auto* toolkit = new QTranslator(QApplication::instance());
-  if (toolkit->load(QLocale(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    QApplication::installTranslator(toolkit);
-  }
-  auto* words = new QTranslator(QApplication::instance());
+void installWords(const QLocale& locale) {
+  // Those of the dialogs and of the toolkit.
+  loadDialogTranslations(locale.name());
+  static std::unique_ptr<QTranslator> words;
+  words = std::make_unique<QTranslator>();
   // English words need one too, for "1 unit" and "2 units".
-  if (words->load(QLocale(), "desktop", "_", ":/veldra/translations") ||
+  if (words->load(locale, "desktop", "_", ":/veldra/translations") ||
       words->load(":/veldra/translations/desktop_en.qm")) {
-    QApplication::installTranslator(words);
+    QApplication::installTranslator(words.get());
   }
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QLocale>
+
 namespace veldra::host::desktop {
 
-/// Lets all windows speak the user's language; English where there is no translation. To be called
-/// once, when there is an application.
-void installWords();
+/// Lets all windows speak a language, the user's by default; English where there is no translation.
+/// There must be an application. Another call chooses another language.
+void installWords(const QLocale& locale = QLocale());
 
 }  // namespace veldra::host::desktop

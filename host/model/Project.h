@@ -84,6 +84,9 @@ class Project : public UnitOf<IProject> {
   std::string getUnitDirectory() const override { return record().folder->path; }
   std::string getFileExtension() const override;
   bool showCMStatus() const override { return m_file.showCMStatus; }
+  /// From now on the states that a provider tells are read and shown. The project file says so when
+  /// it is written next; it is not modified by that alone.
+  void startShowingCMStatus() { m_file.showCMStatus = true; }
   bool isUsingRTC() const override { return false; }
   bool isLoadFromDM() const override { return false; }
 

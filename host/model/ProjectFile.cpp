@@ -135,6 +135,15 @@ std::vector<TomlSettings::Entry> propertiesOf(const Json& body, Problems& proble
   return entries;
 }
 
+namespace {
+
+bool showsStatus(const Json& body) {
+  const Json* const show = member(body, "showCMStatus");
+  return show && show->is_boolean() && show->get<bool>();
+}
+
+}  // namespace
+
 std::optional<ProjectFile> parseProjectFile(std::string_view bytes, Problem& fatal,
                                             Problems& problems) {
   std::optional<ModelText> text = parseModelText(bytes, fatal);
@@ -149,8 +158,7 @@ std::optional<ProjectFile> parseProjectFile(std::string_view bytes, Problem& fat
   readFileTypes(file, problems);
   file.archives = archivesOf(body, problems);
   file.properties = propertiesOf(body, problems);
-  const Json* show = member(body, "showCMStatus");
-  file.showCMStatus = show && show->is_boolean() && show->get<bool>();
+  file.showCMStatus = showsStatus(body);
   return file;
 }
 
@@ -160,6 +168,7 @@ void updateProjectText(ProjectFile& file, const std::vector<PropertyEntry>& prop
   if (controlledOf(body, known) != file.controlled) {
     putUnlessEmpty(body, "controlled", controlledJson(file.controlled));
   }
+  if (showsStatus(body) != file.showCMStatus) body["showCMStatus"] = file.showCMStatus;
   if (archivesOf(body, known) != file.archives) {
     putUnlessEmpty(body, "archives", archivesJson(file.archives));
   }

@@ -112,7 +112,7 @@ TEST_F(ScriptedToolTest, CommentsAndLabelsAreCheckedBeforeAnythingRuns) {
           "InValidCharactersInRevisionDescription = '%;'\n");
   const Ended comment = cm({"checkin", m_one, "-m", "100%; sure"});
   EXPECT_EQ(comment.code, 2);
-  EXPECT_THAT(comment.err, HasSubstr("% ;"));
+  EXPECT_THAT(comment.err, HasSubstr("%;"));
   for (const char* label : {"a\"b", "a>b", "$log", "(a?b)", "a\nb"}) {
     EXPECT_EQ(cm({"lock", m_one, "-l", label}).code, 2) << label;
   }

@@ -67,6 +67,7 @@ class MemoryTrace : public LogTrace {
   };
   void write(Log, std::string_view text, const char* file, int line) override {
     lines.push_back({std::string(text), MemoryFiles::nameOf(file), line});
+    if (onLine) onLine(lines.back().text);
   }
   std::vector<std::string> texts() const {
     std::vector<std::string> all;
@@ -74,6 +75,7 @@ class MemoryTrace : public LogTrace {
     return all;
   }
   std::vector<Line> lines;
+  std::function<void(const std::string&)> onLine;
 };
 
 /// Runs the body as it is. Real hosts catch the processor's signals here; in tests the body throws

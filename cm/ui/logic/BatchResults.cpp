@@ -1,6 +1,7 @@
 #include "cm/ui/logic/BatchResults.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 #include "cm/core/TextTools.h"
 #include "cm/host/IUserMessages.h"
@@ -11,18 +12,9 @@ namespace veldra {
 
 namespace {
 
-// A tool's first lines say what is wrong; what follows is mostly its own trace.
-constexpr int MostLines = 4;
+constexpr std::size_t MostLines = 4;
 
-std::string firstLines(const std::string& words) {
-  std::size_t end = 0;
-  for (int line = 0; line < MostLines && end != std::string::npos; ++line) {
-    end = words.find('\n', end == 0 ? 0 : end + 1);
-  }
-  return std::string(trimmed(std::string_view(words).substr(0, end)));
-}
-
-int meaningOf(UnitEnd end) {
+int meaningMessage(UnitEnd end) {
   switch (end) {
     case UnitEnd::Refused:
       return MessageId::UnitRefused;
@@ -39,16 +31,58 @@ int meaningOf(UnitEnd end) {
   }
 }
 
+bool speaksOf(const CMDiagnostic& diagnostic, const UnitResult& result) {
+  const std::string& message = diagnostic.getMessage();
+  const bool isSameText = !result.words.empty() && message.find(result.words) != std::string::npos;
+  return isSameText || message.find(result.file) != std::string::npos;
+}
+
 bool isTold(const UnitResult& result, const DiagnosticList& diagnostics) {
-  return std::any_of(diagnostics.begin(), diagnostics.end(), [&](const CMDiagnostic& diagnostic) {
-    const std::string& message = diagnostic.getMessage();
-    const bool isSameText =
-        !result.words.empty() && message.find(result.words) != std::string::npos;
-    return isSameText || message.find(result.file) != std::string::npos;
-  });
+  return std::any_of(
+      diagnostics.begin(), diagnostics.end(),
+      [&result](const CMDiagnostic& diagnostic) { return speaksOf(diagnostic, result); });
 }
 
 }  // namespace
+
+std::string meaningOf(UnitEnd end) {
+  return end == UnitEnd::Done ? std::string() : loadMessage(meaningMessage(end));
+}
+
+std::string firstLines(std::string_view text, std::size_t count) {
+  std::string out;
+  for (std::size_t taken = 0; taken < count && !text.empty();) {
+    const std::size_t end = text.find('\n');
+    const std::string_view line = trimmed(text.substr(0, end));
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    if (line.empty()) continue;
+    if (taken++ > 0) out += '\n';
+    out += line;
+  }
+  return out;
+}
+
+std::string firstWords(const std::string& words) {
+  return firstLines(words, MostLines);
+}
+
+std::vector<std::string> failuresOfNoUnit(const DiagnosticList& diagnostics,
+                                          const std::vector<UnitResult>& results) {
+  // Most are told word for word with their unit; only the others need a search.
+  std::unordered_set<std::string_view> told;
+  for (const UnitResult& result : results) told.insert(result.words);
+  std::vector<std::string> failures;
+  for (const CMDiagnostic& diagnostic : diagnostics) {
+    const std::string& message = diagnostic.getMessage();
+    const bool isFailure = diagnostic.getStatus() == CMDiagnostic::Failed && !message.empty();
+    if (!isFailure || told.contains(message)) continue;
+    const bool isOfUnit =
+        std::any_of(results.begin(), results.end(),
+                    [&](const UnitResult& result) { return speaksOf(diagnostic, result); });
+    if (!isOfUnit) failures.push_back(message);
+  }
+  return failures;
+}
 
 void BatchResults::start() {
   m_results.clear();
@@ -90,9 +124,8 @@ void BatchResults::addFailures(DiagnosticList& diagnostics) const {
 }
 
 std::string reasonOf(const UnitResult& result) {
-  std::string words = firstLines(result.words);
-  if (!words.empty() || result.end == UnitEnd::Done) return words;
-  return loadMessage(meaningOf(result.end));
+  const std::string words = firstWords(result.words);
+  return words.empty() ? meaningOf(result.end) : words;
 }
 
 }  // namespace veldra

@@ -2,6 +2,7 @@
 
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "cm/core/CMDiagnostic.h"
@@ -38,6 +39,15 @@ class VELDRA_CM_EXPORT BatchResults {
   bool m_wasCancelled = false;
 };
 
+/// What an end means when nobody has words for it; empty for a good one.
+VELDRA_CM_EXPORT std::string meaningOf(UnitEnd end);
+/// The first lines that hold more than blanks, without the blanks around them.
+VELDRA_CM_EXPORT std::string firstLines(std::string_view text, std::size_t count);
+/// What of a tool's words says what is wrong; what follows is mostly its own trace.
+VELDRA_CM_EXPORT std::string firstWords(const std::string& words);
+/// The failures among the diagnostics that speak of none of these units.
+VELDRA_CM_EXPORT std::vector<std::string> failuresOfNoUnit(const DiagnosticList& diagnostics,
+                                                           const std::vector<UnitResult>& results);
 /// Why the work on a unit came to nothing, in a sentence; of one that is done, what was remarked.
 VELDRA_CM_EXPORT std::string reasonOf(const UnitResult& result);
 

@@ -16,6 +16,7 @@
 #include "cm/ui/logic/FailureMessage.h"
 #include "cm/ui/logic/GuardedCall.h"
 #include "cm/ui/logic/InformationFiles.h"
+#include "cm/ui/logic/ProviderOptions.h"
 #include "cm/ui/logic/RecursiveRun.h"
 #include "cm/ui/logic/SelectionRules.h"
 #include "cm/ui/logic/ViewState.h"
@@ -71,10 +72,16 @@ bool CommandRun::run(const CommandRow& row) {
   const CommandSide& side = BackEndMode::current().usesProvider ? row.provider : row.tool;
   if (!allowsSelection(side.selection, m_view.GetSelectedCount())) return false;
   traceIfAny(row.starting);
-  // An answer for all units is meant for those of this command.
-  const CMAskOnCheckoutGuard guard;
-  const UndoScope undo(row.changesModel);
-  return runInside(row);
+  m_completed = side.completed;
+  bool succeeded = false;
+  {
+    // An answer for all units is meant for those of this command.
+    const CMAskOnCheckoutGuard guard;
+    const UndoScope undo(row.changesModel);
+    succeeded = runInside(row);
+  }
+  if (succeeded) traceIfAny(m_completed);
+  return succeeded;
 }
 
 bool CommandRun::runInside(const CommandRow& row) {
@@ -94,16 +101,10 @@ bool CommandRun::askFirst(const CommandRow& row, CommandOptions& options) {
     showError(MessageId::ProviderNotCompliant);
     return false;
   }
-  switch (mode.usesProvider ? row.provider.window : row.tool.window) {
-    case OptionWindow::None:
-      return connectFirst(row, options);
-    case OptionWindow::Question:
-      return askUndo(options);
-    case OptionWindow::Connect:
-      return askWindow(row, options) && connectFirst(row, options);
-    default:
-      break;
-  }
+  if (row.command == DialogCommand::Connect && !allowsConnecting()) return false;
+  const OptionWindow window = mode.usesProvider ? row.provider.window : row.tool.window;
+  if (window == OptionWindow::None) return true;
+  if (window == OptionWindow::Question) return askUndo(options);
   if (row.command == DialogCommand::Fetch && skipsFetchWindow()) return true;
   if (row.command == DialogCommand::AddToArchive && !askSubUnits(options)) return false;
   const bool subUnits = options.withDescendants;
@@ -121,8 +122,7 @@ bool CommandRun::askWindow(const CommandRow& row, CommandOptions& options) {
 
 bool CommandRun::askUndo(CommandOptions& options) {
   const UnitList units = m_selection.alive();
-  if (InformationFiles::areOffered() &&
-      InformationFiles::shouldSetInformationFilesCheckBoxForUnitsList2(units)) {
+  if (InformationFiles::areOffered() && InformationFiles::areThere(units)) {
     const std::optional<bool> take = askYesNo(MessageId::UndoInformationFiles);
     if (!take) return false;
     options.withInformationFiles = *take;
@@ -140,15 +140,11 @@ bool CommandRun::askSubUnits(CommandOptions& options) {
   return take.has_value();
 }
 
-bool CommandRun::connectFirst(const CommandRow& row, const CommandOptions& options) {
-  if (row.command != DialogCommand::Connect) return true;
+bool CommandRun::allowsConnecting() {
   std::string refusal;
-  if (ConnectingToVaultrixWithControlledFiles(refusal)) {
-    notifyUserAndAsk(refusal, MessageBox::IconError);
-    return false;
-  }
-  if (!options.archive.empty()) CMArchive::setMainArchive(options.archive);
-  return true;
+  if (!ConnectingToVaultrixWithControlledFiles(refusal)) return true;
+  notifyUserAndAsk(refusal, MessageBox::IconError);
+  return false;
 }
 
 bool CommandRun::takeSelection(const CommandRow& row, const CommandOptions& options,
@@ -173,20 +169,29 @@ bool CommandRun::takeSelection(const CommandRow& row, const CommandOptions& opti
 
 bool CommandRun::runPlain(const CommandRow& row, const CommandOptions& options) {
   UnitList units;
-  return takeSelection(row, options, units) && call(row, row.call, units, options);
+  if (!takeSelection(row, options, units)) return false;
+  if (!options.archive.empty()) CMArchive::setMainArchive(options.archive);
+  return call(row, row.call, units, options);
 }
 
 bool CommandRun::runRecursive(const CommandRow& row, const CommandOptions& options) {
   UnitList units;
   if (!takeSelection(row, options, units)) return false;
   traceIfAny(row.recursive->starting);
-  if (!callRecursive(row, units, options)) return false;
-  if (row.recursive->reloadStarting != nullptr) {
-    traceIfAny(row.recursive->reloadStarting);
-    reloadFiles(units);
-    traceIfAny(row.recursive->reloadCompleted);
-  }
-  return true;
+  m_completed = row.recursive->completed;
+  m_taken.assign(units);
+  IUnit* const first = units.empty() ? nullptr : units.front();
+  const bool usesProvider = CMProperty::getUseSCCtool() != 0;
+  if (usesProvider && !makesProviderContextCurrent(first)) return false;
+  return callRecursive(row, units, options);
+}
+
+/// What the command has loaded already is another object now, and is left alone.
+void CommandRun::reloadBelow(const RecursiveVariant& variant) {
+  if (variant.reloadStarting == nullptr) return;
+  traceIfAny(variant.reloadStarting);
+  reloadFiles(m_taken.alive());
+  traceIfAny(variant.reloadCompleted);
 }
 
 bool CommandRun::call(const CommandRow& row, UnitCommandFunction function, UnitList& units,
@@ -211,9 +216,9 @@ bool CommandRun::callRecursive(const CommandRow& row, UnitList& units,
     return checkOutItems(units, arguments.list(), m_diagnostics);
   }
   if (row.command == DialogCommand::Fetch) return fetchRecursive(row, units, options);
-  // A provider has no recursive undo of its own: the plain one gets every unit.
-  const bool plainUndo = row.command == DialogCommand::UndoCheckOut && usesProvider;
-  return call(row, plainUndo ? row.call : row.recursiveCall, units, options);
+  // A provider has its own way for a check-in alone; otherwise it gets every unit.
+  const bool getsUnits = usesProvider && row.command != DialogCommand::CheckIn;
+  return call(row, getsUnits ? row.call : row.recursiveCall, units, options);
 }
 
 bool CommandRun::fetchRecursive(const CommandRow& row, const UnitList& units,
@@ -253,10 +258,8 @@ void CommandRun::finish(const CommandRow& row, const CommandOptions& options, bo
                       loadMessage(MessageId::CommandResults + static_cast<int>(row.command)))
       .displayStatus();
   tellRemarks();
+  if (options.withDescendants && row.recursive != nullptr) reloadBelow(*row.recursive);
   m_view.DoAfterOpRefresh();
-  const bool recursive = options.withDescendants && row.recursive != nullptr;
-  const CommandSide& side = CMProperty::getUseSCCtool() != 0 ? row.provider : row.tool;
-  traceIfAny(recursive ? row.recursive->completed : side.completed);
 }
 
 }  // namespace veldra

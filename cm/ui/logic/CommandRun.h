@@ -21,14 +21,12 @@ class VELDRA_CM_EXPORT CommandRun {
   bool run(const CommandRow& row);
 
  private:
-  enum class Scope { Plain, Recursive };
-
   bool runInside(const CommandRow& row);
   bool askFirst(const CommandRow& row, CommandOptions& options);
   bool askWindow(const CommandRow& row, CommandOptions& options);
   bool askUndo(CommandOptions& options);
   bool askSubUnits(CommandOptions& options);
-  bool connectFirst(const CommandRow& row, const CommandOptions& options);
+  static bool allowsConnecting();
   bool takeSelection(const CommandRow& row, const CommandOptions& options, UnitList& units);
   bool runPlain(const CommandRow& row, const CommandOptions& options);
   bool runRecursive(const CommandRow& row, const CommandOptions& options);
@@ -37,10 +35,13 @@ class VELDRA_CM_EXPORT CommandRun {
   bool callRecursive(const CommandRow& row, UnitList& units, const CommandOptions& options);
   bool fetchRecursive(const CommandRow& row, const UnitList& units, const CommandOptions& options);
   void tellRemarks() const;
+  void reloadBelow(const RecursiveVariant& variant);
   void finish(const CommandRow& row, const CommandOptions& options, bool succeeded);
 
   CommandView& m_view;
   LiveUnits m_selection;
+  LiveUnits m_taken;             ///< What a recursive variant works on.
+  const char* m_completed = "";  ///< Trace line for the end.
   DiagnosticList m_diagnostics;
 };
 

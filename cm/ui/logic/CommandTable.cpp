@@ -4,6 +4,7 @@
 #include <array>
 
 #include "cm/core/CMFacade.h"
+#include "cm/host/IPN.h"
 #include "cm/ui/ControlIds.h"
 
 namespace veldra {
@@ -35,6 +36,7 @@ const std::array<CommandRow, 10>& rows() {
        .tool = {Any, Window::Connect, "Connect to Archive completed"},
        .provider = {Any, Window::None, "Connect to Archive completed"},
        .call = &CMFacade::ConnectToArchive,
+       .templateProperty = IPN::CMConnectToCMRepository,
        .needsCompliance = true},
       {.command = Fetch,
        .controlId = ControlId::Fetch,
@@ -42,6 +44,7 @@ const std::array<CommandRow, 10>& rows() {
        .tool = {AtLeastOne, Window::Provider, "Fetch completed"},
        .provider = {AtLeastOne, Window::Provider, "Fetch completed"},
        .call = &CMFacade::Fetch,
+       .templateProperty = IPN::CMFetch,
        .parts = CallPart::Mode | CallPart::Label,
        .changesModel = true,
        .recursive = &RecursiveFetch,
@@ -52,17 +55,19 @@ const std::array<CommandRow, 10>& rows() {
        .tool = {AtLeastOne, Window::CheckOut, "Check Out completed"},
        .provider = {AtLeastOne, Window::Provider, "Check Out completed"},
        .call = &CMFacade::CheckOut,
+       .templateProperty = IPN::CMCheckOut,
        .parts = ModeLabelComment,
        .changesModel = true,
        .takesInformationFiles = true,
        .recursive = &RecursiveCheckOut,
-       .recursiveCall = &CMFacade::CheckOut},
+       .recursiveCall = &CMFacade::RecCheckOut},
       {.command = UndoCheckOut,
        .controlId = ControlId::UndoCheckOut,
        .starting = "Starting Undo Check Out",
        .tool = {AtLeastOne, Window::Question, "Undo Check Out completed"},
        .provider = {OnlyOne, Window::Provider, "Undo Check Out completed"},
        .call = &CMFacade::Uncheckout,
+       .templateProperty = IPN::CMUnLockItem,
        .parts = CallPart::Mode,
        .changesModel = true,
        .takesInformationFiles = true,
@@ -74,6 +79,7 @@ const std::array<CommandRow, 10>& rows() {
        .tool = {AtLeastOne, Window::CheckIn, "Check In completed"},
        .provider = {AtLeastOne, Window::Provider, "Check In completed"},
        .call = &CMFacade::CheckIn,
+       .templateProperty = IPN::CMCheckIn,
        .parts = ModeLabelComment,
        .changesModel = true,
        .takesInformationFiles = true,
@@ -85,6 +91,7 @@ const std::array<CommandRow, 10>& rows() {
        .tool = {AtLeastOne, Window::CheckIn, "Add to Archive completed"},
        .provider = {AtLeastOne, Window::Provider, "Add to Archive completed"},
        .call = &CMFacade::AddMember,
+       .templateProperty = IPN::CMAddMember,
        .parts = CallPart::Mode | CallPart::Comment,
        .changesModel = true,
        .needsCompliance = true,
@@ -95,6 +102,7 @@ const std::array<CommandRow, 10>& rows() {
        .tool = {AtLeastOne, Window::Lock, "Lock completed"},
        .provider = {AtLeastOne, Window::Lock, "Lock completed"},
        .call = &CMFacade::LockItem,
+       .templateProperty = IPN::CMLockItem,
        .parts = CallPart::Mode | CallPart::Label,
        .changesModel = true,
        .takesInformationFiles = true},
@@ -104,6 +112,7 @@ const std::array<CommandRow, 10>& rows() {
        .tool = {AtLeastOne, Window::Lock, "Unlock completed"},
        .provider = {AtLeastOne, Window::Lock, "Unlock completed"},
        .call = &CMFacade::UnLockItem,
+       .templateProperty = IPN::CMUnLockItem,
        .parts = CallPart::Mode | CallPart::Label,
        .changesModel = true,
        .takesInformationFiles = true},
@@ -113,7 +122,8 @@ const std::array<CommandRow, 10>& rows() {
        // With a tool it closes with the words of the refresh; readers of the log know it that way.
        .tool = {AtLeastOne, Window::None, "Refresh CM State completed"},
        .provider = {OneAndOnlyOne, Window::None, "History completed"},
-       .call = &CMFacade::History},
+       .call = &CMFacade::History,
+       .templateProperty = "History"},
       {.command = Properties,
        .controlId = ControlId::Properties,
        .starting = "",

@@ -65,7 +65,7 @@ struct RecursiveVariant {
 
 using UnitCommandFunction = int (*)(UnitList&, ArgumentList&, DiagnosticList&);
 
-/// A command that calls the facade with the selected units.
+/// A command that calls the facade with units. The windows and the command line go by it.
 struct CommandRow {
   DialogCommand command;
   int controlId;
@@ -73,12 +73,13 @@ struct CommandRow {
   CommandSide tool;
   CommandSide provider;
   UnitCommandFunction call;
-  unsigned parts = 0;            ///< Bits of `CallPart`.
-  bool changesModel = false;     ///< Runs inside an undo transaction of the host.
-  bool needsCompliance = false;  ///< Under the provider back end it must be usable.
+  const char* templateProperty = "";  ///< Holds the tool's command line; empty when none does.
+  unsigned parts = 0;                 ///< Bits of `CallPart`.
+  bool changesModel = false;          ///< Runs inside an undo transaction of the host.
+  bool needsCompliance = false;       ///< Under the provider back end it must be usable.
   bool takesInformationFiles = false;
   const RecursiveVariant* recursive = nullptr;
-  UnitCommandFunction recursiveCall = nullptr;
+  UnitCommandFunction recursiveCall = nullptr;  ///< A tool's own way with all below a package.
 };
 
 /// The row of a command; null for those that do not call the facade with units.

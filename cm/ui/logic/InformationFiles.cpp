@@ -27,6 +27,17 @@ bool isSavedSeparately(IUnit& unit) {
   return (unit.getFlags() & UnitFlag::SavedSeparately) != 0;
 }
 
+bool isObserved(IUnit* unit) {
+  const ICodeGenConfigInfo* const configuration = respectingConfiguration();
+  if (unit == nullptr || configuration == nullptr) return false;
+  if (configuration->isObserved(unit)) return true;
+  const std::vector<IDObject*> owned = unit->getAggregates();
+  return std::any_of(owned.begin(), owned.end(), [configuration](IDObject* object) {
+    IUnit* const part = object != nullptr ? object->asUnit() : nullptr;
+    return part != nullptr && isSavedSeparately(*part) && configuration->isObserved(part);
+  });
+}
+
 }  // namespace
 
 bool InformationFiles::areOffered() {
@@ -34,18 +45,12 @@ bool InformationFiles::areOffered() {
          respectingConfiguration() != nullptr;
 }
 
+bool InformationFiles::areThere(const UnitList& units) {
+  return std::any_of(units.begin(), units.end(), &isObserved);
+}
+
 bool InformationFiles::shouldSetInformationFilesCheckBox(IUnit* unit) {
-  if (unit == nullptr || !CMProperty::getProjectBool(IPN::General, RespectSetting, false)) {
-    return false;
-  }
-  const ICodeGenConfigInfo* const configuration = respectingConfiguration();
-  if (configuration == nullptr) return false;
-  if (configuration->isObserved(unit)) return true;
-  const std::vector<IDObject*> owned = unit->getAggregates();
-  return std::any_of(owned.begin(), owned.end(), [configuration](IDObject* object) {
-    IUnit* const part = object != nullptr ? object->asUnit() : nullptr;
-    return part != nullptr && isSavedSeparately(*part) && configuration->isObserved(part);
-  });
+  return CMProperty::getProjectBool(IPN::General, RespectSetting, false) && isObserved(unit);
 }
 
 bool InformationFiles::shouldSetInformationFilesCheckBoxForUnitsList(

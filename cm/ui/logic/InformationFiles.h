@@ -13,6 +13,9 @@ class VELDRA_CM_EXPORT InformationFiles {
   /// Whether the setting and the code generation of the project let options about them be shown; a
   /// missing setting counts as yes.
   static bool areOffered();
+  /// Whether one of the units, or of those that they own, was generated into source files, whatever
+  /// the setting says.
+  static bool areThere(const UnitList& units);
   /// Whether the unit, or one that it owns, was generated into source files. Here a missing setting
   /// counts as no.
   static bool shouldSetInformationFilesCheckBox(IUnit* unit);

@@ -1,5 +1,8 @@
 #include "cm/ui/logic/OptionRules.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "cm/core/TextTools.h"
 #include "cm/host/IEnvironment.h"
 #include "cm/host/IModel.h"
@@ -9,6 +12,7 @@
 #include "cm/host/MessageIds.h"
 #include "cm/templates/CMProperty.h"
 #include "cm/ui/logic/BackEndMode.h"
+#include "cm/ui/logic/ButtonRules.h"
 #include "cm/ui/logic/InformationFiles.h"
 #include "cm/ui/logic/SelectionRules.h"
 #include "cm/ui/logic/ViewState.h"
@@ -35,21 +39,10 @@ std::string forbiddenCharacters() {
   return std::string(trimmed(characters));
 }
 
-/// The order of the titles that name a provider's command.
-int titleOf(DialogCommand command) {
-  switch (command) {
-    case DialogCommand::Fetch:
-      return 0;
-    case DialogCommand::CheckOut:
-      return 1;
-    case DialogCommand::UndoCheckOut:
-      return 2;
-    case DialogCommand::CheckIn:
-      return 3;
-    default:
-      return 4;
-  }
-}
+/// The commands that have a longer name, in the order of these texts.
+constexpr DialogCommand Titled[] = {DialogCommand::Fetch, DialogCommand::CheckOut,
+                                    DialogCommand::UndoCheckOut, DialogCommand::CheckIn,
+                                    DialogCommand::AddToArchive};
 
 }  // namespace
 
@@ -64,6 +57,7 @@ OptionPresets OptionRules::presets(const CommandRow& row, const UnitList& units)
   OptionPresets presets;
   presets.command = row.command;
   presets.window = mode.usesProvider ? row.provider.window : row.tool.window;
+  for (const IUnit* unit : units) presets.unitNames.push_back(unit->getName());
   presets.comment = ViewState::unusedComment(row.command);
   presets.offersInformationFiles = row.takesInformationFiles && InformationFiles::areOffered();
   presets.withInformationFiles =
@@ -73,7 +67,7 @@ OptionPresets OptionRules::presets(const CommandRow& row, const UnitList& units)
   presets.offersDescendants =
       !isAdd && offersDescendants(CheckForDescendentsInSelectedItems(units));
   if (presets.window == OptionWindow::Provider) presets.takesComment = takesComment(row.command);
-  if (presets.window == OptionWindow::CheckOut) {
+  if (row.command == DialogCommand::CheckOut) {
     // Who checks out wants to write, unless the settings say otherwise.
     presets.mode = CMProperty::getProjectBool(IPN::General, "DefaultLockReserveOnCheckOut", true);
     presets.saysReserved = mode.isBranchTool;
@@ -82,19 +76,22 @@ OptionPresets OptionRules::presets(const CommandRow& row, const UnitList& units)
   return presets;
 }
 
-std::string OptionRules::objection(const OptionPresets& presets, const CommandOptions& options) {
-  if (presets.window == OptionWindow::CheckIn) {
-    const BackEndMode mode = BackEndMode::current();
-    const std::string forbidden = forbiddenCharacters();
-    const bool applies = !mode.usesProvider && !mode.isNoTool && !forbidden.empty();
-    if (applies && options.comment.find_first_of(forbidden) != std::string::npos) {
-      return formatMessage(MessageId::ForbiddenCharacters, {forbidden});
-    }
+std::string OptionRules::commentObjection(DialogCommand command, const std::string& comment) {
+  const BackEndMode mode = BackEndMode::current();
+  if (mode.usesProvider) {
+    const bool isMissing =
+        command == DialogCommand::CheckIn && comment.empty() &&
+        CMProperty::getProjectBool(IPN::SCC, "CommentsRequiredForCheckIn", false);
+    return isMissing ? loadMessage(MessageId::CommentRequired) : std::string();
   }
-  if (presets.window == OptionWindow::Provider && presets.command == DialogCommand::CheckIn &&
-      options.comment.empty() &&
-      CMProperty::getProjectBool(IPN::SCC, "CommentsRequiredForCheckIn", false)) {
-    return loadMessage(MessageId::CommentRequired);
+  const std::string forbidden = mode.isNoTool ? std::string() : forbiddenCharacters();
+  if (comment.find_first_of(forbidden) == std::string::npos) return {};
+  return formatMessage(MessageId::ForbiddenCharacters, {forbidden});
+}
+
+std::string OptionRules::objection(const OptionPresets& presets, const CommandOptions& options) {
+  if (presets.window == OptionWindow::CheckIn || presets.window == OptionWindow::Provider) {
+    return commentObjection(presets.command, options.comment);
   }
   if (presets.window == OptionWindow::Connect && trimmed(options.archive).empty()) {
     return loadMessage(MessageId::ConnectWithoutArchive);
@@ -114,15 +111,19 @@ CallArguments OptionRules::arguments(const CommandRow& row, const CommandOptions
        .projectDirectory = project != nullptr ? project->getProjectDirectory() : std::string()});
 }
 
+std::string OptionRules::commandTitle(DialogCommand command) {
+  const auto found = std::find(std::begin(Titled), std::end(Titled), command);
+  if (found == std::end(Titled)) return ButtonRules::caption(command);
+  return loadMessage(MessageId::OptionTitleOfCommand +
+                     static_cast<int>(std::distance(std::begin(Titled), found)));
+}
+
 std::string OptionRules::title(const OptionPresets& presets) {
-  if (presets.window != OptionWindow::Provider) {
-    // Lock and unlock share a window, and so do check-in and add; their captions are good titles.
-    return loadMessage(MessageId::CommandCaption + static_cast<int>(presets.command));
-  }
   const IProperty* const named = CMProperty::getToolProperty("UseSCCCommandTitles");
-  const bool namesCommand = named != nullptr && named->getBool();
-  return loadMessage(namesCommand ? MessageId::OptionTitleOfCommand + titleOf(presets.command)
-                                  : MessageId::OptionTitle);
+  const bool namesCommand =
+      presets.window != OptionWindow::Provider || (named != nullptr && named->getBool());
+  // Lock and unlock share a window, and so do check-in and add.
+  return namesCommand ? commandTitle(presets.command) : loadMessage(MessageId::OptionTitle);
 }
 
 }  // namespace veldra

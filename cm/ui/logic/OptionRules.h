@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "cm/host/Export.h"
 #include "cm/ui/logic/CommandTable.h"
@@ -10,6 +11,7 @@ namespace veldra {
 /// What an option window shows when it opens.
 struct OptionPresets {
   DialogCommand command = DialogCommand::CheckOut;
+  std::vector<std::string> unitNames;  ///< What the command is for.
   OptionWindow window = OptionWindow::None;
   std::string comment;
   bool mode = false;      ///< The lock, or that the unit stays checked out.
@@ -42,8 +44,12 @@ class VELDRA_CM_EXPORT OptionRules {
 
   /// Why the window may not be closed with these options, as a message; empty when it may.
   static std::string objection(const OptionPresets& presets, const CommandOptions& options);
+  /// Why a comment cannot go with a command, as a message; empty when it can.
+  static std::string commentObjection(DialogCommand command, const std::string& comment);
   /// What the command is called with.
   static CallArguments arguments(const CommandRow& row, const CommandOptions& options);
+  /// The command's name with the words that a button has no room for: "Undo Check Out".
+  static std::string commandTitle(DialogCommand command);
   /// The window's title; under a provider it names the command when the settings want that.
   static std::string title(const OptionPresets& presets);
 };

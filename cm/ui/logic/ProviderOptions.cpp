@@ -84,6 +84,15 @@ bool opensProviderContext(IUnit& unit) {
   return guardedly([&unit] { return contextOf(&unit) != nullptr; });
 }
 
+bool makesProviderContextCurrent(IUnit* unit) {
+  return guardedly([unit] {
+    const pvContextStruct* const context = contextOf(unit);
+    if (context == nullptr) return false;
+    CMProperty::setPvContext(context->getpvContextPtr());
+    return true;
+  });
+}
+
 bool refreshCMStatus(const UnitList& units) {
   return guardedly([&units] {
     IUnit* const first = units.empty() ? nullptr : units.front();

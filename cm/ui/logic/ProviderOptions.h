@@ -18,6 +18,9 @@ class VELDRA_CM_EXPORT ProviderOptions {
 /// not.
 VELDRA_CM_EXPORT bool opensProviderContext(IUnit& unit);
 
+/// The same for the unit, or for the project without one, and makes that context the current one.
+VELDRA_CM_EXPORT bool makesProviderContextCurrent(IUnit* unit);
+
 /// Reads the CM states of the units from the provider. False when there is no context; the user has
 /// been told.
 VELDRA_CM_EXPORT bool refreshCMStatus(const UnitList& units);

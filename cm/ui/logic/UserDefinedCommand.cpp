@@ -90,6 +90,11 @@ bool UserDefinedCommand::RunUserDefCommand(const std::string& command, const Uni
   return false;
 }
 
+bool UserDefinedCommand::isBehind(DialogCommand command) {
+  return command == DialogCommand::RunTool ||
+         (command >= DialogCommand::UserCommand1 && command <= DialogCommand::UserCommand4);
+}
+
 std::string UserDefinedCommand::commandOf(DialogCommand command) {
   std::string name = "RunCMToolCommand";
   if (command != DialogCommand::RunTool) {

@@ -23,6 +23,8 @@ class VELDRA_CM_EXPORT UserDefinedCommand {
                                 const std::string& transactionName = "User Defined Command",
                                 int failureMessage = MessageId::UserCommandFailed);
 
+  /// Whether a property of the project is behind the button.
+  static bool isBehind(DialogCommand command);
   /// The command behind one of the four buttons or the button that runs the CM tool; empty when the
   /// project has none.
   static std::string commandOf(DialogCommand command);

@@ -5,6 +5,7 @@
 #include <QLabel>
 
 #include "cm/host/MessageIds.h"
+#include "cm/templates/CMProperty.h"
 #include "cm/ui/ControlIds.h"
 #include "cm/ui/logic/HostTexts.h"
 #include "cm/ui/logic/UnitArchive.h"
@@ -15,7 +16,10 @@
 namespace veldra {
 
 CCMUnitArchiveDlg::CCMUnitArchiveDlg(IUnit* unit, QWidget* parent)
-    : QDialog(parent), m_unit(UnitList{unit}), m_path(new QLineEdit(this)) {
+    : QDialog(parent),
+      m_unit(UnitList{unit}),
+      m_wasConnected(CMProperty::getIsConnected()),
+      m_path(new QLineEdit(this)) {
   setWindowTitle(unit != nullptr ? tr("Archive of %1").arg(shown(unit->getName()))
                                  : tr("Archive of a Unit"));
   control(this, ControlId::UnitArchiveDialog, windowTitle());
@@ -93,6 +97,7 @@ void CCMUnitArchiveDlg::reject() {
     std::string project;
     std::string auxPath;
     unit->getSccArchiveRecursive(project, auxPath);
+    CMProperty::setIsConnected(m_wasConnected);
     const bool differs = project != m_formerProject || auxPath != m_formerAuxPath;
     if (differs) unit->setSccArchive(m_formerProject, m_formerAuxPath);
   }

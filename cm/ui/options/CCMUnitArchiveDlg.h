@@ -30,6 +30,7 @@ class VELDRA_CM_UI_EXPORT CCMUnitArchiveDlg : public QDialog {
   LiveUnits m_unit;
   std::string m_formerProject;  ///< What Cancel puts back.
   std::string m_formerAuxPath;
+  bool m_wasConnected;
   QLineEdit* m_path;
 };
 

@@ -1,7 +1,9 @@
 #include "cm/ui/options/OptionDialog.h"
 
+#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "cm/ui/Translations.h"
@@ -20,7 +22,7 @@ OptionDialog::OptionDialog(int dialogId, OptionPresets presets, QWidget* parent)
   connect(m_buttons, &QDialogButtonBox::accepted, this, &OptionDialog::accept);
   connect(m_buttons, &QDialogButtonBox::rejected, this, &OptionDialog::reject);
   describeButtons(*m_buttons);
-  setAcceptText(windowTitle());
+  setAcceptText(shown(OptionRules::commandTitle(m_presets.command)));
   m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   m_form->setRowWrapPolicy(QFormLayout::WrapAllRows);
   m_form->setVerticalSpacing(8);
@@ -30,6 +32,25 @@ OptionDialog::OptionDialog(int dialogId, OptionPresets presets, QWidget* parent)
   layout->addLayout(m_form, 1);
   layout->addWidget(m_buttons);
   setMinimumWidth(460);
+  addUnits();
+}
+
+void OptionDialog::addUnits() {
+  constexpr std::size_t MostNames = 4;
+  const std::vector<std::string>& names = m_presets.unitNames;
+  if (names.empty()) return;
+  QStringList some;
+  for (std::size_t i = 0; i < std::min(MostNames, names.size()); ++i) {
+    // A name as long as a book hides nothing but itself.
+    some << fontMetrics().elidedText(shown(names[i]), Qt::ElideMiddle, 300);
+  }
+  QString text = some.join(QStringLiteral(", "));
+  const int more = static_cast<int>(names.size()) - static_cast<int>(some.size());
+  if (more > 0) text = tr("%1 and %n more", nullptr, more).arg(text);
+  auto* const label = new QLabel(text, this);
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  m_form->addRow(tr("Units:"), label);
 }
 
 void OptionDialog::accept() {

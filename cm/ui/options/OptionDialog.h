@@ -40,6 +40,8 @@ class VELDRA_CM_UI_EXPORT OptionDialog : public QDialog {
   void setAcceptText(const QString& text);
 
  private:
+  void addUnits();
+
   OptionPresets m_presets;
   QFormLayout* m_form;
   QDialogButtonBox* m_buttons;

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>veldra::CCMArcCoDlg</name>
+    <message>
+        <source>The archive holds nothing of this project yet. Add units to it first.</source>
+        <translation>Das Archiv enthält noch nichts von diesem Projekt. Nehmen Sie zuerst Einheiten auf.</translation>
+    </message>
+</context>
+<context>
     <name>veldra::CCMCiInfoDlg</name>
     <message>
         <source>&amp;Label:</source>
@@ -59,18 +66,6 @@
     <message>
         <source>What to do first</source>
         <translation>Was zuerst zu tun ist</translation>
-    </message>
-    <message>
-        <source>Totals</source>
-        <translation>Summen</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>S&amp;chließen</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
     </message>
     <message>
         <source>CM: %1</source>
@@ -209,164 +204,6 @@
     </message>
 </context>
 <context>
-    <name>veldra::FailureStrip</name>
-    <message>
-        <source>Failed units</source>
-        <translation>Fehlgeschlagene Einheiten</translation>
-    </message>
-    <message>
-        <source>&amp;Select Them</source>
-        <translation>&amp;Auswählen</translation>
-    </message>
-    <message>
-        <source>Select the units that failed</source>
-        <translation>Die fehlgeschlagenen Einheiten auswählen</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 did not succeed for %n unit(s).</source>
-        <translation>
-            <numerusform>%1 ist bei %n Einheit nicht gelungen.</numerusform>
-            <numerusform>%1 ist bei %n Einheiten nicht gelungen.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>veldra::OptionDialog</name>
-    <message>
-        <source>Comment</source>
-        <translation>Kommentar</translation>
-    </message>
-    <message>
-        <source>What was changed, and why. It is kept in the archive.</source>
-        <translation>Was geändert wurde und warum. Es wird im Archiv aufbewahrt.</translation>
-    </message>
-    <message>
-        <source>What was changed, and why</source>
-        <translation>Was geändert wurde und warum</translation>
-    </message>
-    <message>
-        <source>The archive takes no comment here</source>
-        <translation>Das Archiv nimmt hier keinen Kommentar</translation>
-    </message>
-    <message>
-        <source>&amp;Comment:</source>
-        <translation>&amp;Kommentar:</translation>
-    </message>
-    <message>
-        <source>With all units &amp;below</source>
-        <translation>Mit allen Einheiten &amp;darunter</translation>
-    </message>
-    <message>
-        <source>Include &amp;information files</source>
-        <translation>&amp;Informationsdateien einbeziehen</translation>
-    </message>
-</context>
-<context>
-    <name>veldra::PathBrowse</name>
-    <message>
-        <source>Choose a File</source>
-        <translation>Datei wählen</translation>
-    </message>
-    <message>
-        <source>Choose a Folder</source>
-        <translation>Ordner wählen</translation>
-    </message>
-    <message>
-        <source>&amp;Browse</source>
-        <translation>&amp;Durchsuchen</translation>
-    </message>
-    <message>
-        <source>&amp;Folder...</source>
-        <translation>&amp;Ordner...</translation>
-    </message>
-    <message>
-        <source>F&amp;ile...</source>
-        <translation>&amp;Datei...</translation>
-    </message>
-</context>
-<context>
-    <name>veldra::ProgressStrip</name>
-    <message>
-        <source>Progress of the command</source>
-        <translation>Fortschritt des Befehls</translation>
-    </message>
-    <message>
-        <source>%1 is running...</source>
-        <translation>%1 läuft...</translation>
-    </message>
-    <message>
-        <source>%1: %2 of %3, %4</source>
-        <translation>%1: %2 von %3, %4</translation>
-    </message>
-    <message>
-        <source>, about %1 s left</source>
-        <translation>, noch etwa %1 s</translation>
-    </message>
-    <message>
-        <source>%1 (provider: %2)</source>
-        <translation>%1 (Anbieter: %2)</translation>
-    </message>
-</context>
-<context>
-    <name>veldra::ItemWindow</name>
-    <message>
-        <source>Filter entries (Ctrl+F)</source>
-        <translation>Einträge filtern (Strg+F)</translation>
-    </message>
-    <message>
-        <source>Shows only entries that contain this text</source>
-        <translation>Zeigt nur Einträge, die diesen Text enthalten</translation>
-    </message>
-    <message>
-        <source>Entries</source>
-        <translation>Einträge</translation>
-    </message>
-    <message>
-        <source>Nothing to show</source>
-        <translation>Nichts zu zeigen</translation>
-    </message>
-    <message>
-        <source>Totals</source>
-        <translation>Summen</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>S&amp;chließen</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n row(s)</source>
-        <translation>
-            <numerusform>%1 von %n Eintrag</numerusform>
-            <numerusform>%1 von %n Einträgen</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n row(s)</source>
-        <translation>
-            <numerusform>%n Eintrag</numerusform>
-            <numerusform>%n Einträge</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1, %n selected</source>
-        <translation>
-            <numerusform>%1, %n gewählt</numerusform>
-            <numerusform>%1, %n gewählt</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>veldra::CCMArcCoDlg</name>
-    <message>
-        <source>The archive holds nothing of this project yet. Add units to it first.</source>
-        <translation>Das Archiv enthält noch nichts von diesem Projekt. Nehmen Sie zuerst Einheiten auf.</translation>
-    </message>
-</context>
-<context>
     <name>veldra::CMSyncDlg</name>
     <message>
         <source>The model and the archive are in step.</source>
@@ -406,41 +243,18 @@
     </message>
 </context>
 <context>
-    <name>veldra::QuestionWindow</name>
+    <name>veldra::CommandWindow</name>
     <message>
-        <source>Question</source>
-        <translation>Frage</translation>
+        <source>Totals</source>
+        <translation>Summen</translation>
     </message>
     <message>
-        <source>Unit</source>
-        <translation>Einheit</translation>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
     </message>
     <message>
-        <source>&amp;Yes</source>
-        <translation>&amp;Ja</translation>
-    </message>
-    <message>
-        <source>Yes to &amp;All</source>
-        <translation>Ja, &amp;alle</translation>
-    </message>
-    <message>
-        <source>&amp;No</source>
-        <translation>&amp;Nein</translation>
-    </message>
-    <message>
-        <source>N&amp;o to All</source>
-        <translation>N&amp;ein, keine</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>Ab&amp;brechen</translation>
-    </message>
-</context>
-<context>
-    <name>veldra::ListView</name>
-    <message>
-        <source>Filter</source>
-        <translation>Filter</translation>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -604,6 +418,194 @@
     <message>
         <source>Ends the command</source>
         <translation>Beendet den Befehl</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::FailureStrip</name>
+    <message>
+        <source>Failed units</source>
+        <translation>Fehlgeschlagene Einheiten</translation>
+    </message>
+    <message>
+        <source>&amp;Select Them</source>
+        <translation>&amp;Auswählen</translation>
+    </message>
+    <message>
+        <source>Select the units that failed</source>
+        <translation>Die fehlgeschlagenen Einheiten auswählen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 did not succeed for %n unit(s).</source>
+        <translation>
+            <numerusform>%1 ist bei %n Einheit nicht gelungen.</numerusform>
+            <numerusform>%1 ist bei %n Einheiten nicht gelungen.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>veldra::ItemWindow</name>
+    <message>
+        <source>Filter entries (Ctrl+F)</source>
+        <translation>Einträge filtern (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Shows only entries that contain this text</source>
+        <translation>Zeigt nur Einträge, die diesen Text enthalten</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>Einträge</translation>
+    </message>
+    <message>
+        <source>Nothing to show</source>
+        <translation>Nichts zu zeigen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n row(s)</source>
+        <translation>
+            <numerusform>%1 von %n Eintrag</numerusform>
+            <numerusform>%1 von %n Einträgen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n Eintrag</numerusform>
+            <numerusform>%n Einträge</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n selected</source>
+        <translation>
+            <numerusform>%1, %n gewählt</numerusform>
+            <numerusform>%1, %n gewählt</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>veldra::ListView</name>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::OptionDialog</name>
+    <message>
+        <source>Comment</source>
+        <translation>Kommentar</translation>
+    </message>
+    <message>
+        <source>What was changed, and why. It is kept in the archive.</source>
+        <translation>Was geändert wurde und warum. Es wird im Archiv aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>What was changed, and why</source>
+        <translation>Was geändert wurde und warum</translation>
+    </message>
+    <message>
+        <source>The archive takes no comment here</source>
+        <translation>Das Archiv nimmt hier keinen Kommentar</translation>
+    </message>
+    <message>
+        <source>&amp;Comment:</source>
+        <translation>&amp;Kommentar:</translation>
+    </message>
+    <message>
+        <source>With all units &amp;below</source>
+        <translation>Mit allen Einheiten &amp;darunter</translation>
+    </message>
+    <message>
+        <source>Include &amp;information files</source>
+        <translation>&amp;Informationsdateien einbeziehen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 und %n weitere</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Units:</source>
+        <translation>Einheiten:</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::PathBrowse</name>
+    <message>
+        <source>Choose a File</source>
+        <translation>Datei wählen</translation>
+    </message>
+    <message>
+        <source>Choose a Folder</source>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Browse</source>
+        <translation>&amp;Durchsuchen</translation>
+    </message>
+    <message>
+        <source>&amp;Folder...</source>
+        <translation>&amp;Ordner...</translation>
+    </message>
+    <message>
+        <source>F&amp;ile...</source>
+        <translation>&amp;Datei...</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::ProgressStrip</name>
+    <message>
+        <source>Progress of the command</source>
+        <translation>Fortschritt des Befehls</translation>
+    </message>
+    <message>
+        <source>%1 is running...</source>
+        <translation>%1 läuft...</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3, %4</source>
+        <translation>%1: %2 von %3, %4</translation>
+    </message>
+    <message>
+        <source>, about %1 s left</source>
+        <translation>, noch etwa %1 s</translation>
+    </message>
+    <message>
+        <source>%1 (provider: %2)</source>
+        <translation>%1 (Anbieter: %2)</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::QuestionWindow</name>
+    <message>
+        <source>Question</source>
+        <translation>Frage</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>Yes to &amp;All</source>
+        <translation>Ja, &amp;alle</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nein</translation>
+    </message>
+    <message>
+        <source>N&amp;o to All</source>
+        <translation>N&amp;ein, keine</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>Ab&amp;brechen</translation>
     </message>
 </context>
 </TS>

@@ -59,4 +59,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>veldra::OptionDialog</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 and %n more</numerusform>
+            <numerusform>%1 and %n more</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -2,8 +2,12 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QPointer>
+#include <QPushButton>
 #include <QSettings>
+#include <QVBoxLayout>
 #include <algorithm>
 #include <exception>
 #include <utility>
@@ -13,6 +17,7 @@
 #include "cm/ui/ControlIds.h"
 #include "cm/ui/Translations.h"
 #include "cm/ui/logic/HostTexts.h"
+#include "cm/ui/widgets/Control.h"
 #include "cm/ui/widgets/FailureStrip.h"
 #include "cm/ui/widgets/HeldInput.h"
 #include "cm/ui/widgets/ProgressStrip.h"
@@ -104,6 +109,34 @@ void CommandWindow::holdInput(const QString& caption) {
 void CommandWindow::releaseInput() {
   m_heldInput.reset();
   m_progress->finish();
+}
+
+QLabel* CommandWindow::makeEmptyState(const QString& name) {
+  auto* const label = control(new QLabel(this), ControlId::EmptyState, name);
+  label->setAlignment(Qt::AlignCenter);
+  label->setWordWrap(true);
+  return label;
+}
+
+QVBoxLayout* CommandWindow::layOutColumn() {
+  auto* const column = new QVBoxLayout(this);
+  column->setContentsMargins(14, 12, 14, 12);
+  column->setSpacing(10);
+  return column;
+}
+
+void CommandWindow::layOutFoot(QVBoxLayout& column) {
+  m_totals = control(new QLabel(this), ControlId::Totals, tr("Totals"));
+  auto* const close = control(new QPushButton(tr("&Close"), this), ControlId::Close, tr("Close"));
+  close->setAutoDefault(false);
+  connect(close, &QPushButton::clicked, this, &CommandWindow::reject);
+  auto* const foot = new QHBoxLayout;
+  foot->addWidget(m_totals);
+  foot->addWidget(m_progress, 1);
+  foot->addStretch();
+  foot->addWidget(close);
+  column.addWidget(m_failures);
+  column.addLayout(foot);
 }
 
 void CommandWindow::restorePlace(const QSize& firstSize) {

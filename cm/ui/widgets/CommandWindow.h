@@ -7,6 +7,9 @@
 #include "cm/host/IProgress.h"
 #include "cm/ui/Export.h"
 
+class QLabel;
+class QVBoxLayout;
+
 namespace veldra {
 
 class FailureStrip;
@@ -48,6 +51,14 @@ class VELDRA_CM_UI_EXPORT CommandWindow : public QDialog {
   /// Lets the other main dialogs list the workspace anew, because units are not what they were.
   void refreshOthers() const;
 
+  /// What is seen where the list would be, as long as there is nothing to list.
+  QLabel* makeEmptyState(const QString& name);
+  /// The column that the window consists of, still without anything.
+  QVBoxLayout* layOutColumn();
+  /// Ends it with what all windows have: failures, totals, progress and Close.
+  void layOutFoot(QVBoxLayout& column);
+  QLabel& totals() const { return *m_totals; }
+
   /// Takes the remembered place, or this size.
   void restorePlace(const QSize& firstSize);
   ProgressStrip& progressStrip() const { return *m_progress; }
@@ -58,6 +69,7 @@ class VELDRA_CM_UI_EXPORT CommandWindow : public QDialog {
   QString m_placeKey;
   ProgressStrip* m_progress;
   FailureStrip* m_failures;
+  QLabel* m_totals = nullptr;
   std::unique_ptr<HeldWindow> m_heldInput;
   bool m_isRunning = false;
 };

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QWidget>
 
+#include "cm/ui/Export.h"
+
 namespace veldra {
 
 /// The object name of the control with that number.
@@ -16,7 +18,7 @@ inline QString controlName(int id) {
 QString controlDescription(int id);
 
 /// The same for the buttons that close a window.
-void describeButtons(const QDialogButtonBox& buttons);
+VELDRA_CM_UI_EXPORT void describeButtons(const QDialogButtonBox& buttons);
 
 /// Gives a widget its number and what a screen reader says about it.
 template <class Widget>

@@ -4,10 +4,12 @@
 #include <QPushButton>
 #include <QWidget>
 
+#include "cm/ui/Export.h"
+
 namespace veldra {
 
 /// Says how many units the last command failed on, and offers to select them.
-class FailureStrip : public QWidget {
+class VELDRA_CM_UI_EXPORT FailureStrip : public QWidget {
   Q_OBJECT
 
  public:

@@ -1,11 +1,9 @@
-#include "cm/core/CMFacade.h"
 #include "host/cli/UnitOperation.h"
 
 namespace veldra::host::cli {
 
 ExitCode runAdd(const Invocation& invocation) {
-  static const UnitOperation operation{.run = CMFacade::AddMember,
-                                       .templateProperty = "AddMember",
+  static const UnitOperation operation{.row = commandRow(DialogCommand::AddToArchive),
                                        .action = "add",
                                        .pastAction = "added",
                                        .mode = CMMode::ReadOnly,

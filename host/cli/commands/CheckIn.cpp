@@ -1,12 +1,9 @@
-#include "cm/core/CMFacade.h"
 #include "host/cli/UnitOperation.h"
 
 namespace veldra::host::cli {
 
 ExitCode runCheckIn(const Invocation& invocation) {
-  static const UnitOperation operation{.run = CMFacade::CheckIn,
-                                       .runRecursive = CMFacade::RecCheckIn,
-                                       .templateProperty = "CheckIn",
+  static const UnitOperation operation{.row = commandRow(DialogCommand::CheckIn),
                                        .action = "check in",
                                        .pastAction = "checked in",
                                        .mode = CMMode::ReadOnly,

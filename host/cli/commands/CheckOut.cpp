@@ -1,12 +1,9 @@
-#include "cm/core/CMFacade.h"
 #include "host/cli/UnitOperation.h"
 
 namespace veldra::host::cli {
 
 ExitCode runCheckOut(const Invocation& invocation) {
-  static const UnitOperation operation{.run = CMFacade::CheckOut,
-                                       .runRecursive = CMFacade::RecCheckOut,
-                                       .templateProperty = "CheckOut",
+  static const UnitOperation operation{.row = commandRow(DialogCommand::CheckOut),
                                        .action = "check out",
                                        .pastAction = "checked out",
                                        .mode = CMMode::ReadWrite,

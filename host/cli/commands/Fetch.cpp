@@ -1,11 +1,9 @@
-#include "cm/core/CMFacade.h"
 #include "host/cli/UnitOperation.h"
 
 namespace veldra::host::cli {
 
 ExitCode runFetch(const Invocation& invocation) {
-  static const UnitOperation operation{.run = CMFacade::Fetch,
-                                       .templateProperty = "Fetch",
+  static const UnitOperation operation{.row = commandRow(DialogCommand::Fetch),
                                        .action = "fetch",
                                        .pastAction = "fetched",
                                        .mode = CMMode::ReadOnly,

@@ -1,11 +1,9 @@
-#include "cm/core/CMFacade.h"
 #include "host/cli/UnitOperation.h"
 
 namespace veldra::host::cli {
 
 ExitCode runHistory(const Invocation& invocation) {
-  static const UnitOperation operation{.run = CMFacade::History,
-                                       .templateProperty = "History",
+  static const UnitOperation operation{.row = commandRow(DialogCommand::History),
                                        .action = "show the history of",
                                        .pastAction = "showed the history of",
                                        .mode = CMMode::ReadOnly,

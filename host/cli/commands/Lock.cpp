@@ -1,11 +1,9 @@
-#include "cm/core/CMFacade.h"
 #include "host/cli/UnitOperation.h"
 
 namespace veldra::host::cli {
 
 ExitCode runLock(const Invocation& invocation) {
-  static const UnitOperation operation{.run = CMFacade::LockItem,
-                                       .templateProperty = "Lock",
+  static const UnitOperation operation{.row = commandRow(DialogCommand::Lock),
                                        .action = "lock",
                                        .pastAction = "locked",
                                        .mode = CMMode::ReadWrite,

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <iterator>
 
-#include "cm/core/CMFacade.h"
 #include "host/cli/CommandPlan.h"
 #include "host/cli/UnitOperation.h"
 #include "host/cli/UnitStates.h"
@@ -48,8 +47,7 @@ ExitCode tellWhatIsListed(Session& session, const Invocation& invocation) {
 }  // namespace
 
 ExitCode runProperties(const Invocation& invocation) {
-  static const UnitOperation operation{.run = CMFacade::Properties,
-                                       .templateProperty = "",
+  static const UnitOperation operation{.row = commandRow(DialogCommand::Properties),
                                        .action = "show the properties of",
                                        .pastAction = "showed the properties of",
                                        .mode = CMMode::ReadOnly,

@@ -65,9 +65,8 @@ void use(const Invocation& invocation, Session& session, Registry& registry) {
     makeDefaultProvider(registry.places().user, provider);
     if (hasProject) {
       PropertyLayers& layers = session.host().properties();
-      layers.setInProject({IPN::CM, IPN::General, "UseSCCtool"}, "YES");
-      // Without it nothing that the provider has to say is ever seen.
-      layers.setInProject({IPN::CM, IPN::SCC, "RedirectOutputToVeldra"}, "True");
+      for (const auto& [key, value] : providerSettings()) layers.setInProject(key, value);
+      session.project().startShowingCMStatus();
       session.save(true);
     }
   }

@@ -1,21 +1,9 @@
-#include "cm/core/CMFacade.h"
 #include "host/cli/UnitOperation.h"
 
 namespace veldra::host::cli {
 
-namespace {
-
-// The name stands for archive items, too.
-int undo(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics) {
-  return CMFacade::Uncheckout(units, arguments, diagnostics);
-}
-
-}  // namespace
-
 ExitCode runUndo(const Invocation& invocation) {
-  static const UnitOperation operation{.run = undo,
-                                       .runRecursive = CMFacade::RecUncheckout,
-                                       .templateProperty = "UnLock",
+  static const UnitOperation operation{.row = commandRow(DialogCommand::UndoCheckOut),
                                        .action = "undo",
                                        .pastAction = "undone",
                                        .mode = CMMode::ReadOnly,

@@ -1,11 +1,9 @@
-#include "cm/core/CMFacade.h"
 #include "host/cli/UnitOperation.h"
 
 namespace veldra::host::cli {
 
 ExitCode runUnlock(const Invocation& invocation) {
-  static const UnitOperation operation{.run = CMFacade::UnLockItem,
-                                       .templateProperty = "UnLock",
+  static const UnitOperation operation{.row = commandRow(DialogCommand::Unlock),
                                        .action = "unlock",
                                        .pastAction = "unlocked",
                                        .mode = CMMode::ReadOnly,

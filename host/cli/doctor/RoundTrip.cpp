@@ -4,6 +4,7 @@
 #include <sstream>
 #include <system_error>
 
+#include "cm/ui/logic/BatchResults.h"
 #include "host/cli/CommandLineProgram.h"
 #include "host/cli/doctor/Checks.h"
 #include "host/cli/printing/BytesAsText.h"

@@ -3,6 +3,7 @@
 #include "cm/core/CMArchive.h"
 #include "cm/host/IPN.h"
 #include "cm/templates/CMProperty.h"
+#include "cm/ui/logic/BatchResults.h"
 #include "host/cli/ArchiveContent.h"
 #include "host/cli/Connection.h"
 #include "host/cli/Packs.h"

@@ -55,12 +55,6 @@ std::string withoutControls(std::string_view bytes, IsKept isKept) {
   return out;
 }
 
-std::string_view trimmed(std::string_view line) {
-  const std::size_t from = line.find_first_not_of(" \t\r");
-  if (from == std::string_view::npos) return {};
-  return line.substr(from, line.find_last_not_of(" \t\r") + 1 - from);
-}
-
 }  // namespace
 
 std::string textForJson(std::string_view bytes) {
@@ -85,19 +79,6 @@ std::string textForPeople(std::string_view bytes) {
 
 std::string linesForPeople(std::string_view bytes) {
   return withoutControls(bytes, [](char c) { return c == '\n' || c == '\t'; });
-}
-
-std::string firstLines(std::string_view text, std::size_t count) {
-  std::string out;
-  for (std::size_t taken = 0; taken < count && !text.empty();) {
-    const std::size_t end = text.find('\n');
-    const std::string_view line = trimmed(text.substr(0, end));
-    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-    if (line.empty()) continue;
-    if (taken++ > 0) out += '\n';
-    out += line;
-  }
-  return out;
 }
 
 }  // namespace veldra::host::cli

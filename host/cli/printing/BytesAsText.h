@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -17,8 +16,5 @@ std::string textForPeople(std::string_view bytes);
 
 /// The same for a text of several lines: line ends and tabs stay.
 std::string linesForPeople(std::string_view bytes);
-
-/// The first lines that hold more than blanks, without the blanks around them.
-std::string firstLines(std::string_view text, std::size_t count);
 
 }  // namespace veldra::host::cli

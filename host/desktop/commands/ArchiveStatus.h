@@ -3,7 +3,7 @@
 #include <string>
 #include <unordered_map>
 
-#include "host/desktop/commands/CommandRun.h"
+#include "host/desktop/commands/ArchiveCalls.h"
 
 namespace veldra::host::desktop {
 

@@ -6,20 +6,15 @@
 
 namespace veldra::host::desktop {
 
-/// What this window adds to a command of the dialogs.
+/// What this window adds to a command of the dialogs: places in its menu and tool bar, keys that
+/// are free here, and what its editor has to do first.
 struct WindowCommand {
   DialogCommand command;
-  const char* name;  ///< In English; the windows translate it.
-  const char* hint;
   const char* shortcut;
   const char* icon;
-  const char* templateProperty;  ///< Without it the tool does not have the command.
-  bool asksComment = false;
-  bool asksLabel = false;
   bool savesFirst = false;     ///< What is unsaved must be in the file that the tool takes.
   bool changesArchive = true;  ///< Who holds what may be different afterwards.
   bool losesChanges = false;   ///< Asks before unsaved changes go.
-  bool offersDescendants = true;
 };
 
 std::span<const WindowCommand> windowCommands();

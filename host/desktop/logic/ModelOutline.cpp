@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "cm/core/CMStatus.h"
 #include "cm/core/CMTraitFacade.h"
 #include "host/model/PathNames.h"
 
@@ -45,6 +46,7 @@ class Builder {
   OutlineNode describe(const UnitCore& unit) const {
     const UnitRecord& record = unit.record();
     OutlineNode node = basicsOf(unit, record);
+    takeState(unit, node);
     if (!m_archive.isKnown() || !unit.hasFile() || record.referenced) return node;
     const bool isProject = node.path == ".";
     const ArchiveStatus::Entry* entry = m_archive.find(isProject ? record.fileName : node.path);
@@ -61,10 +63,20 @@ class Builder {
             .type = record.unitType,
             .version = m_headers.getVersion(&unit.unit()),
             .locker = m_headers.getLocker(&unit.unit()),
-            .cmState = unit.state(),
             .access = accessOf(unit),
             .isModified = unit.isModified(),
             .isControlledFile = record.controlledFile};
+  }
+
+  /// What a provider has told of the unit.
+  static void takeState(const UnitCore& unit, OutlineNode& node) {
+    const IUnit& shownUnit = unit.unit();
+    if (unit.state() == CMState::Invalid || !unit.hasFile()) return;
+    node.isOutsideArchive = (unit.state() & CMState::Controlled) == 0;
+    node.isHeldByOther = (unit.state() & CMState::OutOther) != 0;
+    node.status = CMStatus::getControlled(&shownUnit);
+    const std::string checkedOut = CMStatus::getCheckedOut(&shownUnit);
+    if (!checkedOut.empty()) node.status += ", " + checkedOut;
   }
 
   const ArchiveStatus& m_archive;

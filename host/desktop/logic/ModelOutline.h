@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -22,10 +21,11 @@ struct OutlineNode {
   std::string type{};
   std::string version{};
   std::string locker{};
-  std::int32_t cmState = -1;  ///< The provider's word; -1 for none.
+  std::string status{};  ///< Where it stands in the provider's words; empty when nobody asked.
   Access access = Access::NoFile;
   bool isModified = false;
   bool isOutsideArchive = false;  ///< The archive is known not to hold the file.
+  bool isHeldByOther = false;     ///< Somebody else has it out.
   bool isControlledFile = false;
   OutlineNode* parent = nullptr;
   std::size_t row = 0;  ///< In its parent.

@@ -74,9 +74,7 @@ class Guide {
     expect(perform(m_window, "add",
                    [this](QDialog& dialog) {
                      write(dialog, "The model as it was drawn");
-                     if (auto* below = dialog.findChild<QAbstractButton*>("Descendants")) {
-                       below->setChecked(true);
-                     }
+                     below(dialog).setChecked(true);
                      grab(dialog, "5-add");
                    }),
            "add");
@@ -126,6 +124,10 @@ class Guide {
     grabVersions(keep);
     const std::string unit = "/Brewing/Grinder.vcmp";
     grabComparison(m_project.toStdString() + unit, copy + unit, keep);
+  }
+
+  static QAbstractButton& below(QDialog& dialog) {
+    return *veldra::findControl<QAbstractButton>(dialog, veldra::ControlId::CheckInDescendants);
   }
 
   static void write(QDialog& dialog, const char* comment) {

@@ -33,15 +33,26 @@ QMessageBox::StandardButtons buttonsOf(int flags) {
   }
 }
 
+/// A text about many units keeps its first line before the eyes and the others apart, where they
+/// can be read and copied however many they are.
+Question questionOf(const std::string& text) {
+  constexpr qsizetype MostLines = 12;
+  const QString whole = shown(text).trimmed();
+  if (whole.count('\n') < MostLines) return {.text = whole};
+  return {.text = whole.section('\n', 0, 0), .details = whole.section('\n', 1)};
+}
+
 }  // namespace
 
 void DesktopDoor::notify(const std::string& text, int /*level*/) {
-  m_questions.ask({.text = shown(text)});
+  m_questions.ask(questionOf(text));
 }
 
 int DesktopDoor::ask(const std::string& text, int flags) {
-  switch (
-      m_questions.ask({.text = shown(text), .icon = iconOf(flags), .buttons = buttonsOf(flags)})) {
+  Question question = questionOf(text);
+  question.icon = iconOf(flags);
+  question.buttons = buttonsOf(flags);
+  switch (m_questions.ask(question)) {
     case QMessageBox::Yes:
       return MessageBox::AnswerYes;
     case QMessageBox::No:

@@ -31,6 +31,7 @@ HostOptions DesktopSession::complete(HostOptions options) {
   options.traceObserver = [this](std::string_view line) { emit traceLine(shown(line)); };
   options.door = &m_door;
   options.progress = &m_work;
+  options.faultGuard = &m_work.providerCalls();
   options.childWatch = &m_work;
   return options;
 }

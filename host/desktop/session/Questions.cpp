@@ -1,6 +1,5 @@
 #include "host/desktop/session/Questions.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QCoreApplication>
 #include <map>
@@ -34,8 +33,6 @@ QMessageBox::StandardButton MessageBoxes::ask(const Question& question) {
   box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   if (!question.details.isEmpty()) box.setDetailedText(question.details);
   if (question.preset != QMessageBox::NoButton) box.setDefaultButton(question.preset);
-  QAbstractButton* retry = box.button(QMessageBox::Retry);
-  if (retry && !question.retryText.isEmpty()) retry->setText(question.retryText);
   return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 

@@ -13,7 +13,6 @@ struct Question {
   QMessageBox::Icon icon = QMessageBox::Information;
   QMessageBox::StandardButtons buttons = QMessageBox::Ok;
   QMessageBox::StandardButton preset = QMessageBox::NoButton;
-  QString retryText{};  ///< What the button Retry says; empty keeps its usual word.
 };
 
 /// The one door through which the program talks to its user, so that another may answer.

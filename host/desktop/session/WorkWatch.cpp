@@ -13,21 +13,9 @@ namespace {
 // Longer than an event needs, shorter than a person notices.
 constexpr int PumpMilliseconds = 15;
 
-/// On a thread of its own: the windows cannot be painted while the provider holds theirs.
-void tellOfWaiting(const char* entryPoint) {
-  qWarning("The source control provider has been busy in its function %s for %d seconds.",
-           entryPoint, static_cast<int>(ProviderWatch::Patience.count()));
-}
-
 }  // namespace
 
-WorkWatch::WorkWatch(OutputSink& sink)
-    : m_sink(sink),
-      m_providerWatch({.untilTold = ProviderWatch::Patience,
-                       .untilGivenUp = std::chrono::milliseconds::max(),
-                       .tell = tellOfWaiting,
-                       .giveUp = [](const char*) {},
-                       .isInterrupted = [] { return false; }}) {
+WorkWatch::WorkWatch(OutputSink& sink) : m_sink(sink), m_provider([this] { waitForProvider(); }) {
   m_restTimer.setSingleShot(true);
   m_restTimer.setInterval(0);
   connect(&m_restTimer, &QTimer::timeout, this, &WorkWatch::rest);
@@ -41,15 +29,26 @@ void WorkWatch::cancel() {
 }
 
 void WorkWatch::providerCallStarted(const char* entryPoint) {
-  m_providerWatch.started(entryPoint);
+  m_provider.expectCall();
+  m_entryPoint = QString::fromLatin1(entryPoint);
+  m_toldSeconds = 0;
+  m_callClock.start();
   if (IProgress* dialog = CCMDialog::currentProgress()) dialog->providerCallStarted(entryPoint);
-  emit providerCalled(QString::fromLatin1(entryPoint));
+  emit providerCalled(m_entryPoint);
 }
 
 void WorkWatch::providerCallEnded() {
-  m_providerWatch.ended();
+  m_entryPoint.clear();
   if (IProgress* dialog = CCMDialog::currentProgress()) dialog->providerCallEnded();
   emit providerCalled({});
+}
+
+void WorkWatch::waitForProvider() {
+  pump();
+  const auto seconds = static_cast<int>(m_callClock.elapsed() / 1000);
+  if (m_callClock.elapsed() < m_patience.count() || seconds < m_toldSeconds) return;
+  m_toldSeconds = seconds + 1;
+  emit providerHangs(m_entryPoint, seconds);
 }
 
 bool WorkWatch::isCancelled() {
@@ -76,7 +75,8 @@ void WorkWatch::pump() {
     m_isCancelled = false;
     emit workStarted();
   }
-  if (IProgress* dialog = CCMDialog::currentProgress()) {
+  IProgress* const dialog = CCMDialog::currentProgress();
+  if (dialog && !(m_notice && m_notice->isVisible())) {
     // The CM dialog shows its own progress and holds back its own input.
     CCMDialog::keepPainting();
     if (dialog->isCancelled()) cancel();
@@ -97,7 +97,18 @@ void WorkWatch::rest() {
   emit workEnded();
 }
 
+bool WorkWatch::isInNotice(const QObject& watched) const {
+  if (!m_notice || !m_notice->isVisible()) return false;
+  const auto* widget = qobject_cast<const QWidget*>(&watched);
+  const auto* window = qobject_cast<const QWindow*>(&watched);
+  if (window) widget = QWidget::find(window->winId());
+  // What is told in front of the notice belongs to it.
+  while (widget && widget != m_notice) widget = widget->parentWidget();
+  return widget != nullptr;
+}
+
 bool WorkWatch::mayPass(const QObject& watched, const QEvent& event) {
+  if (isInNotice(watched)) return true;
   if (event.type() == QEvent::KeyPress &&
       static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape) {
     cancel();

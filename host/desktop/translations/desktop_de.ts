@@ -2,6 +2,48 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>ModelTree</name>
+    <message>
+        <source>Changed, not saved yet</source>
+        <translation>Geändert, noch nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>Not in the archive yet</source>
+        <translation>Noch nicht im Archiv</translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation>Schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>Writable</source>
+        <translation>Schreibbar</translation>
+    </message>
+    <message>
+        <source>Not loaded</source>
+        <translation>Nicht geladen</translation>
+    </message>
+    <message>
+        <source>A folder without a file of its own</source>
+        <translation>Ein Ordner ohne eigene Datei</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Edits a model and puts it under version control.</source>
+        <translation>Bearbeitet ein Modell und stellt es unter Versionsverwaltung.</translation>
+    </message>
+    <message>
+        <source>A project file, or its folder.</source>
+        <translation>Eine Projektdatei oder ihr Ordner.</translation>
+    </message>
+    <message>
+        <source>Some settings could not be read.</source>
+        <translation>Einige Einstellungen konnten nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
     <name>veldra::host::desktop::ArchiveChoice</name>
     <message>
         <source>Browse…</source>
@@ -27,6 +69,18 @@
         <source>Folder of the archive</source>
         <translation>Ordner des Archivs</translation>
     </message>
+    <message>
+        <source>Lets you choose a folder</source>
+        <translation>Lässt Sie einen Ordner wählen</translation>
+    </message>
+    <message>
+        <source>The tool that keeps the versions</source>
+        <translation>Das Werkzeug, das die Versionen aufbewahrt</translation>
+    </message>
+    <message>
+        <source>Where the tool keeps them: an address or a folder</source>
+        <translation>Wo das Werkzeug sie aufbewahrt: eine Adresse oder ein Ordner</translation>
+    </message>
 </context>
 <context>
     <name>veldra::host::desktop::AttributeTable</name>
@@ -37,36 +91,6 @@
     <message>
         <source>Value</source>
         <translation>Wert</translation>
-    </message>
-</context>
-<context>
-    <name>veldra::host::desktop::CommandDialog</name>
-    <message numerus="yes">
-        <source> and %n more</source>
-        <translation>
-            <numerusform> und %n weitere</numerusform>
-            <numerusform> und %n weitere</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>With everything &amp;below</source>
-        <translation>Mit allem &amp;darunter</translation>
-    </message>
-    <message>
-        <source>Units:</source>
-        <translation>Einheiten:</translation>
-    </message>
-    <message>
-        <source>What you changed, and why</source>
-        <translation>Was Sie geändert haben und warum</translation>
-    </message>
-    <message>
-        <source>&amp;Comment:</source>
-        <translation>&amp;Kommentar:</translation>
-    </message>
-    <message>
-        <source>&amp;Label:</source>
-        <translation>&amp;Marke:</translation>
     </message>
 </context>
 <context>
@@ -277,20 +301,9 @@ Diesen Befehlen vertrauen?</translation>
             <numerusform>%1: %n Einheiten erledigt.</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%1: %n unit(s) came to nothing.</source>
-        <translation>
-            <numerusform>%1: Bei %n Einheit nicht gelungen.</numerusform>
-            <numerusform>%1: Bei %n Einheiten nicht gelungen.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>%1 came to nothing.</source>
         <translation>%1 ist nicht gelungen.</translation>
-    </message>
-    <message>
-        <source>&amp;Select Them</source>
-        <translation>&amp;Diese auswählen</translation>
     </message>
     <message>
         <source>The project file is read-only, so its archive cannot be changed. Check the project out first.</source>
@@ -331,32 +344,21 @@ Diesen Befehlen vertrauen?</translation>
         <source>The source control provider is at work: %1</source>
         <translation>Der Versionsverwaltungs-Anbieter arbeitet: %1</translation>
     </message>
-</context>
-<context>
-    <name>ModelTree</name>
     <message>
-        <source>Changed, not saved yet</source>
-        <translation>Geändert, noch nicht gespeichert</translation>
+        <source>The units of the project; commands work on the selected ones, and the current one is edited beside</source>
+        <translation>Die Einheiten des Projekts; Befehle wirken auf die ausgewählten, und die aktuelle wird daneben bearbeitet</translation>
     </message>
     <message>
-        <source>Not in the archive yet</source>
-        <translation>Noch nicht im Archiv</translation>
+        <source>Chooses the tool and the archive that keep the versions</source>
+        <translation>Wählt Werkzeug und Archiv, die die Versionen aufbewahren</translation>
     </message>
     <message>
-        <source>Read-only</source>
-        <translation>Schreibgeschützt</translation>
+        <source>What the CM tool does and says</source>
+        <translation>Was das CM-Werkzeug tut und sagt</translation>
     </message>
     <message>
-        <source>Writable</source>
-        <translation>Schreibbar</translation>
-    </message>
-    <message>
-        <source>Not loaded</source>
-        <translation>Nicht geladen</translation>
-    </message>
-    <message>
-        <source>A folder without a file of its own</source>
-        <translation>Ein Ordner ohne eigene Datei</translation>
+        <source>The steps of the module, for whoever looks for a fault</source>
+        <translation>Die Schritte des Moduls, für die Suche nach einem Fehler</translation>
     </message>
 </context>
 <context>
@@ -404,6 +406,14 @@ Diesen Befehlen vertrauen?</translation>
         <source>&amp;Make Project</source>
         <translation>Projekt &amp;anlegen</translation>
     </message>
+    <message>
+        <source>What the project is called; empty for the folder&apos;s name</source>
+        <translation>Wie das Projekt heißt; leer für den Namen des Ordners</translation>
+    </message>
+    <message>
+        <source>The folder that becomes a project</source>
+        <translation>Der Ordner, der ein Projekt wird</translation>
+    </message>
 </context>
 <context>
     <name>veldra::host::desktop::NewUnitDialog</name>
@@ -430,6 +440,14 @@ Diesen Befehlen vertrauen?</translation>
     <message>
         <source>&amp;Name:</source>
         <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>What the unit is</source>
+        <translation>Was die Einheit ist</translation>
+    </message>
+    <message>
+        <source>The name of the unit, and of its file</source>
+        <translation>Der Name der Einheit und ihrer Datei</translation>
     </message>
 </context>
 <context>
@@ -471,6 +489,48 @@ Diesen Befehlen vertrauen?</translation>
     <message>
         <source>%1 of %2: %3</source>
         <translation>%1 von %2: %3</translation>
+    </message>
+    <message>
+        <source>Ends the command after the unit at hand</source>
+        <translation>Beendet den Befehl nach der laufenden Einheit</translation>
+    </message>
+</context>
+<context>
+    <name>veldra::host::desktop::ProviderNotice</name>
+    <message>
+        <source>The source control provider</source>
+        <translation>Der Anbieter der Versionsverwaltung</translation>
+    </message>
+    <message>
+        <source>No answer yet</source>
+        <translation>Noch keine Antwort</translation>
+    </message>
+    <message>
+        <source>It may still answer. The call runs in a library of others and cannot be ended safely: you can go on waiting, or leave the program. Before it ends everything that you have changed is saved; whether the provider has done its part, “Refresh Status” shows when you open the project again.</source>
+        <translation>Eine Antwort kann noch kommen. Der Aufruf läuft in einer fremden Bibliothek und lässt sich nicht gefahrlos beenden: Sie können weiter warten oder das Programm verlassen. Vorher wird alles gespeichert, was Sie geändert haben; ob der Anbieter seinen Teil getan hat, zeigt „Status auffrischen“, wenn Sie das Projekt wieder öffnen.</translation>
+    </message>
+    <message>
+        <source>Go On &amp;Waiting</source>
+        <translation>&amp;Weiter warten</translation>
+    </message>
+    <message>
+        <source>Save and &amp;Leave</source>
+        <translation>Speichern und &amp;verlassen</translation>
+    </message>
+    <message>
+        <source>Closes this notice; the call goes on</source>
+        <translation>Schließt diesen Hinweis; der Aufruf läuft weiter</translation>
+    </message>
+    <message>
+        <source>Saves what you have changed and ends the program</source>
+        <translation>Speichert, was Sie geändert haben, und beendet das Programm</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 has not answered for %n second(s), in its function %2.</source>
+        <translation>
+            <numerusform>%1 antwortet seit %n Sekunde nicht, in der Funktion %2.</numerusform>
+            <numerusform>%1 antwortet seit %n Sekunden nicht, in der Funktion %2.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -546,6 +606,54 @@ Diesen Befehlen vertrauen?</translation>
     <message>
         <source>Takes the value away where it is stored, so that the inherited counts</source>
         <translation>Entfernt den Wert dort, wo er gespeichert ist, sodass der geerbte gilt</translation>
+    </message>
+    <message>
+        <source>What keeps the versions: a command-line tool, or a provider library</source>
+        <translation>Was die Versionen aufbewahrt: ein Kommandozeilen-Werkzeug oder die Bibliothek eines Anbieters</translation>
+    </message>
+    <message>
+        <source>Where the tool or the provider keeps the project</source>
+        <translation>Wo das Werkzeug oder der Anbieter das Projekt aufbewahrt</translation>
+    </message>
+    <message>
+        <source>Provider: %1</source>
+        <translation>Anbieter: %1</translation>
+    </message>
+    <message>
+        <source>Provider of this program, for Subversion</source>
+        <translation>Anbieter dieses Programms, für Subversion</translation>
+    </message>
+    <message>
+        <source>Shows only properties that contain this text</source>
+        <translation>Zeigt nur Eigenschaften, die diesen Text enthalten</translation>
+    </message>
+    <message>
+        <source>Shows the properties of tools that are not in use, too</source>
+        <translation>Zeigt auch die Eigenschaften von Werkzeugen, die nicht benutzt werden</translation>
+    </message>
+    <message>
+        <source>Shows only what the site, the user, the project or the unit has set</source>
+        <translation>Zeigt nur, was Standort, Benutzer, Projekt oder Einheit festgelegt haben</translation>
+    </message>
+    <message>
+        <source>Every property with its value and where that comes from; the selected one is edited below</source>
+        <translation>Jede Eigenschaft mit ihrem Wert und dessen Herkunft; die ausgewählte wird unten bearbeitet</translation>
+    </message>
+    <message>
+        <source>The value of the selected property</source>
+        <translation>Der Wert der ausgewählten Eigenschaft</translation>
+    </message>
+    <message>
+        <source>For whom the value is to count</source>
+        <translation>Für wen der Wert gelten soll</translation>
+    </message>
+    <message>
+        <source>Stores the value where the box above says</source>
+        <translation>Speichert den Wert dort, wo es das Feld darüber sagt</translation>
+    </message>
+    <message>
+        <source>%1 stays in use until the program is started anew.</source>
+        <translation>%1 bleibt in Gebrauch, bis das Programm neu gestartet wird.</translation>
     </message>
 </context>
 <context>
@@ -685,6 +793,30 @@ Diesen Befehlen vertrauen?</translation>
         <source>Select the two boxes to connect first.</source>
         <translation>Wählen Sie zuerst die beiden Kästen aus, die verbunden werden sollen.</translation>
     </message>
+    <message>
+        <source>The name of the unit</source>
+        <translation>Der Name der Einheit</translation>
+    </message>
+    <message>
+        <source>What the unit is for, in your words</source>
+        <translation>Wozu die Einheit dient, in Ihren Worten</translation>
+    </message>
+    <message>
+        <source>Takes the unit from the archive to change it</source>
+        <translation>Holt die Einheit aus dem Archiv, um sie zu ändern</translation>
+    </message>
+    <message>
+        <source>What the unit consists of</source>
+        <translation>Woraus die Einheit besteht</translation>
+    </message>
+    <message>
+        <source>Those of the selected element</source>
+        <translation>Die des ausgewählten Elements</translation>
+    </message>
+    <message>
+        <source>Those of the unit itself</source>
+        <translation>Die der Einheit selbst</translation>
+    </message>
 </context>
 <context>
     <name>veldra::host::desktop::WelcomePage</name>
@@ -716,95 +848,9 @@ Diesen Befehlen vertrauen?</translation>
         <source>Recent projects</source>
         <translation>Zuletzt geöffnet</translation>
     </message>
-</context>
-<context>
-    <name>main</name>
     <message>
-        <source>Edits a model and puts it under version control.</source>
-        <translation>Bearbeitet ein Modell und stellt es unter Versionsverwaltung.</translation>
-    </message>
-    <message>
-        <source>A project file, or its folder.</source>
-        <translation>Eine Projektdatei oder ihr Ordner.</translation>
-    </message>
-    <message>
-        <source>Some settings could not be read.</source>
-        <translation>Einige Einstellungen konnten nicht gelesen werden.</translation>
-    </message>
-</context>
-<context>
-    <name>Command</name>
-    <message>
-        <source>Check Out</source>
-        <translation>Auschecken</translation>
-    </message>
-    <message>
-        <source>Check In</source>
-        <translation>Einchecken</translation>
-    </message>
-    <message>
-        <source>Undo Check Out</source>
-        <translation>Auschecken aufheben</translation>
-    </message>
-    <message>
-        <source>Add to Archive</source>
-        <translation>Ins Archiv</translation>
-    </message>
-    <message>
-        <source>Fetch</source>
-        <translation>Holen</translation>
-    </message>
-    <message>
-        <source>Lock</source>
-        <translation>Sperren</translation>
-    </message>
-    <message>
-        <source>Unlock</source>
-        <translation>Entsperren</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>Verlauf</translation>
-    </message>
-    <message>
-        <source>Properties</source>
-        <translation>Eigenschaften</translation>
-    </message>
-    <message>
-        <source>Take the selected units from the archive to change them</source>
-        <translation>Die ausgewählten Einheiten aus dem Archiv nehmen, um sie zu ändern</translation>
-    </message>
-    <message>
-        <source>Put your changes of the selected units into the archive</source>
-        <translation>Ihre Änderungen der ausgewählten Einheiten ins Archiv geben</translation>
-    </message>
-    <message>
-        <source>Give the selected units back and drop your changes of them</source>
-        <translation>Die ausgewählten Einheiten zurückgeben und Ihre Änderungen verwerfen</translation>
-    </message>
-    <message>
-        <source>Put the selected units under version control</source>
-        <translation>Die ausgewählten Einheiten unter Versionsverwaltung stellen</translation>
-    </message>
-    <message>
-        <source>Get the newest revision of the selected units</source>
-        <translation>Den neuesten Stand der ausgewählten Einheiten holen</translation>
-    </message>
-    <message>
-        <source>Keep the selected units to yourself</source>
-        <translation>Die ausgewählten Einheiten für sich behalten</translation>
-    </message>
-    <message>
-        <source>Let others change the selected units</source>
-        <translation>Andere die ausgewählten Einheiten ändern lassen</translation>
-    </message>
-    <message>
-        <source>Show in the CM output who changed the selected units, and why</source>
-        <translation>In der CM-Ausgabe zeigen, wer die ausgewählten Einheiten geändert hat und warum</translation>
-    </message>
-    <message>
-        <source>Show what the archive knows of the selected unit</source>
-        <translation>Zeigen, was das Archiv über die ausgewählte Einheit weiß</translation>
+        <source>Opens %1</source>
+        <translation>Öffnet %1</translation>
     </message>
 </context>
 </TS>

@@ -2,16 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US">
 <context>
-    <name>veldra::host::desktop::CommandDialog</name>
-    <message numerus="yes">
-        <source> and %n more</source>
-        <translation>
-            <numerusform> and %n more</numerusform>
-            <numerusform> and %n more</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>veldra::host::desktop::MainWindow</name>
     <message numerus="yes">
         <source>%n unit(s)</source>
@@ -32,13 +22,6 @@
         <translation>
             <numerusform>%1: %n unit done.</numerusform>
             <numerusform>%1: %n units done.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n unit(s) came to nothing.</source>
-        <translation>
-            <numerusform>%1: %n unit came to nothing.</numerusform>
-            <numerusform>%1: %n units came to nothing.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -63,6 +46,16 @@
         <translation>
             <numerusform>About %n minute left</numerusform>
             <numerusform>About %n minutes left</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>veldra::host::desktop::ProviderNotice</name>
+    <message numerus="yes">
+        <source>%1 has not answered for %n second(s), in its function %2.</source>
+        <translation>
+            <numerusform>%1 has not answered for %n second, in its function %2.</numerusform>
+            <numerusform>%1 has not answered for %n seconds, in its function %2.</numerusform>
         </translation>
     </message>
 </context>

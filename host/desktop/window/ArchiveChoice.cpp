@@ -14,12 +14,15 @@
 namespace veldra::host::desktop {
 
 QWidget* withBrowse(QLineEdit& edit, const QString& title) {
+  // Its label is that of the row, which is no field.
+  edit.setAccessibleName(title);
   auto* row = new QWidget;
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(&edit, 1);
   auto* browse = new QPushButton(ArchiveChoice::tr("Browse…"));
   browse->setAccessibleName(title);
+  browse->setAccessibleDescription(ArchiveChoice::tr("Lets you choose a folder"));
   browse->setAutoDefault(false);
   layout->addWidget(browse);
   row->setFocusProxy(&edit);
@@ -34,6 +37,8 @@ ArchiveChoice::ArchiveChoice(const PropertyLayers& layers, QObject* parent)
     : QObject(parent), m_tool(new QComboBox), m_archive(new QLineEdit) {
   m_tool->setObjectName("Tool");
   m_archive->setObjectName("Archive");
+  m_tool->setAccessibleDescription(tr("The tool that keeps the versions"));
+  m_archive->setAccessibleDescription(tr("Where the tool keeps them: an address or a folder"));
   m_tool->addItem(tr("None yet"), QString());
   for (const PackDescription& pack : layers.packs()) {
     m_tool->addItem(shown(pack.title.empty() ? pack.name : pack.title), shown(pack.name));

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "cm/ui/widgets/Control.h"
 #include "host/desktop/window/ArchiveChoice.h"
 
 namespace veldra::host::desktop {
@@ -27,6 +28,7 @@ ConnectDialog::ConnectDialog(const PropertyLayers& layers, const std::string& to
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
   QPushButton* ok = buttons->button(QDialogButtonBox::Ok);
   ok->setText(tr("C&onnect"));
+  describeButtons(*buttons);
   const auto update = [this, ok] { ok->setEnabled(!m_choice->archive().isEmpty()); };
   connect(m_choice, &ArchiveChoice::changed, ok, update);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);

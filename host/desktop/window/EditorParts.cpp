@@ -22,8 +22,9 @@ Banner::Banner(QWidget* parent)
   colour();
 }
 
-QPushButton* Banner::addButton(const QString& text) {
+QPushButton* Banner::addButton(const QString& text, const QString& purpose) {
   auto* button = new QPushButton(text);
+  button->setAccessibleDescription(purpose);
   m_layout->addWidget(button);
   return button;
 }
@@ -60,6 +61,7 @@ QToolButton* EditorPage::addTool(const QString& iconName, const QString& text,
   button->setProperty("iconName", iconName);
   button->setToolTip(text);
   button->setAccessibleName(text);
+  button->setAccessibleDescription(text);
   button->setAutoRaise(true);
   connect(button, &QToolButton::clicked, this, std::move(action));
   m_tools->insertWidget(m_tools->count() - 1, button);

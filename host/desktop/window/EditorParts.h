@@ -19,7 +19,8 @@ class Banner : public QFrame {
  public:
   explicit Banner(QWidget* parent = nullptr);
   QLabel* label() { return m_label; }
-  QPushButton* addButton(const QString& text);
+  /// `purpose` is for screen readers.
+  QPushButton* addButton(const QString& text, const QString& purpose);
 
  protected:
   void changeEvent(QEvent* event) override;

@@ -73,8 +73,8 @@ std::optional<Badge> badgeOf(const OutlineNode& node) {
   if (node.isModified) return Badge{"M", QColor(0xd9, 0x77, 0x06)};
   if (node.isOutsideArchive) return Badge{"+", QColor(0x6d, 0x5b, 0xd0)};
   if (node.access == Access::ReadWrite) return Badge{"W", QColor(0x15, 0x80, 0x3d)};
-  if (!node.locker.empty() && node.access == Access::ReadOnly)
-    return Badge{"L", QColor(0xb9, 0x1c, 0x1c)};
+  const bool isHeld = node.isHeldByOther || !node.locker.empty();
+  if (isHeld && node.access == Access::ReadOnly) return Badge{"L", QColor(0xb9, 0x1c, 0x1c)};
   return std::nullopt;
 }
 

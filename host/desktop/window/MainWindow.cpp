@@ -14,14 +14,16 @@
 #include <QToolBar>
 #include <QTreeView>
 #include <QVBoxLayout>
+#include <cstdlib>
 
+#include "cm/ui/widgets/FailureStrip.h"
 #include "host/desktop/Text.h"
-#include "host/desktop/window/CommandTexts.h"
 #include "host/desktop/window/EditorParts.h"
 #include "host/desktop/window/Icons.h"
 #include "host/desktop/window/ModelTreeModel.h"
 #include "host/desktop/window/OutputView.h"
 #include "host/desktop/window/ProgressPopup.h"
+#include "host/desktop/window/ProviderNotice.h"
 #include "host/desktop/window/UnitEditor.h"
 #include "host/desktop/window/WelcomePage.h"
 
@@ -43,6 +45,9 @@ MainWindow::MainWindow(DesktopSession& session)
   buildDocks();
   buildActions();
   m_progress = new ProgressPopup(session.work(), this);
+  auto* notice = new ProviderNotice(session.work(), this);
+  connect(notice, &ProviderNotice::leaveWanted, this, &MainWindow::leaveNow);
+  m_leave = [] { std::_Exit(EXIT_SUCCESS); };
   m_diskDelay.setSingleShot(true);
   m_diskDelay.setInterval(DiskDelayMilliseconds);
   connect(&m_diskDelay, &QTimer::timeout, this, &MainWindow::lookAtDisk);
@@ -73,6 +78,9 @@ void MainWindow::buildContent() {
   m_tree = new QTreeView;
   m_tree->setObjectName("ModelTree");
   m_tree->setAccessibleName(tr("Model"));
+  m_tree->setAccessibleDescription(
+      tr("The units of the project; commands work on the selected ones, and the current one is "
+         "edited beside"));
   m_tree->setModel(m_model);
   m_tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
   m_tree->setUniformRowHeights(true);
@@ -107,10 +115,15 @@ void MainWindow::buildContent() {
   column->setSpacing(0);
   m_hint = new Banner;
   m_hint->label()->setText(tr("This project is not under version control yet."));
-  connect(m_hint->addButton(tr("Co&nnect to Archive…")), &QPushButton::clicked, this,
-          &MainWindow::connectProject);
+  QPushButton* const connectIt = m_hint->addButton(
+      tr("Co&nnect to Archive…"), tr("Chooses the tool and the archive that keep the versions"));
+  connect(connectIt, &QPushButton::clicked, this, &MainWindow::connectProject);
   column->addWidget(m_hint);
   column->addWidget(m_splitter, 1);
+  m_failures = new FailureStrip;
+  m_failures->layout()->setContentsMargins(9, 4, 9, 4);
+  connect(m_failures, &FailureStrip::selectWanted, this, &MainWindow::selectFailed);
+  column->addWidget(m_failures);
   m_pages->addWidget(work);
   setCentralWidget(m_pages);
 
@@ -132,10 +145,12 @@ void MainWindow::buildDocks() {
   };
   m_output = new OutputView;
   m_output->setPlaceholderText(tr("What the CM tool does and says appears here."));
+  m_output->setAccessibleDescription(tr("What the CM tool does and says"));
   m_output->follow(m_session.output());
   m_outputDock = dock("OutputDock", tr("CM Output"), m_output);
   m_trace = new OutputView;
   m_trace->setPlaceholderText(tr("The module's steps appear here."));
+  m_trace->setAccessibleDescription(tr("The steps of the module, for whoever looks for a fault"));
   connect(&m_session, &DesktopSession::traceLine, m_trace,
           [this](const QString& line) { m_trace->addText(line + '\n'); });
   m_traceDock = dock("TraceDock", tr("Trace Log"), m_trace);
@@ -147,8 +162,6 @@ void MainWindow::buildDocks() {
 void MainWindow::showProviderCall(const QString& entryPoint) {
   if (entryPoint.isEmpty()) return statusBar()->clearMessage();
   statusBar()->showMessage(tr("The source control provider is at work: %1").arg(entryPoint));
-  // The call may hold this thread for long.
-  statusBar()->repaint();
 }
 
 void MainWindow::restoreLayout() {
@@ -168,11 +181,24 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     return;
   }
+  storeLayout();
+  event->accept();
+}
+
+void MainWindow::storeLayout() const {
   QSettings settings;
   settings.setValue("window/geometry", saveGeometry());
   settings.setValue("window/state", saveState(LayoutVersion));
   settings.setValue("window/splitter", m_splitter->saveState());
-  event->accept();
+}
+
+/// No destructor runs: the provider holds a thread, and nothing can take the call back.
+void MainWindow::leaveNow() {
+  m_editor->commit();
+  if (m_session.hasUnsaved() && !m_session.save()) return;
+  storeLayout();
+  QSettings().sync();
+  m_leave();
 }
 
 void MainWindow::changeEvent(QEvent* event) {
@@ -204,7 +230,8 @@ std::vector<const OutlineNode*> MainWindow::selectedNodes() const {
 UnitList MainWindow::selectedUnits(bool withDescendants) {
   UnitList units;
   for (const OutlineNode* node : selectedNodes()) {
-    collectUnits(*m_session.project(), *node, withDescendants, units);
+    // A package without a file of its own can only mean what it holds.
+    collectUnits(*m_session.project(), *node, withDescendants || node->file.empty(), units);
   }
   return units;
 }

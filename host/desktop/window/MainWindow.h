@@ -2,10 +2,13 @@
 
 #include <QMainWindow>
 #include <QTimer>
+#include <functional>
 #include <map>
+#include <set>
+#include <string>
 #include <vector>
 
-#include "host/desktop/commands/CommandRun.h"
+#include "host/desktop/commands/CommandTable.h"
 #include "host/desktop/logic/DiskChanges.h"
 #include "host/desktop/logic/ModelOutline.h"
 #include "host/desktop/logic/RecentProjects.h"
@@ -17,6 +20,10 @@ class QLabel;
 class QSplitter;
 class QStackedWidget;
 class QTreeView;
+
+namespace veldra {
+class FailureStrip;
+}
 
 namespace veldra::host::desktop {
 
@@ -41,6 +48,9 @@ class MainWindow : public QMainWindow {
   bool openProject(const QString& directoryOrFile);
   /// Selects the units of these paths below the project.
   void selectUnits(const QStringList& paths);
+  /// What ends the program while the provider holds one of its threads; by default the process
+  /// ends at once.
+  void setWayOut(std::function<void()> leave) { m_leave = std::move(leave); }
   /// Looks at the disk now, as the window does when it is activated.
   void lookAtDisk();
 
@@ -61,6 +71,8 @@ class MainWindow : public QMainWindow {
   QAction* addAction(QMenu& menu, const QString& iconName, const QString& text,
                      const QKeySequence& keys, void (MainWindow::*slot)());
   void restoreLayout();
+  void storeLayout() const;
+  void leaveNow();
   void showProviderCall(const QString& entryPoint);
 
   // --- projects ---
@@ -86,6 +98,8 @@ class MainWindow : public QMainWindow {
   // --- version control ---
   void runCommand(const WindowCommand& row);
   bool mayLoseChanges(const UnitList& units);
+  void tellEnd(const WindowCommand& row, bool isDone);
+  void selectFailed();
   void tellReport(const CommandReport& report, const QString& operation);
   void openDialog();
   void connectProject();
@@ -94,6 +108,7 @@ class MainWindow : public QMainWindow {
   /// As the tool's setting for it says: always, never, or after a question.
   void refreshStatusAtOpening();
   void connectNow();
+  void connectThroughProvider();
   /// The module has been at work: files and units may be others.
   void afterWork();
   void editSettings();
@@ -108,7 +123,7 @@ class MainWindow : public QMainWindow {
   ArchiveStatus m_archive;
   QTimer m_diskDelay;
   QFileSystemWatcher* m_watcher;
-  QString m_lastComment;
+  std::function<void()> m_leave;
   std::map<const WindowCommand*, QAction*> m_commands;
   std::vector<QAction*> m_projectActions;
   QAction* m_save = nullptr;
@@ -129,6 +144,8 @@ class MainWindow : public QMainWindow {
   QDockWidget* m_outputDock;
   QDockWidget* m_traceDock;
   Banner* m_hint;
+  FailureStrip* m_failures;
+  std::set<std::string> m_failedFiles;  ///< Of the last command.
   QLabel* m_toolLabel;
   QLabel* m_countLabel;
   ProgressPopup* m_progress;

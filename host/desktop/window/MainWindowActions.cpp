@@ -8,9 +8,10 @@
 #include <QToolBar>
 #include <QTreeView>
 
+#include "cm/ui/logic/ButtonRules.h"
+#include "cm/ui/logic/OptionRules.h"
 #include "host/desktop/Appearance.h"
 #include "host/desktop/Text.h"
-#include "host/desktop/window/CommandTexts.h"
 #include "host/desktop/window/Icons.h"
 #include "host/desktop/window/MainWindow.h"
 #include "host/desktop/window/OutputView.h"
@@ -128,10 +129,10 @@ void MainWindow::addAppearances(QMenu& menu) {
 void MainWindow::buildCommandMenu() {
   QMenu& menu = *menuBar()->addMenu(tr("Version &Control"));
   for (const WindowCommand& row : windowCommands()) {
-    QAction* action = menu.addAction(commandName(row));
+    QAction* action = menu.addAction(shown(OptionRules::commandTitle(row.command)));
     action->setObjectName(row.icon);
     action->setShortcut(QKeySequence(row.shortcut));
-    action->setStatusTip(commandHint(row));
+    action->setStatusTip(shown(ButtonRules::tooltip(row.command)));
     action->setIcon(icon(row.icon));
     action->setProperty("iconName", row.icon);
     connect(action, &QAction::triggered, this, [this, &row] { runCommand(row); });

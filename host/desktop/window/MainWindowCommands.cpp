@@ -3,18 +3,22 @@
 #include <QMenu>
 #include <QStatusBar>
 #include <QTreeView>
+#include <algorithm>
 
 #include "cm/core/CMArchive.h"
 #include "cm/core/CMTraitFacade.h"
 #include "cm/host/IPN.h"
 #include "cm/templates/CMProperty.h"
 #include "cm/ui/CCMDialog.h"
+#include "cm/ui/CommandDoor.h"
+#include "cm/ui/ControlIds.h"
+#include "cm/ui/logic/OptionRules.h"
+#include "cm/ui/logic/UnitTexts.h"
+#include "cm/ui/widgets/FailureStrip.h"
 #include "host/desktop/Text.h"
-#include "host/desktop/commands/CommandRun.h"
+#include "host/desktop/commands/ArchiveCalls.h"
 #include "host/desktop/logic/SettingsTable.h"
 #include "host/desktop/window/ArchiveChoice.h"
-#include "host/desktop/window/CommandDialog.h"
-#include "host/desktop/window/CommandTexts.h"
 #include "host/desktop/window/ConnectDialog.h"
 #include "host/desktop/window/MainWindow.h"
 #include "host/desktop/window/SettingsDialog.h"
@@ -30,32 +34,36 @@ constexpr int RefreshQuestion = 46560;
 }  // namespace
 
 void MainWindow::runCommand(const WindowCommand& row) {
-  Project* project = m_session.project();
-  if (!project || m_session.work().isWorking()) return;
+  if (!m_session.project() || m_session.work().isWorking()) return;
   m_editor->commit();
-  const UnitList alone = selectedUnits(false);
-  const UnitList all = selectedUnits(true);
-  if (all.empty()) return;
-  QStringList names;
-  for (const OutlineNode* node : selectedNodes()) names << shown(node->name);
-  CommandOptions choice;
-  if (row.command != DialogCommand::History && row.command != DialogCommand::Properties) {
-    CommandDialog dialog(row, names, all.size() > alone.size(), m_lastComment, this);
-    if (dialog.exec() != QDialog::Accepted) return;
-    choice = dialog.choice();
-  }
-  const UnitList& units = choice.withDescendants ? all : alone;
-  if (row.asksComment) m_lastComment = shown(choice.comment);
   if (row.savesFirst && m_session.hasUnsaved() && !m_session.save()) return;
-  if (row.losesChanges && !mayLoseChanges(units)) return;
-  const CommandReport report =
-      veldra::host::desktop::runCommand(row, units, choice, m_session.work().results());
-  if (report.isFine()) m_lastComment.clear();
-  if (m_archive.isKnown() && row.changesArchive) {
-    listArchive();
-  }
+  if (row.losesChanges && !mayLoseChanges(selectedUnits(true))) return;
+  const int id = commandRow(row.command)->controlId;
+  BatchResults& results = m_session.work().results();
+  const bool isDone = runCommandOn(id, selectedUnits(false), this, &results);
+  tellEnd(row, isDone);
+  if (m_archive.isKnown() && row.changesArchive) listArchive();
   afterWork();
-  tellReport(report, commandName(row));
+}
+
+void MainWindow::tellEnd(const WindowCommand& row, bool isDone) {
+  const BatchResults& results = m_session.work().results();
+  m_failedFiles = results.failedFiles();
+  m_failures->tell(shown(OptionRules::commandTitle(row.command)), m_failedFiles.size());
+  const auto done = std::ranges::count(results.all(), UnitEnd::Done, &UnitResult::end);
+  if (!isDone || !m_failedFiles.empty()) return;
+  statusBar()->showMessage(tr("%1: %n unit(s) done.", nullptr, static_cast<int>(done))
+                               .arg(shown(OptionRules::commandTitle(row.command))),
+                           8000);
+}
+
+void MainWindow::selectFailed() {
+  QStringList paths;
+  for (const std::string& file : m_failedFiles) {
+    const UnitCore* unit = m_session.project()->unitByFile(file);
+    if (unit) paths << shown(unit->relativeFileName());
+  }
+  selectUnits(paths);
 }
 
 bool MainWindow::mayLoseChanges(const UnitList& units) {
@@ -83,35 +91,14 @@ void MainWindow::afterWork() {
 }
 
 void MainWindow::tellReport(const CommandReport& report, const QString& operation) {
-  if (!report.remarks.empty()) m_session.questions().ask({.text = shown(report.remarks)});
-  if (report.isFine()) {
-    statusBar()->showMessage(
-        tr("%1: %n unit(s) done.", nullptr, static_cast<int>(report.done)).arg(operation), 8000);
-    return;
-  }
   QString text;
-  QStringList paths;
   for (const std::string& message : report.messages) text += shown(message) + "\n";
-  const std::string root = m_session.project()->getProjectDirectory();
   for (const UnitResult& failure : report.failures) {
-    std::string path = failure.file;
-    if (isInside(root, path)) path.erase(0, std::min(root.size() + 1, path.size()));
-    paths << shown(path);
-    text += shown(path + ": " + reasonOf(failure)) + "\n";
+    text += shown(shortPathOf(failure.file) + ": " + reasonOf(failure)) + "\n";
   }
-  const int failed = static_cast<int>(report.failures.size());
-  const QString summary =
-      failed > 0 ? tr("%1: %n unit(s) came to nothing.", nullptr, failed).arg(operation)
-                 : tr("%1 came to nothing.").arg(operation);
-  const bool isShort = text.count('\n') <= 2;
-  const auto answer = m_session.questions().ask(
-      {.text = isShort ? summary + "\n\n" + text.trimmed() : summary,
-       .details = isShort ? QString() : text,
-       .icon = QMessageBox::Warning,
-       .buttons = failed > 0 ? QMessageBox::Ok | QMessageBox::Retry : QMessageBox::Ok,
-       .preset = QMessageBox::Ok,
-       .retryText = tr("&Select Them")});
-  if (answer == QMessageBox::Retry) selectUnits(paths);
+  m_session.questions().ask(
+      {.text = tr("%1 came to nothing.").arg(operation) + "\n\n" + text.trimmed(),
+       .icon = QMessageBox::Warning});
 }
 
 void MainWindow::connectProject() {
@@ -125,6 +112,8 @@ void MainWindow::connectProject() {
          .icon = QMessageBox::Warning});
     return;
   }
+  // A provider asks by itself where the project is to be.
+  if (CMProperty::useSccCompliantTool() != 0) return connectThroughProvider();
   PropertyLayers& layers = m_session.host().properties();
   ConnectDialog dialog(layers, SettingsTable(layers, project).tool(),
                        shown(CMArchive::getMainArchive()), this);
@@ -133,6 +122,15 @@ void MainWindow::connectProject() {
   layers.setInProject({IPN::CM, IPN::General, IPN::CMTool}, tool);
   layers.setInProject({IPN::CM, tool, IPN::CMArchive}, bytesOf(dialog.choice().archive()));
   connectNow();
+}
+
+void MainWindow::connectThroughProvider() {
+  if (!m_session.save()) return;
+  const bool isConnected = runCommandOn(ControlId::Connect, {}, this);
+  m_session.save();
+  if (isConnected) refreshProviderStatus();
+  showProject();
+  if (isConnected) statusBar()->showMessage(tr("Connected to the archive."));
 }
 
 void MainWindow::connectNow() {
@@ -171,6 +169,7 @@ void MainWindow::refreshStatus() {
   lookAtDisk();
   if (CMProperty::useSccCompliantTool() != 0) {
     // Whatever is set for the opening of projects: this was asked for.
+    project->startShowingCMStatus();
     refreshProviderStatus();
   } else if (!CMArchive::getMainArchive().empty()) {
     const CommandReport report = listArchive();

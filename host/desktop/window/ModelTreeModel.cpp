@@ -81,9 +81,10 @@ int ModelTreeModel::columnCount(const QModelIndex& /*parent*/) const {
 }
 
 QString ModelTreeModel::toolTip(const OutlineNode& node) {
+  QString text = shown(node.path) + "\n" + shown(node.type) + ", " + accessText(node);
+  if (!node.status.empty()) text += "\n" + shown(node.status);
   // Plain text whatever a name contains.
-  return QString("<p style='white-space:pre'>%1</p>")
-      .arg((shown(node.path) + "\n" + shown(node.type) + ", " + accessText(node)).toHtmlEscaped());
+  return QString("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped());
 }
 
 QVariant ModelTreeModel::data(const QModelIndex& index, int role) const {
@@ -91,7 +92,9 @@ QVariant ModelTreeModel::data(const QModelIndex& index, int role) const {
   if (!at) return {};
   if (role == Qt::ToolTipRole) return toolTip(*at);
   if (role == Qt::DecorationRole && index.column() == Name) return unitIcon(*at);
-  if (role == Qt::AccessibleDescriptionRole) return accessText(*at);
+  if (role == Qt::AccessibleDescriptionRole) {
+    return at->status.empty() ? accessText(*at) : accessText(*at) + ", " + shown(at->status);
+  }
   if (role == Qt::FontRole && at->isModified && index.column() == Name) {
     QFont font;
     font.setBold(true);

@@ -7,6 +7,7 @@
 #include <QPushButton>
 
 #include "cm/host/IPN.h"
+#include "cm/ui/widgets/Control.h"
 #include "host/desktop/Text.h"
 #include "host/desktop/window/ArchiveChoice.h"
 #include "host/model/NewProject.h"
@@ -23,6 +24,8 @@ NewProjectDialog::NewProjectDialog(const PropertyLayers& layers, Questions& ques
   setWindowTitle(tr("New Project"));
   setMinimumWidth(560);
   m_name->setPlaceholderText(tr("As the folder"));
+  m_name->setAccessibleDescription(tr("What the project is called; empty for the folder's name"));
+  m_folder->setAccessibleDescription(tr("The folder that becomes a project"));
   auto* form = new QFormLayout(this);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   form->addRow(tr("&Folder:"), withBrowse(*m_folder, tr("Folder of the project")));
@@ -36,6 +39,7 @@ NewProjectDialog::NewProjectDialog(const PropertyLayers& layers, Questions& ques
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
   m_ok = buttons->button(QDialogButtonBox::Ok);
   m_ok->setText(tr("&Make Project"));
+  describeButtons(*buttons);
   connect(buttons, &QDialogButtonBox::accepted, this, &NewProjectDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   connect(m_folder, &QLineEdit::textChanged, this, &NewProjectDialog::updateState);

@@ -8,8 +8,8 @@
 #include <QVBoxLayout>
 
 #include "cm/ui/CCMDialog.h"
+#include "cm/ui/logic/ProgressText.h"
 #include "host/desktop/Text.h"
-#include "host/desktop/logic/TimeLeft.h"
 #include "host/desktop/session/WorkWatch.h"
 #include "host/model/PathNames.h"
 
@@ -18,9 +18,9 @@ namespace {
 
 constexpr int DelayMilliseconds = 400;
 
-QString leftText(std::optional<TimeLeft::Seconds> left) {
+QString leftText(std::optional<std::int64_t> left) {
   if (!left) return {};
-  const auto seconds = static_cast<int>(left->count()) + 1;
+  const auto seconds = static_cast<int>(*left);
   if (seconds < 60) return ProgressPopup::tr("About %n second(s) left", nullptr, seconds);
   return ProgressPopup::tr("About %n minute(s) left", nullptr, (seconds + 30) / 60);
 }
@@ -43,6 +43,7 @@ ProgressPopup::ProgressPopup(WorkWatch& work, QWidget* parent)
   bold.setBold(true);
   m_operation->setFont(bold);
   m_bar->setAccessibleName(tr("Progress"));
+  m_cancel->setAccessibleDescription(tr("Ends the command after the unit at hand"));
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(m_operation);
   layout->addWidget(m_unit);
@@ -86,9 +87,8 @@ void ProgressPopup::showStep(const ProgressStep& step) {
                       .arg(m_unit->fontMetrics().elidedText(name, Qt::ElideMiddle, 340)));
   m_bar->setRange(0, static_cast<int>(step.count));
   m_bar->setValue(static_cast<int>(step.position) - 1);
-  const TimeLeft::Seconds elapsed(static_cast<double>(m_clock.elapsed()) / 1000);
-  if (!m_work.isCancelled())
-    m_left->setText(leftText(TimeLeft::guess(step.position, step.count, elapsed)));
+  if (m_work.isCancelled()) return;
+  m_left->setText(leftText(secondsLeft(step.position, step.count, m_clock.elapsed())));
 }
 
 void ProgressPopup::end() {

@@ -14,19 +14,38 @@
 #include <QSignalBlocker>
 #include <QTableView>
 #include <QVBoxLayout>
+#include <filesystem>
+#include <string_view>
 
 #include "cm/core/CMArchive.h"
 #include "cm/host/IPN.h"
 #include "cm/templates/CMProperty.h"
+#include "cm/ui/widgets/Control.h"
+#include "host/cli/InstalledProviders.h"
 #include "host/desktop/Text.h"
 #include "host/desktop/window/SettingsModel.h"
+#include "host/platform/Registry.h"
 
 namespace veldra::host::desktop {
 namespace {
 
 constexpr char UseProvider[] = "UseSCCtool";
-// No tool has such a name.
+// No tool has a name that begins like this. The provider's name follows; nothing for whichever the
+// user has.
 constexpr char ProviderEntry[] = "\x01provider";
+
+PropertyKey providersArchive() {
+  return {IPN::CM, IPN::SCC, "ProjName"};
+}
+
+/// As the box of tools knows the provider that is in use.
+QString presentProvider() {
+  Registry registry;
+  for (const cli::InstalledProvider& provider : cli::installedProviders(registry)) {
+    if (provider.isDefault) return ProviderEntry + shown(provider.name);
+  }
+  return ProviderEntry;
+}
 
 }  // namespace
 
@@ -49,6 +68,7 @@ void SettingsDialog::build() {
   layout->addWidget(makeTable(), 1);
   layout->addWidget(makeValueBox());
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+  describeButtons(*buttons);
   connect(buttons, &QDialogButtonBox::rejected, this, &SettingsDialog::reject);
   layout->addWidget(buttons);
 }
@@ -64,8 +84,13 @@ QWidget* SettingsDialog::makeToolBox() {
     const QString title = pack.title.empty() ? shown(pack.name) : shown(pack.title);
     m_backEnd->addItem(title + " — " + shown(pack.description), shown(pack.name));
   }
-  m_backEnd->addItem(tr("A provider library"), ProviderEntry);
+  addProviders();
+  m_backEnd->setObjectName("BackEnd");
+  m_backEnd->setAccessibleDescription(
+      tr("What keeps the versions: a command-line tool, or a provider library"));
   m_archive = new QLineEdit;
+  m_archive->setObjectName("Archive");
+  m_archive->setAccessibleDescription(tr("Where the tool or the provider keeps the project"));
   form->addRow(tr("CM &tool:"), m_backEnd);
   form->addRow(tr("&Archive:"), m_archive);
   connect(m_backEnd, &QComboBox::activated, this, &SettingsDialog::takeTool);
@@ -74,6 +99,24 @@ QWidget* SettingsDialog::makeToolBox() {
   m_backEnd->setEnabled(hasProject);
   m_archive->setEnabled(hasProject);
   return box;
+}
+
+/// The installed ones, and that of this program also as long as nobody has installed it.
+void SettingsDialog::addProviders() {
+  Registry registry;
+  const std::string shipped = cli::shippedProvider(m_session.host().installationRoot());
+  bool lacksShipped = std::filesystem::exists(shipped);
+  const int before = m_backEnd->count();
+  for (const cli::InstalledProvider& provider : cli::installedProviders(registry)) {
+    m_backEnd->addItem(tr("Provider: %1").arg(shown(provider.name)),
+                       ProviderEntry + shown(provider.name));
+    lacksShipped = lacksShipped && provider.library != shipped;
+  }
+  if (lacksShipped) {
+    m_backEnd->addItem(tr("Provider of this program, for Subversion"),
+                       ProviderEntry + shown(shipped));
+  }
+  if (m_backEnd->count() == before) m_backEnd->addItem(tr("A provider library"), ProviderEntry);
 }
 
 QWidget* SettingsDialog::makeTable() {
@@ -85,15 +128,23 @@ QWidget* SettingsDialog::makeTable() {
   m_filter->setObjectName("Filter");
   m_filter->setPlaceholderText(tr("Filter"));
   m_filter->setAccessibleName(tr("Filter"));
+  m_filter->setAccessibleDescription(tr("Shows only properties that contain this text"));
   m_filter->setClearButtonEnabled(true);
   m_everyTool = new QCheckBox(tr("Of &every tool"));
   m_onlyChanged = new QCheckBox(tr("Only what &differs from the tool pack"));
+  m_everyTool->setAccessibleDescription(
+      tr("Shows the properties of tools that are not in use, too"));
+  m_onlyChanged->setAccessibleDescription(
+      tr("Shows only what the site, the user, the project or the unit has set"));
   filters->addWidget(m_filter, 1);
   filters->addWidget(m_everyTool);
   filters->addWidget(m_onlyChanged);
   layout->addLayout(filters);
   m_view = new QTableView;
   m_view->setAccessibleName(tr("Properties"));
+  m_view->setAccessibleDescription(
+      tr("Every property with its value and where that comes from; the selected one is edited "
+         "below"));
   m_view->setModel(m_model);
   m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
   m_view->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -128,14 +179,17 @@ QWidget* SettingsDialog::makeValueBox() {
   auto* row = new QHBoxLayout;
   m_value = new QPlainTextEdit;
   m_value->setAccessibleName(tr("Value"));
+  m_value->setAccessibleDescription(tr("The value of the selected property"));
   m_value->setTabChangesFocus(true);
   m_value->setFixedHeight(fontMetrics().lineSpacing() * 3 + 12);
   row->addWidget(m_value, 1);
   auto* column = new QVBoxLayout;
   m_target = new QComboBox;
   m_target->setAccessibleName(tr("Where to store the value"));
+  m_target->setAccessibleDescription(tr("For whom the value is to count"));
   m_store = new QPushButton(tr("&Store"));
   m_store->setAutoDefault(false);
+  m_store->setAccessibleDescription(tr("Stores the value where the box above says"));
   connect(m_store, &QPushButton::clicked, this, &SettingsDialog::store);
   m_reset = new QPushButton(tr("&Reset to Inherited"));
   m_reset->setObjectName("Reset");
@@ -166,10 +220,10 @@ void SettingsDialog::fill() {
   m_view->setCurrentIndex(m_model->indexOf(key));
   showRow();
   const bool isProvider = CMProperty::useSccCompliantTool() != 0;
-  const QString tool = isProvider ? QString(ProviderEntry) : shown(m_table.tool());
+  const QString tool = isProvider ? presentProvider() : shown(m_table.tool());
   m_backEnd->setCurrentIndex(std::max(0, m_backEnd->findData(tool)));
   const QSignalBlocker quiet(m_archive);
-  m_archive->setText(shown(CMArchive::getMainArchive()));
+  m_archive->setText(shown(archive()));
 }
 
 void SettingsDialog::showRow() {
@@ -192,17 +246,58 @@ bool SettingsDialog::set(const PropertyKey& key, const std::string& value, Origi
 
 void SettingsDialog::takeTool() {
   const std::string chosen = bytesOf(m_backEnd->currentData().toString());
-  const bool isProvider = chosen == ProviderEntry;
-  if (!set({IPN::CM, IPN::General, UseProvider}, isProvider ? "Yes" : "No", Origin::Project))
-    return;
-  if (!isProvider) set({IPN::CM, IPN::General, IPN::CMTool}, chosen, Origin::Project);
+  if (chosen.starts_with(ProviderEntry)) {
+    return takeProvider(chosen.substr(std::string_view(ProviderEntry).size()));
+  }
+  if (!set({IPN::CM, IPN::General, UseProvider}, "No", Origin::Project)) return;
+  set({IPN::CM, IPN::General, IPN::CMTool}, chosen, Origin::Project);
+}
+
+void SettingsDialog::takeProvider(const std::string& chosen) {
+  Registry registry;
+  const std::string& place = registry.places().user;
+  const std::string former = CMProperty::getIsLoaded() ? CMProperty::getSCCToolName() : "";
+  std::string name = chosen;
+  try {
+    if (std::filesystem::path(chosen).is_absolute()) {
+      name = cli::providerNameOf(chosen);
+      cli::installProvider(place, name, chosen);
+      m_backEnd->setItemText(m_backEnd->currentIndex(), tr("Provider: %1").arg(shown(name)));
+      m_backEnd->setItemData(m_backEnd->currentIndex(), ProviderEntry + shown(name));
+    }
+    for (const cli::InstalledProvider& provider : cli::installedProviders(registry)) {
+      if (provider.name == name) cli::makeDefaultProvider(place, provider);
+    }
+  } catch (const std::exception& failure) {
+    m_session.questions().ask({.text = shown(failure.what()), .icon = QMessageBox::Warning});
+    return fill();
+  }
+  for (const auto& [key, value] : cli::providerSettings()) {
+    if (!set(key, value, Origin::Project)) return;
+  }
+  m_session.project()->startShowingCMStatus();
+  if (former.empty() || former == name) return;
+  m_session.questions().ask(
+      {.text = tr("%1 stays in use until the program is started anew.").arg(shown(former))});
+}
+
+/// Where the project is kept, for a tool or for a provider.
+std::string SettingsDialog::archive() const {
+  if (CMProperty::useSccCompliantTool() == 0) return CMArchive::getMainArchive();
+  const Property* const project = m_session.host().properties().find(providersArchive());
+  return project ? project->value() : std::string();
 }
 
 void SettingsDialog::takeArchive() {
   const std::string place = bytesOf(m_archive->text().trimmed());
+  if (place == archive()) return;
+  const bool isProvider = CMProperty::useSccCompliantTool() != 0;
   const std::string tool = m_table.tool();
-  if (place == CMArchive::getMainArchive() || tool.empty()) return;
-  set({IPN::CM, tool, IPN::CMArchive}, place, Origin::Project);
+  if (isProvider) {
+    set(providersArchive(), place, Origin::Project);
+  } else if (!tool.empty()) {
+    set({IPN::CM, tool, IPN::CMArchive}, place, Origin::Project);
+  }
 }
 
 void SettingsDialog::store() {

@@ -29,11 +29,14 @@ class SettingsDialog : public QDialog {
  private:
   void build();
   QWidget* makeToolBox();
+  void addProviders();
   QWidget* makeTable();
   QWidget* makeValueBox();
   void fill();
   void showRow();
   void takeTool();
+  void takeProvider(const std::string& chosen);
+  std::string archive() const;
   void takeArchive();
   void store();
   void reset();

@@ -48,8 +48,10 @@ void UnitEditor::build() {
   auto* form = new QFormLayout;
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   m_name = new QLineEdit;
+  m_name->setAccessibleDescription(tr("The name of the unit"));
   form->addRow(tr("&Name"), m_name);
   m_description = new QPlainTextEdit;
+  m_description->setAccessibleDescription(tr("What the unit is for, in your words"));
   m_description->setTabChangesFocus(true);
   m_description->setFixedHeight(fontMetrics().lineSpacing() * 4 + 14);
   form->addRow(tr("Te&xt"), m_description);
@@ -82,7 +84,8 @@ QWidget* UnitEditor::makeBanner() {
   auto* banner = new Banner;
   m_banner = banner;
   m_reason = banner->label();
-  m_checkOut = banner->addButton(tr("Check &Out…"));
+  m_checkOut =
+      banner->addButton(tr("Check &Out…"), tr("Takes the unit from the archive to change it"));
   connect(m_checkOut, &QPushButton::clicked, this, &UnitEditor::checkOutWanted);
   return banner;
 }
@@ -92,9 +95,11 @@ QWidget* UnitEditor::makeElements() {
   m_elementTable = new QTableWidget(0, 2);
   m_elementTable->setHorizontalHeaderLabels({tr("Type"), tr("Name")});
   m_elementTable->setAccessibleName(tr("Elements"));
+  m_elementTable->setAccessibleDescription(tr("What the unit consists of"));
   dressTable(*m_elementTable);
   m_elementAttributes = new AttributeTable;
   m_elementAttributes->setAccessibleName(tr("Attributes of the element"));
+  m_elementAttributes->setAccessibleDescription(tr("Those of the selected element"));
   auto* splitter = new QSplitter;
   splitter->addWidget(m_elementTable);
   splitter->addWidget(m_elementAttributes);
@@ -120,6 +125,7 @@ QWidget* UnitEditor::makeAttributes() {
   auto* page = new EditorPage;
   m_attributes = new AttributeTable;
   m_attributes->setAccessibleName(tr("Attributes"));
+  m_attributes->setAccessibleDescription(tr("Those of the unit itself"));
   page->setContent(m_attributes);
   m_tools.push_back(
       page->addTool("plus", tr("Add an attribute"), [this] { m_attributes->addRow(); }));

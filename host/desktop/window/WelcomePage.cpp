@@ -1,7 +1,9 @@
 #include "host/desktop/window/WelcomePage.h"
 
 #include <QCommandLinkButton>
+#include <QGridLayout>
 #include <QLabel>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "host/desktop/Text.h"
@@ -9,12 +11,25 @@
 #include "host/model/PathNames.h"
 
 namespace veldra::host::desktop {
+namespace {
+
+QCommandLinkButton* makeLink(const QString& iconName, const QString& text,
+                             const QString& description) {
+  auto* link = new QCommandLinkButton(text, description);
+  link->setIcon(icon(iconName));
+  link->setAccessibleDescription(description);
+  // Layouts take it for one that could do without its second line.
+  link->setMinimumHeight(link->sizeHint().height());
+  return link;
+}
+
+}  // namespace
 
 WelcomePage::WelcomePage(QWidget* parent)
     : QWidget(parent), m_recent(new QWidget), m_recentLayout(new QVBoxLayout(m_recent)) {
   auto* outer = new QVBoxLayout(this);
   auto* column = new QWidget;
-  column->setMaximumWidth(520);
+  column->setMaximumWidth(640);
   column->setMinimumWidth(420);
   auto* layout = new QVBoxLayout(column);
   layout->setSpacing(8);
@@ -24,20 +39,30 @@ WelcomePage::WelcomePage(QWidget* parent)
   title->setFont(large);
   auto* hint = new QLabel(tr("Open a project, or make one from a folder of model files."));
   hint->setForegroundRole(QPalette::PlaceholderText);
-  auto* open = new QCommandLinkButton(tr("&Open Project…"), tr("A folder with a project file"));
-  open->setIcon(icon("open"));
-  auto* make = new QCommandLinkButton(tr("&New Project…"),
-                                      tr("From a folder, with a CM tool and an archive"));
-  make->setIcon(icon("new"));
+  auto* open = makeLink("open", tr("&Open Project…"), tr("A folder with a project file"));
+  auto* make =
+      makeLink("new", tr("&New Project…"), tr("From a folder, with a CM tool and an archive"));
   connect(open, &QPushButton::clicked, this, &WelcomePage::openWanted);
   connect(make, &QPushButton::clicked, this, &WelcomePage::newWanted);
   for (QWidget* widget : std::initializer_list<QWidget*>{title, hint, open, make, m_recent}) {
     layout->addWidget(widget);
   }
   m_recentLayout->setContentsMargins(0, 12, 0, 0);
-  outer->addStretch(2);
-  outer->addWidget(column, 0, Qt::AlignHCenter);
-  outer->addStretch(3);
+  outer->setContentsMargins(0, 0, 0, 0);
+  // Many recent projects need more room than a small window has.
+  auto* page = new QWidget;
+  auto* middle = new QGridLayout(page);
+  middle->setRowStretch(0, 2);
+  middle->setRowStretch(2, 3);
+  middle->setColumnStretch(0, 1);
+  middle->setColumnStretch(2, 1);
+  middle->addWidget(column, 1, 1);
+  auto* scroll = new QScrollArea;
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setWidgetResizable(true);
+  scroll->setFocusPolicy(Qt::NoFocus);
+  scroll->setWidget(page);
+  outer->addWidget(scroll);
 }
 
 void WelcomePage::showRecent(const std::vector<std::string>& projects) {
@@ -49,8 +74,8 @@ void WelcomePage::showRecent(const std::vector<std::string>& projects) {
   m_recentLayout->addWidget(new QLabel(tr("Recent projects")));
   for (const std::string& project : projects) {
     const QString path = shown(project);
-    auto* button = new QCommandLinkButton(shown(baseName(project)).replace('&', "&&"), path);
-    button->setIcon(icon("project"));
+    auto* button = makeLink("project", shown(baseName(project)).replace('&', "&&"), path);
+    button->setAccessibleDescription(tr("Opens %1").arg(path));
     connect(button, &QPushButton::clicked, this, [this, path] { emit recentWanted(path); });
     m_recentLayout->addWidget(button);
   }

@@ -69,6 +69,22 @@ TEST_F(CCMDialogTest, TheViewOutlivesTheDialog) {
   EXPECT_FALSE(at(next, ControlId::UnitTree).isHidden());
 }
 
+TEST_F(CCMDialogTest, OpeningChoosesNoView) {
+  EXPECT_EQ(ViewState::viewMode(), "") << "the setting counts until a button is pressed";
+  set("GUI", "Flat", "General");
+  const CCMDialog next;
+  EXPECT_FALSE(at(next, ControlId::FlatList).isHidden());
+}
+
+TEST_F(CCMDialogTest, NothingIsBehindTheButtonOfTheBranch) {
+  set("EnableCheckoutBranch", "True", "General");
+  set("UserDefCommand_-9", "echo", "General");
+  CCMDialog dialog;
+  EXPECT_TRUE(dialog.runCommand(ControlId::CheckOutBranch));
+  EXPECT_TRUE(commands().empty());
+  EXPECT_TRUE(m_host.memoryMessages.asked.empty());
+}
+
 TEST_F(CCMDialogTest, ACommandWithNothingSelectedIsRefused) {
   tree().clearSelection();
   m_dialog.runCommand(ControlId::CheckOut);

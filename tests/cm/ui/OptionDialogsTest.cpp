@@ -2,6 +2,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "cm/templates/CMProperty.h"
 #include "cm/ui/options/CCMCiInfoDlg.h"
 #include "cm/ui/options/CCMCoInfoDlg.h"
 #include "cm/ui/options/CCMConnectToArc.h"
@@ -67,8 +68,10 @@ TEST_F(OptionDialogsTest, CancelPutsAUnitsArchiveBack) {
   at<QLineEdit>(window, ControlId::UnitArchivePath).setText(QStringLiteral("new"));
   at<QPushButton>(window, ControlId::UnitArchiveAssociate).click();
   EXPECT_EQ(m_class.record.sccProject, "new");
+  EXPECT_TRUE(CMProperty::getIsConnected());
   window.reject();
   EXPECT_EQ(m_class.record.sccProject, "old");
+  EXPECT_FALSE(CMProperty::getIsConnected());
 }
 
 TEST_F(OptionDialogsTest, AnArchiveMustBeNamed) {

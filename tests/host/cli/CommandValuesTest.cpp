@@ -47,12 +47,6 @@ TEST(CommentTest, TwoCommentsOrNoFileIsWrongUsage) {
   EXPECT_NE(sentence.find("/no/such/file"), std::string::npos);
 }
 
-TEST(CommentTest, ForbiddenCharactersAreNamed) {
-  EXPECT_EQ(endOf([] { refuseForbidden("a%b;c\n", ";&%\n"); }).second,
-            "The tool cannot take these characters of the comment: ; % \\x0a. Leave them out.");
-  EXPECT_EQ(endOf([] { refuseForbidden("abc", ""); }).first, ExitCode::AllDone);
-}
-
 TEST(PropertyNameTest, PartsAreToldApart) {
   struct Row {
     std::string text;

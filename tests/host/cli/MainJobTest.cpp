@@ -134,6 +134,11 @@ TEST_F(MainJobTest, aProviderIsInstalledAndChosenByTheProgram) {
   done({"init", m_folder.file("model"), "--name", "Plant"});
   done({"provider", "install", VELDRA_RECORDING_PROVIDER});
   EXPECT_THAT(cm({"provider", "list"}).output, HasSubstr(std::string("* ")));
+  done({"property", "set", "General.UseSCCtool", "Yes"});
+  done({"property", "set", "SCC.CommentsRequiredForCheckIn", "True"});
+  const Outcome refused = cm({"checkin", "Pump.mo"});
+  EXPECT_EQ(refused.code, 2);
+  EXPECT_THAT(refused.errors, HasSubstr("needs a comment"));
 }
 
 }  // namespace

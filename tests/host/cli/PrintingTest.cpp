@@ -28,11 +28,6 @@ TEST(BytesAsTextTest, NamesCannotDriveTheTerminal) {
   EXPECT_EQ(linesForPeople("one\ntwo\x1b\r"), "one\ntwo\\x1b\\x0d");
 }
 
-TEST(BytesAsTextTest, FirstLinesSkipWhatSaysNothing) {
-  EXPECT_EQ(firstLines("\n  \r\n  svn: E1: no \r\n\nmore\nrest", 2), "svn: E1: no\nmore");
-  EXPECT_EQ(firstLines(" \n", 2), "");
-}
-
 UnitRecord withResult(UnitResult result) {
   UnitRecord record;
   record.result = result;

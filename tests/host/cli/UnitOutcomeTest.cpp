@@ -1,11 +1,13 @@
 #include "host/cli/UnitOutcome.h"
 
-#include <gtest/gtest.h>
-
 #include "host/cli/CallArguments.h"
+#include "tests/support/HostTest.h"
 
 namespace veldra::host::cli {
 namespace {
+
+/// What ends mean is among the host's texts.
+using UnitOutcomeTest = test::HostTest;
 
 UnitRecord after(const UnitTrace& trace, const DiagnosticList& diagnostics = {}) {
   UnitRecord record;
@@ -13,7 +15,7 @@ UnitRecord after(const UnitTrace& trace, const DiagnosticList& diagnostics = {})
   return record;
 }
 
-TEST(UnitOutcomeTest, EveryBadEndHasWords) {
+TEST_F(UnitOutcomeTest, EveryBadEndHasWords) {
   for (const UnitEnd end : {UnitEnd::Refused, UnitEnd::Declined, UnitEnd::NotExpanded,
                             UnitEnd::NotRun, UnitEnd::ToolFailed, UnitEnd::NotReloaded}) {
     const UnitRecord record = after({.file = "/m/u", .end = end});
@@ -27,7 +29,7 @@ TEST(UnitOutcomeTest, EveryBadEndHasWords) {
   EXPECT_EQ(after({.file = "/m/u"}).message, "");
 }
 
-TEST(UnitOutcomeTest, FailureShowsTheToolsFirstWordsAndItsCommand) {
+TEST_F(UnitOutcomeTest, FailureShowsTheToolsFirstWordsAndItsCommand) {
   const UnitRecord record = after({.file = "/m/u",
                                    .end = UnitEnd::ToolFailed,
                                    .words = "\nsvn: E1: locked\n 1\n 2\n 3\n 4\n",
@@ -35,7 +37,7 @@ TEST(UnitOutcomeTest, FailureShowsTheToolsFirstWordsAndItsCommand) {
   EXPECT_EQ(record.message, "svn: E1: locked\n1\n2\n3\ncommand: svn commit /m/u");
 }
 
-TEST(UnitOutcomeTest, DiagnosticsGoToTheirUnitOnce) {
+TEST_F(UnitOutcomeTest, DiagnosticsGoToTheirUnitOnce) {
   const DiagnosticList diagnostics = {
       CMDiagnostic(CMDiagnostic::Failed, "\"/m/a>b\" holds a sign.", nullptr),
       CMDiagnostic(CMDiagnostic::Failed, "No tool.", nullptr),
@@ -49,7 +51,7 @@ TEST(UnitOutcomeTest, DiagnosticsGoToTheirUnitOnce) {
   EXPECT_EQ(generalMessage(diagnostics, {trace, told}), "");
 }
 
-TEST(UnitOutcomeTest, PlanSplitsTheCommandAndNamesTheCommentFile) {
+TEST_F(UnitOutcomeTest, PlanSplitsTheCommandAndNamesTheCommentFile) {
   UnitRecord record;
   makePlan({.file = "/m/a b",
             .commands = {std::string("ci -t \"/m/a b\" ") + PlannedCommentFile, "open \"quote"}},

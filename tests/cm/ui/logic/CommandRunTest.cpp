@@ -16,6 +16,7 @@ class ScriptedView : public CommandView {
   UnitList selected;
   std::optional<CommandOptions> answer = CommandOptions{};
   std::function<void()> whileAsking;
+  std::function<void()> whileRefreshing;
   std::vector<OptionPresets> asked;
   int refreshes = 0;
 
@@ -28,7 +29,10 @@ class ScriptedView : public CommandView {
   }
   void commandStarts(const CommandRow&) override { ++running; }
   void commandEnds() override { --running; }
-  void DoAfterOpRefresh() override { ++refreshes; }
+  void DoAfterOpRefresh() override {
+    ++refreshes;
+    if (whileRefreshing) whileRefreshing();
+  }
   void dropGoneUnits() override {}
   int running = 0;
 };
@@ -47,9 +51,13 @@ class CommandRunTest : public HostTest {
   MemoryUnit& m_unit = m_model.addUnit("U.vcl");
 };
 
-TEST_F(CommandRunTest, ACommandLeavesItsLinesAndRefreshesInsideItsTransaction) {
+TEST_F(CommandRunTest, ACommandRefreshesInsideItsTransactionAndIsCompletedOutside) {
   m_view.selected = {&m_unit};
+  std::vector<int> openAtLine;
+  m_host.traceLog.onLine = [&](const std::string&) { openAtLine.push_back(m_host.undo.open); };
+  m_view.whileRefreshing = [&] { openAtLine.push_back(m_host.undo.open); };
   EXPECT_TRUE(run(DialogCommand::CheckOut));
+  EXPECT_THAT(openAtLine, ElementsAre(0, 1, 0));
   EXPECT_EQ(m_backEnds.calls, (Lines{"tool.checkOut"}));
   EXPECT_THAT(m_host.traceLog.texts(), ElementsAre("Starting Check Out", "Check Out completed"));
   EXPECT_EQ(m_view.refreshes, 1);
@@ -136,6 +144,80 @@ TEST_F(CommandRunTest, DescendantsTakeTheRecursiveVariant) {
                    "Starting ATM after Recursive Check Out",
                    "Completed ATM after Recursive Check Out", "Recursive Check Out completed"}));
   EXPECT_THAT(m_host.journal.only({"reload"}).size(), ::testing::Gt(0U));
+}
+
+/// Says of every command that one of its units is not done.
+class PartlyFailing : public BackEnd {
+ public:
+  int recUncheckout(const UnitCall& c) override {
+    c.diagnostics.emplace_back(CMDiagnostic::Failed, "Boiler is not done.", nullptr);
+    return 1;
+  }
+};
+
+TEST_F(CommandRunTest, TheResultsOfARecursiveVariantAreShownBeforeTheModelIsReloaded) {
+  PartlyFailing partly;
+  backEnds().tool = &partly;
+  m_host.memoryMessages.answer = MessageBox::AnswerYes;
+  m_view.selected = {&m_unit};
+  std::vector<std::string> lines;
+  m_host.traceLog.onLine = [&](const std::string& line) {
+    if (line.starts_with("Updating")) return;
+    lines.push_back(line + ' ' + std::to_string(m_host.memoryMessages.asked.size()));
+  };
+  m_view.whileRefreshing = [&] { lines.push_back("refresh"); };
+  EXPECT_TRUE(run(DialogCommand::UndoCheckOut));
+  lines.erase(lines.begin());
+  EXPECT_THAT(lines, ElementsAre("Starting Recursive Undo Check Out 1",
+                                 "Starting ATM after Recursive Undo Check Out 2",
+                                 "Completed ATM after Recursive Undo Check Out 2", "refresh",
+                                 "Recursive Undo Check Out completed 2"));
+}
+
+TEST_F(CommandRunTest, AProviderWithoutAContextEndsTheRecursiveVariant) {
+  useProvider("Any");
+  m_view.selected = {&m_unit};
+  m_view.answer->withDescendants = true;
+  EXPECT_FALSE(run(DialogCommand::CheckIn));
+  EXPECT_TRUE(m_backEnds.calls.empty());
+  EXPECT_EQ(m_host.traceLog.texts().back(), "Starting Recursive Check In");
+  EXPECT_EQ(m_view.refreshes, 0);
+}
+
+/// A configuration that generates source files from every unit.
+class Respecting : public ICodeGenConfigInfo {
+ public:
+  bool isRespectMode() const override { return true; }
+  bool isObserved(const IUnit*) const override { return true; }
+};
+
+TEST_F(CommandRunTest, WithoutTheSettingUndoStillAsksAboutInformationFiles) {
+  Respecting configuration;
+  m_project.codeGen = &configuration;
+  m_view.selected = {&m_unit};
+  const struct {
+    const char* setting;  ///< Null for a missing one.
+    std::size_t questions;
+    bool isPreset;
+  } rows[] = {{nullptr, 2, false}, {"False", 1, false}, {"True", 2, true}};
+  for (const auto& row : rows) {
+    if (row.setting != nullptr) set("EnableRespectSynchronizedCM", row.setting, "General");
+    m_host.memoryMessages.asked.clear();
+    m_host.memoryMessages.answer = MessageBox::AnswerNo;
+    EXPECT_TRUE(run(DialogCommand::UndoCheckOut));
+    EXPECT_EQ(m_host.memoryMessages.asked.size(), row.questions);
+    EXPECT_TRUE(run(DialogCommand::CheckIn));
+    EXPECT_EQ(m_view.asked.back().withInformationFiles, row.isPreset);
+    EXPECT_EQ(m_view.asked.back().offersInformationFiles, row.questions == 2);
+  }
+}
+
+TEST_F(CommandRunTest, TheBranchToolRefusesControlledFilesBeforeAnythingIsAsked) {
+  set("CMTool", "Vaultrix", "General");
+  m_model.addEmbeddedFile("docs/Notes.txt").record.saveUnit = &m_project;
+  EXPECT_FALSE(run(DialogCommand::Connect));
+  EXPECT_EQ(lastMessage(), "60403");
+  EXPECT_TRUE(m_view.asked.empty());
 }
 
 TEST_F(CommandRunTest, ARecursiveFetchTakesStubsApartWhenTheSettingWantsIt) {

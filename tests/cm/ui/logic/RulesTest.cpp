@@ -1,5 +1,6 @@
 #include "cm/host/MessageIds.h"
 #include "cm/ui/logic/BackEndMode.h"
+#include "cm/ui/logic/BatchResults.h"
 #include "cm/ui/logic/ButtonRules.h"
 #include "cm/ui/logic/OptionRules.h"
 #include "cm/ui/logic/ProgressText.h"
@@ -117,6 +118,19 @@ TEST_F(RulesTest, CommentsAreChecked) {
   EXPECT_EQ(OptionRules::objection(presets, options).substr(0, 5), "60406");
 }
 
+TEST_F(RulesTest, TitlesNameTheCommandAsTheSettingSays) {
+  OptionPresets presets;
+  presets.command = DialogCommand::UndoCheckOut;
+  presets.window = OptionWindow::Provider;
+  useProvider("Any");
+  EXPECT_EQ(OptionRules::title(presets).substr(0, 5), "60520");
+  set("UseSCCCommandTitles", "True", "SCC");
+  EXPECT_EQ(OptionRules::title(presets).substr(0, 5), "60532");
+  presets.command = DialogCommand::Lock;
+  presets.window = OptionWindow::Lock;
+  EXPECT_EQ(OptionRules::title(presets).substr(0, 5), "60432");
+}
+
 TEST_F(RulesTest, TheFirstViewComesFromTheSettingsAndIsNotReadAgain) {
   EXPECT_EQ(ViewState::sortColumn(), 1);
   set("GUI", "Flat", "General");
@@ -140,8 +154,14 @@ TEST_F(RulesTest, TheBranchToolRefusesProjectsWithControlledFiles) {
   EXPECT_EQ(message, "60403: Notes.txt Plant");
 }
 
+TEST(BatchResultsTest, OfAToolsWordsTheFirstLinesCount) {
+  EXPECT_EQ(firstLines("\n  \r\n  svn: E1: no \r\n\nmore\nrest", 2), "svn: E1: no\nmore");
+  EXPECT_EQ(firstLines(" \n", 2), "");
+}
+
 TEST(ProgressTextTest, ThePaceSoFarTellsTheRest) {
   EXPECT_EQ(secondsLeft(1, 10, 5000), std::nullopt);
+  EXPECT_EQ(secondsLeft(3, 10, 900), std::nullopt);
   EXPECT_EQ(secondsLeft(3, 10, 4000), 16);
   EXPECT_EQ(secondsLeft(10, 10, 9900), 2);
   EXPECT_EQ(secondsLeft(11, 10, 1000), std::nullopt);

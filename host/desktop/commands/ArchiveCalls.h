@@ -4,27 +4,20 @@
 #include <string>
 #include <vector>
 
+#include "cm/core/CMArgument.h"
 #include "cm/core/CMDiagnostic.h"
 #include "cm/ui/logic/BatchResults.h"
-#include "cm/ui/logic/OptionRules.h"
-#include "host/desktop/commands/CommandTable.h"
 #include "host/model/Project.h"
 
 namespace veldra::host::desktop {
 
-/// What became of a command.
+/// What became of a call.
 struct CommandReport {
-  std::size_t done = 0;
   bool wasCancelled = false;
   std::vector<UnitResult> failures{};
   std::vector<std::string> messages{};  ///< What was said about no unit in particular.
-  std::string remarks{};                ///< Upon units that are done, a line each.
   bool isFine() const { return failures.empty() && messages.empty() && !wasCancelled; }
 };
-
-/// Runs a command on units. Units may be other objects afterwards. What is checked out is locked.
-CommandReport runCommand(const WindowCommand& row, UnitList units, CommandOptions options,
-                         BatchResults& results);
 
 /// Runs what works on no unit in particular: `call` gets the arguments and the diagnostics.
 CommandReport runOnArchive(Project& project, BatchResults& results,
