@@ -64,10 +64,7 @@ void use(const Invocation& invocation, Session& session, Registry& registry) {
   if (!invocation.options.dryRun) {
     makeDefaultProvider(registry.places().user, provider);
     if (hasProject) {
-      PropertyLayers& layers = session.host().properties();
-      layers.setInProject({IPN::CM, IPN::General, "UseSCCtool"}, "YES");
-      // Without it nothing that the provider has to say is ever seen.
-      layers.setInProject({IPN::CM, IPN::SCC, "RedirectOutputToVeldra"}, "True");
+      session.host().properties().setInProject({IPN::CM, IPN::General, "UseSCCtool"}, "YES");
       session.save(true);
     }
   }
