@@ -294,7 +294,7 @@ ExitCode runUnitOperation(const Invocation& invocation, const UnitOperation& ope
   if (!invocation.options.label.empty() && usesProvider) {
     throw CommandError(
         ExitCode::NothingDone,
-        "A source control provider has no labels. Leave \"-l\" out; nothing was done.");
+        "A source control provider knows no labels. Leave \"-l\" out; nothing was done.");
   }
   if (operation.outputIsResult && holdsResultsBack(invocation.options)) {
     session.setWindow(WindowUse::Quiet);

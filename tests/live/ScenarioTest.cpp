@@ -194,7 +194,7 @@ void ScenarioTest::labels() {
     for (const char* const command : {"checkin", "fetch"}) {
       const Ended refused = m_job.tryCm({command, Unit, "-l", "R1-0"});
       EXPECT_EQ(refused.code, 3) << command;
-      EXPECT_THAT(refused.err, HasSubstr("has no labels"));
+      EXPECT_THAT(refused.err, HasSubstr("knows no labels"));
     }
     m_job.cm({"checkin", Unit, "-m", "to be delivered"});
     return;
