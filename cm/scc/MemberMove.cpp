@@ -1,8 +1,5 @@
 #include "cm/scc/MemberMove.h"
 
-#include <algorithm>
-#include <cstdint>
-#include <ranges>
 #include <string_view>
 
 #include "cm/core/TextTools.h"
@@ -146,7 +143,7 @@ bool moveDirectory(const pvContextStruct& context, const std::string& from, cons
     moved.push_back(planFile(file, rebased(file, from, to), provider));
     if (carryOut(moved.back(), comment, provider, report)) continue;
     moved.pop_back();
-    for (const Moving& done : std::views::reverse(moved)) takeBack(done, provider);
+    for (auto done = moved.rbegin(); done != moved.rend(); ++done) takeBack(*done, provider);
     return false;
   }
   return true;
