@@ -229,6 +229,12 @@ void ScenarioTest::undo() {
 
 void ScenarioTest::locks() {
   const bool hasCommand = !leftOut("lock and unlock as commands", traits().noLockCommand);
+  for (const char* const command : {"lock", "unlock"}) {
+    if (hasCommand) continue;
+    const Ended refused = m_job.tryCm({command, Unit});
+    EXPECT_EQ(refused.code, 3) << command;
+    EXPECT_THAT(refused.err, HasSubstr("provider"));
+  }
   m_job.cm({locking(), Unit});
   EXPECT_TRUE(m_job.isWritable(Unit));
   if (!leftOut("lock, and unlock by another", traits().noLocks)) {
