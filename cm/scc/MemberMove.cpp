@@ -18,11 +18,15 @@ namespace {
 using Names = std::vector<std::string>;
 
 /// What goes under one name: a file, or a directory with all that is in it.
-struct Moving {
+struct Step {
   std::string from;
   std::string to;
   bool isControlled = true;
-  Names checkedOut{};  ///< By the new names.
+};
+
+struct Plan {
+  std::vector<Step> steps;  ///< All of them, or none.
+  Names checkedOut{};       ///< By the names in the end.
 };
 
 /// The status of files; what a provider cannot tell counts as controlled and not checked out.
@@ -80,41 +84,55 @@ bool isMovedOnDisk(const std::string& from, const std::string& to) {
   return !omFileExist(from) || installedHost()->environment().moveFile(from, to);
 }
 
-bool carryOut(const Moving& moving, const std::string& comment, void* context, UnitReport& report) {
-  const auto& [from, to, isControlled, checkedOut] = moving;
-  if (omFileExist(to)) return refuse(MessageId::TargetExists, to, report);
-  if (isControlled && !succeeds(renameInArchive(from, to, context), &report)) return false;
-  if (!isMovedOnDisk(from, to)) {
-    if (isControlled) renameInArchive(to, from, context);
-    return refuse(MessageId::FileNotMoved, from, report);
+bool carryOut(const Step& step, void* context, UnitReport& report) {
+  if (omFileExist(step.to)) return refuse(MessageId::TargetExists, step.to, report);
+  if (step.isControlled && !succeeds(renameInArchive(step.from, step.to, context), &report)) {
+    return false;
   }
-  if (!checkedOut.empty()) {
-    checkIn(checkedOut, comment, context, report);
-  } else if (isControlled && !comment.empty()) {
+  if (isMovedOnDisk(step.from, step.to)) return true;
+  if (step.isControlled) renameInArchive(step.to, step.from, context);
+  return refuse(MessageId::FileNotMoved, step.from, report);
+}
+
+void takeBack(const Step& step, void* context) {
+  if (isMovedOnDisk(step.to, step.from) && step.isControlled) {
+    renameInArchive(step.to, step.from, context);
+  }
+}
+
+bool carryOut(const Plan& plan, const std::string& comment, void* context, UnitReport& report) {
+  bool isInArchive = false;
+  for (auto step = plan.steps.begin(); step != plan.steps.end(); ++step) {
+    isInArchive = isInArchive || step->isControlled;
+    if (carryOut(*step, context, report)) continue;
+    while (step != plan.steps.begin()) takeBack(*--step, context);
+    return false;
+  }
+  if (!plan.checkedOut.empty()) {
+    checkIn(plan.checkedOut, comment, context, report);
+  } else if (isInArchive && !comment.empty()) {
     report.endsAs(UnitEnd::Done, loadMessage(MessageId::CommentNotTaken));
   }
   return true;
 }
 
-void takeBack(const Moving& moving, void* context) {
-  if (isMovedOnDisk(moving.to, moving.from) && moving.isControlled) {
-    renameInArchive(moving.to, moving.from, context);
-  }
+std::string newNameOf(const std::string& file, const DirectoryMove& move) {
+  return file == move.renamed ? move.newName : rebased(file, move.from, move.to);
 }
 
-Moving planFile(const std::string& from, const std::string& to, void* context) {
-  const scc::LONG status = statusOf({from}, context).front();
-  return {from, to, isControlled(status), isCheckedOut(status) ? Names{to} : Names{}};
-}
-
-Moving planDirectory(const std::string& from, const std::string& to, const Names& files,
-                     void* context) {
-  Moving moving{from, to};
-  const std::vector<scc::LONG> status = statusOf(files, context);
-  for (std::size_t i = 0; i < files.size(); ++i) {
-    if (isCheckedOut(status[i])) moving.checkedOut.push_back(rebased(files[i], from, to));
+Plan planDirectory(const DirectoryMove& move, void* context) {
+  Plan plan;
+  const bool isWhole = isControlledDirectory(move.from, context);
+  if (isWhole) plan.steps.push_back({move.from, move.to});
+  const std::vector<scc::LONG> status = statusOf(move.files, context);
+  for (std::size_t i = 0; i < move.files.size(); ++i) {
+    const std::string& file = move.files[i];
+    const std::string newName = newNameOf(file, move);
+    if (isCheckedOut(status[i])) plan.checkedOut.push_back(newName);
+    const std::string from = isWhole ? rebased(file, move.from, move.to) : file;
+    if (from != newName) plan.steps.push_back({from, newName, isControlled(status[i])});
   }
-  return moving;
+  return plan;
 }
 
 }  // namespace
@@ -129,24 +147,16 @@ bool moveMember(const pvContextStruct& context, const std::string& from, const s
                 const std::string& comment, UnitReport& report) {
   if (from == to) return true;
   void* const provider = context.getpvContextPtr();
-  return carryOut(planFile(from, to, provider), comment, provider, report);
+  const scc::LONG status = statusOf({from}, provider).front();
+  Plan plan{.steps = {{from, to, isControlled(status)}}};
+  if (isCheckedOut(status)) plan.checkedOut = {to};
+  return carryOut(plan, comment, provider, report);
 }
 
-bool moveDirectory(const pvContextStruct& context, const std::string& from, const std::string& to,
-                   const Names& files, const std::string& comment, UnitReport& report) {
+bool moveDirectory(const pvContextStruct& context, const DirectoryMove& move,
+                   const std::string& comment, UnitReport& report) {
   void* const provider = context.getpvContextPtr();
-  if (isControlledDirectory(from, provider)) {
-    return carryOut(planDirectory(from, to, files, provider), comment, provider, report);
-  }
-  std::vector<Moving> moved;
-  for (const std::string& file : files) {
-    moved.push_back(planFile(file, rebased(file, from, to), provider));
-    if (carryOut(moved.back(), comment, provider, report)) continue;
-    moved.pop_back();
-    for (auto done = moved.rbegin(); done != moved.rend(); ++done) takeBack(*done, provider);
-    return false;
-  }
-  return true;
+  return carryOut(planDirectory(move, provider), comment, provider, report);
 }
 
 }  // namespace veldra

@@ -17,11 +17,19 @@ namespace veldra {
 bool moveMember(const pvContextStruct& context, const std::string& from, const std::string& to,
                 const std::string& comment, UnitReport& report);
 
-/// The same for a directory and these files in it: as a whole where the provider knows the
-/// directory, otherwise file by file. Where one of the files has to stay, all of them do.
-bool moveDirectory(const pvContextStruct& context, const std::string& from, const std::string& to,
-                   const std::vector<std::string>& files, const std::string& comment,
-                   UnitReport& report);
+/// A directory that gets another name or place.
+struct DirectoryMove {
+  std::string from;
+  std::string to;
+  std::vector<std::string> files;  ///< The module's files in it, by their names before.
+  std::string renamed{};           ///< The one of them that gets another name, too; mostly none.
+  std::string newName{};           ///< What that one is called in the end.
+};
+
+/// The same for a directory: as a whole where the provider knows it, otherwise file by file. Where
+/// one of the files has to stay, all of them do.
+bool moveDirectory(const pvContextStruct& context, const DirectoryMove& move,
+                   const std::string& comment, UnitReport& report);
 
 /// The name of a file below one directory as it is below another.
 std::string rebased(const std::string& file, const std::string& from, const std::string& to);

@@ -40,18 +40,12 @@ int carryOut(const std::vector<Move>& moves, const ArgumentList& arguments,
     if (context == nullptr || !offers(providerState().dll.SccRename, MoveName, diagnostics))
       return 0;
     UnitReport report(MoveName, ++position, moves.size(), unit->getFullFileName());
-    const bool isMoved = files.empty() ? moveMember(*context, from, to, comment, report)
-                                       : moveDirectory(*context, from, to, files, comment, report);
+    const bool isMoved = files.empty()
+                             ? moveMember(*context, from, to, comment, report)
+                             : moveDirectory(*context, {from, to, files}, comment, report);
     if (!isMoved) result = 0;
   }
   return result;
-}
-
-std::vector<std::string> filesOf(const UnitList& units) {
-  std::vector<std::string> files;
-  files.reserve(units.size());
-  for (const IUnit* unit : units) files.push_back(unit->getFullFileName());
-  return files;
 }
 
 Move planMove(IUnit& unit, const UnitsByFile& units, const std::string& target) {

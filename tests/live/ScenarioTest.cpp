@@ -286,7 +286,12 @@ void ScenarioTest::renameAndMove() {
   EXPECT_EQ(tool().files(), m_job.files());
   EXPECT_FALSE(tool().files().contains(Unit));
   EXPECT_THAT(tool().newestComment("Brewing/Mill.vcmp"), HasSubstr("a better name"));
-  done("rename");
+  m_job.cm({"checkout", "Control"});
+  m_job.cm({"rename", "-m", "a clearer name", "Control", "Controls"});
+  EXPECT_EQ(tool().files(), m_job.files());
+  expectInArchive("Controls/Controls.vpkg");
+  EXPECT_THAT(tool().newestComment("Controls/Controls.vpkg"), HasSubstr("a clearer name"));
+  done("rename a unit and a package");
 
   m_job.cm({"move", "-m", "elsewhere", "Brewing/Mill.vcmp", "Milk"});
   expectInArchive("Milk/Mill.vcmp");

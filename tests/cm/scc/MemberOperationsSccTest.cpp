@@ -228,6 +228,20 @@ TEST_F(MemberOperationsSccTest, APackageGoesAtOnceWhereTheProviderKnowsDirectori
   EXPECT_THAT(ends(), ElementsAre(UnitEnd::Done));
 }
 
+TEST_F(MemberOperationsSccTest, ARenamedPackageTakesItsDirectoryAlong) {
+  providerState().capabilities = scc::SCC_CAP_DIRECTORYSTATUS;
+  MemoryPackage& package = addPackage();
+  m_provider->status["/plan/Brewing/Brewing.vpk"] = 0x1003;
+  EXPECT_EQ(CMFacade::RenameMember(&package, package.getFullFileName(), "/plan/Mill/Mill.vpk",
+                                   m_arguments, m_diagnostics),
+            1);
+  EXPECT_THAT(calls("SccRename"),
+              ElementsAre("SccRename /plan/Brewing /plan/Mill",
+                          "SccRename /plan/Mill/Brewing.vpk /plan/Mill/Mill.vpk"));
+  EXPECT_THAT(calls("SccCheckin"), ElementsAre("SccCheckin /plan/Mill/Mill.vpk 'why' 0"));
+  EXPECT_TRUE(hasFile("/plan/Mill/Boiler.vcl"));
+}
+
 TEST_F(MemberOperationsSccTest, APackageStaysWhereItIsWhenOneOfItsFilesDoes) {
   CMTargetFile target("/plan/New");
   m_units = {&addPackage()};
