@@ -110,7 +110,7 @@ void ScenarioTest::list() {
   EXPECT_EQ(Job::pathsOf(listed), tool().files());
   const bool hasVersions = !leftOut("versions in the listing", traits().noVersions);
   for (const json& file : listed["units"]) {
-    EXPECT_EQ(file["version"] != "", hasVersions) << file;
+    EXPECT_EQ(file["version"].get<std::string>().empty(), !hasVersions) << file;
     EXPECT_EQ(file["mode"], "RO") << file;
     EXPECT_EQ(file["locker"], "") << file;
   }
