@@ -149,7 +149,9 @@ TEST_F(ProviderCommandTest, StatusNamesExactlyWhatASecondUserHolds) {
   for (std::size_t i = 0; i < count; ++i) {
     const std::string unit = "p" + std::to_string(i / 100) + "/u" + std::to_string(i) + ".puml";
     m_sandbox.write("drawn/" + unit, "@startuml\n@enduml\n");
-    if (i % (count / 100) == 0 && held.insert(unit).second) lock += unit + '\n';
+    if (i % (count / 100) == 0 && held.insert(unit).second) {
+      lock += "file://" + m_sandbox.path("archive/" + unit) + '\n';
+    }
   }
   m_sandbox.write("list", lock);
   // svn brings so many files into an archive at once, and its working copies are the provider's.
@@ -157,8 +159,8 @@ TEST_F(ProviderCommandTest, StatusNamesExactlyWhatASecondUserHolds) {
       "url=file://$PWD/archive && svnadmin create archive &&\n"
       "svn import -q -m all drawn $url --config-option config:miscellany:enable-auto-props=yes "
       "--config-option 'config:auto-props:*=svn:needs-lock=*' &&\n"
-      "svn checkout -q $url model && svn checkout -q $url hers && cd hers &&\n"
-      "svn lock -q --username alice --no-auth-cache --targets ../list");
+      "svn checkout -q $url model &&\n"
+      "svn lock -q --username alice --no-auth-cache --targets list");
   ASSERT_EQ(made.code, 0) << made.err;
   makeProject();
   ASSERT_EQ(in("model", {"connect", "--archive", m_sandbox.path("archive")}).code, 0);
