@@ -136,7 +136,8 @@ TEST_F(ProviderCommandTest, AnInterruptEndsACallThatHangs) {
   EXPECT_EQ(m_sandbox.read(unit), before);
 }
 
-/// How many units the project has; 20,000 take a minute or two, most of it to make the archive.
+/// How many units the project has. With TMPDIR in memory 20,000 take half a minute; a disk that
+/// others write to takes minutes to make the archive.
 std::size_t manyUnits() {
   const char* const wish = std::getenv("VELDRA_MANY_UNITS");
   return wish != nullptr ? std::stoul(wish) : 2000;
