@@ -78,6 +78,7 @@ inline constexpr int ChangedAndStale = 60211;  ///< File.
 inline constexpr int Stale = 60870;  ///< The archive has a newer version: file.
 /// A check-in that made no revision: file.
 inline constexpr int NothingChanged = 60250;
+inline constexpr int CommentNotTaken = 60261;  ///< By a provider that moves or renames.
 
 // What the dialogs say. A group with one text per command begins at the number given and goes on in
 // the order of `DialogCommand`.

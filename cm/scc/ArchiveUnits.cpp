@@ -15,6 +15,13 @@ IUnit* unitOfItem(const CMArchiveItem& item) {
                                                       : item.getFileName());
 }
 
+std::vector<std::string> filesOf(const UnitList& units) {
+  std::vector<std::string> files;
+  files.reserve(units.size());
+  for (const IUnit* unit : units) files.push_back(unit->getFullFileName());
+  return files;
+}
+
 UnitsByFile::UnitsByFile() : m_units(workspaceUnits()) {
   m_places.reserve(m_units.size());
   for (const IUnit* unit : m_units) m_places.emplace_back(unit->getFullFileName(), m_places.size());

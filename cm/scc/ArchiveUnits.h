@@ -17,6 +17,9 @@ IUnit* unitOfItem(const CMArchiveItem& item);
 /// The loaded units of the items' files, each once; with those that lie in them when `recursive`.
 UnitList unitsOfItems(const CMArchiveItemList& items, bool recursive);
 
+/// The full names of the units' files.
+std::vector<std::string> filesOf(const UnitList& units);
+
 /// The units of the workspace by where their files lie, looked at once for any number of packages.
 class UnitsByFile {
  public:

@@ -1,6 +1,6 @@
 #include "cm/scc/MoveMemberSCC.h"
 
-#include <utility>
+#include <functional>
 #include <vector>
 
 #include "cm/core/CMFacade.h"
@@ -20,44 +20,40 @@ namespace {
 constexpr char MoveName[] = "Move";
 constexpr char MoveContextLine[] = "Getting SCC Context to perform move";
 
-/// A unit and the full name that its file gets.
-using Move = std::pair<IUnit*, std::string>;
+/// What one unit takes along under which name: its file, or the directory of a package with the
+/// files in it.
+struct Move {
+  IUnit* unit;
+  std::string from;
+  std::string to;
+  std::vector<std::string> files{};  ///< Empty for a file by itself.
+};
 
 int carryOut(const std::vector<Move>& moves, const ArgumentList& arguments,
              DiagnosticList& diagnostics) {
   const std::string comment = argumentValue(arguments, "log");
   int result = moves.empty() ? 0 : 1;
   std::size_t position = 0;
-  for (const auto& [unit, newName] : moves) {
+  for (const auto& [unit, from, to, files] : moves) {
     if (UnitReport::isCancelled()) return 0;
     const pvContextStruct* const context = contextFor(unit, MoveContextLine);
     if (context == nullptr || !offers(providerState().dll.SccRename, MoveName, diagnostics))
       return 0;
-    const std::string file = unit->getFullFileName();
-    UnitReport report(MoveName, ++position, moves.size(), file);
-    if (!moveMember(*context, file, newName, comment, report)) result = 0;
+    UnitReport report(MoveName, ++position, moves.size(), unit->getFullFileName());
+    const bool isMoved = files.empty()
+                             ? moveMember(*context, from, to, comment, report)
+                             : moveDirectory(*context, {from, to, files}, comment, report);
+    if (!isMoved) result = 0;
   }
   return result;
 }
 
-/// The name of a file below one directory as it is below another.
-std::string rebased(const std::string& file, const std::string& from, const std::string& to) {
-  const std::string prefix = from + omPathSeparator();
-  return joinPath(
-      to, file.starts_with(prefix) ? std::string_view(file).substr(prefix.size()) : baseName(file));
-}
-
-void planMove(IUnit& unit, const UnitsByFile& files, const std::string& target,
-              std::vector<Move>& moves) {
+Move planMove(IUnit& unit, const UnitsByFile& units, const std::string& target) {
   if (!isPackageWithDirectory(&unit)) {
-    moves.emplace_back(&unit, joinPath(target, unit.getFileName()));
-    return;
+    return {&unit, unit.getFullFileName(), joinPath(target, unit.getFileName())};
   }
   const std::string directory = unit.getDirectory();
-  const std::string newDirectory = joinPath(target, baseName(directory));
-  for (IUnit* below : files.with(unit)) {
-    moves.emplace_back(below, rebased(below->getFullFileName(), directory, newDirectory));
-  }
+  return {&unit, directory, joinPath(target, baseName(directory)), filesOf(units.with(unit))};
 }
 
 }  // namespace
@@ -65,7 +61,7 @@ void planMove(IUnit& unit, const UnitsByFile& files, const std::string& target,
 int MoveMemberSCC::operator()(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics,
                               bool /*hybrid*/) {
   const std::string target = argumentValue(arguments, "targetDir");
-  const UnitsByFile files;
+  const UnitsByFile all;
   std::vector<Move> moves;
   for (IUnit* unit : units) {
     if (unit == nullptr) continue;
@@ -76,7 +72,7 @@ int MoveMemberSCC::operator()(UnitList& units, ArgumentList& arguments, Diagnost
                                unit);
       continue;
     }
-    planMove(*unit, files, directory, moves);
+    moves.push_back(planMove(*unit, all, directory));
   }
   return carryOut(moves, arguments, diagnostics);
 }
@@ -90,8 +86,18 @@ int MoveMemberSCC::movePackageContent(IUnit* package, UnitList& units, const std
   std::erase(all, nullptr);
   CMFacade::removeDuplicatesFromItemList(all);
   std::vector<Move> moves;
+  if (package != nullptr) {
+    const auto isOutside = [prefix = oldPath + omPathSeparator()](const IUnit* unit) {
+      return !unit->getFullFileName().starts_with(prefix);
+    };
+    UnitList inside = all;
+    std::erase_if(inside, isOutside);
+    if (!inside.empty()) moves.push_back({package, oldPath, newPath, filesOf(inside)});
+    std::erase_if(all, std::not_fn(isOutside));
+  }
   for (IUnit* unit : all) {
-    moves.emplace_back(unit, rebased(unit->getFullFileName(), oldPath, newPath));
+    const std::string file = unit->getFullFileName();
+    moves.push_back({unit, file, rebased(file, oldPath, newPath)});
   }
   return carryOut(moves, arguments, diagnostics);
 }

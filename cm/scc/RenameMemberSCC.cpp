@@ -1,9 +1,11 @@
 #include "cm/scc/RenameMemberSCC.h"
 
+#include "cm/core/HybridRule.h"
 #include "cm/core/TextTools.h"
 #include "cm/host/IEnvironment.h"
 #include "cm/host/IUserMessages.h"
 #include "cm/host/MessageIds.h"
+#include "cm/scc/ArchiveUnits.h"
 #include "cm/scc/MemberMove.h"
 #include "cm/scc/ProviderBatch.h"
 
@@ -15,6 +17,19 @@ constexpr char RenameName[] = "Rename";
 
 std::string inDirectoryOf(const IUnit& unit, const std::string& name) {
   return omIsAbsolutePath(name) ? name : joinPath(unit.getDirectory(), name);
+}
+
+/// A package goes with its directory when that changes.
+bool takesDirectoryAlong(IUnit& unit, const std::string& from, const std::string& to) {
+  return isPackageWithDirectory(&unit) && cutAtLastSeparator(from) != cutAtLastSeparator(to);
+}
+
+DirectoryMove directoryOf(IUnit& package, const std::string& from, const std::string& to) {
+  return {.from = std::string(cutAtLastSeparator(from)),
+          .to = std::string(cutAtLastSeparator(to)),
+          .files = filesOf(UnitsByFile().with(package)),
+          .renamed = from,
+          .newName = to};
 }
 
 }  // namespace
@@ -38,8 +53,13 @@ int RenameMemberSCC::operator()(IUnit* unit, const std::string& oldName, const s
   const pvContextStruct* const context = contextFor(unit, "Getting SCC Context to perform rename");
   if (context == nullptr || !offers(providerState().dll.SccRename, RenameName, diagnostics))
     return 0;
+  const std::string to = inDirectoryOf(*unit, newName);
   UnitReport report(RenameName, 1, 1, from);
-  return moveMember(*context, from, inDirectoryOf(*unit, newName), comment, report) ? 1 : 0;
+  const bool isRenamed =
+      takesDirectoryAlong(*unit, from, to)
+          ? moveDirectory(*context, directoryOf(*unit, from, to), comment, report)
+          : moveMember(*context, from, to, comment, report);
+  return isRenamed ? 1 : 0;
 }
 
 }  // namespace veldra

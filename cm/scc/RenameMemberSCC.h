@@ -6,8 +6,9 @@
 
 namespace veldra {
 
-/// Gives the file of one unit another name; a name without directory stays in its own. Archive and
-/// disk are kept in step; the model is left to the host. 1 when the file has its new name.
+/// Gives the file of one unit another name; a name without directory stays in its own, and in
+/// another one a package takes its directory along. Archive and disk are kept in step; the model is
+/// left to the host. 1 when the file has its new name.
 class RenameMemberSCC : public CMWorkspaceOperation {
  public:
   /// The new name is the argument "newName", the comment that of "log".

@@ -85,6 +85,7 @@ class SCCdll : public PDLL {
   EntrySlot<scc::SccAddFn> SccAdd{{"SccAdd"}};
   EntrySlot<scc::SccRemoveFn> SccRemove{{"SccRemove"}};
   EntrySlot<scc::SccRenameFn> SccRename{{"SccRename"}};
+  EntrySlot<scc::SccDirQueryInfoFn> SccDirQueryInfo{{"SccDirQueryInfo"}};
   EntrySlot<scc::SccCheckinTaskFn> SccCheckinTask{{"SccCheckinTask"}};
   EntrySlot<scc::SccSetTaskFn> SccSetTask{{"SccSetTask"}};
   EntrySlot<scc::SccGetDefaultTaskFn> SccGetDefaultTask{{"SccGetDefaultTask"}};

@@ -120,10 +120,8 @@ void makeDefaultProvider(const std::string& place, const InstalledProvider& prov
   store(place, {{ProvidersKey, DefaultName, provider.key}});
 }
 
-std::vector<std::pair<PropertyKey, std::string>> providerSettings() {
-  return {{{IPN::CM, IPN::General, "UseSCCtool"}, "Yes"},
-          // Without it nothing that the provider has to say is ever seen.
-          {{IPN::CM, IPN::SCC, "RedirectOutputToVeldra"}, "True"}};
+PropertyKey useOfProvider() {
+  return {IPN::CM, IPN::General, "UseSCCtool"};
 }
 
 std::string shippedProvider(const std::string& installationRoot) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "host/model/Property.h"
@@ -31,8 +30,8 @@ void installProvider(const std::string& place, const std::string& name, const st
 /// Makes an installed provider the default of the user. Throws like the above.
 void makeDefaultProvider(const std::string& place, const InstalledProvider& provider);
 
-/// How a project is set that works with the user's provider.
-std::vector<std::pair<PropertyKey, std::string>> providerSettings();
+/// What a project says with "Yes" that works with the user's provider.
+PropertyKey useOfProvider();
 
 /// The library of the provider that comes with this program, whether it exists or not.
 std::string shippedProvider(const std::string& installationRoot);

@@ -302,6 +302,11 @@ ExitCode runUnitOperation(const Invocation& invocation, const UnitOperation& ope
   if (operation.providerAdvice != nullptr && usesProvider) {
     throw CommandError(ExitCode::NothingDone, operation.providerAdvice);
   }
+  if (!invocation.options.label.empty() && usesProvider) {
+    throw CommandError(
+        ExitCode::NothingDone,
+        "A source control provider knows no labels. Leave \"-l\" out; nothing was done.");
+  }
   if (operation.outputIsResult && holdsResultsBack(invocation.options)) {
     session.setWindow(WindowUse::Quiet);
   }

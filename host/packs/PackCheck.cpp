@@ -58,8 +58,10 @@ class Check {
   }
 
   void checkHead() {
-    const bool isCommon = std::ranges::all_of(
-        m_pack.properties, [](const Entry& entry) { return entry.key.metaclass == IPN::General; });
+    // What all tools have in common, or all providers.
+    const bool isCommon = std::ranges::all_of(m_pack.properties, [](const Entry& entry) {
+      return entry.key.metaclass == IPN::General || entry.key.metaclass == IPN::SCC;
+    });
     if (packName().empty() && !(isCommon && !m_pack.pack && !m_pack.properties.empty())) {
       add(0, {}, "There is no table [pack] with the name of the tool.");
     }

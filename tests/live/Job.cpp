@@ -12,15 +12,22 @@ Job::Job(const std::string& pack) : m_tool(makeTool(pack, m_sandbox)) {
 
 void Job::become(const std::string& user, const std::string& folder) {
   m_sandbox.become(user);
+  m_sandbox.set("HOME", m_sandbox.path(m_tool->homeOf(user)));
   m_folder = folder;
+  if (!m_address.empty()) m_tool->letIn(user, m_address);
 }
 
-void Job::makeProject(const std::string& archive) {
+void Job::makeProject(const std::string& address) {
   m_sandbox.copySample("model");
   m_sandbox.write("model/docs/LICENSE", "no dot in the name");
-  const Ended ended = m_sandbox.cm({"init", "model", "--name", "Machine", "--tool",
-                                    m_tool->traits().pack, "--archive", archive});
-  EXPECT_EQ(ended.code, 0) << ended.err;
+  m_address = address;
+  become("alice", m_folder);
+  for (const std::vector<std::string>& command : m_tool->setUp(address)) {
+    const Ended ended = m_sandbox.cm(command);
+    EXPECT_EQ(ended.code, 0) << testing::PrintToString(command) << ended.err;
+  }
+  // The last command may have made the archive.
+  m_tool->letIn("alice", address);
 }
 
 Ended Job::tryCm(std::vector<std::string> arguments, const std::string& input) {

@@ -21,8 +21,8 @@ class Job {
   /// From now on commands are about this folder's project, in this user's name.
   void become(const std::string& user, const std::string& folder);
 
-  /// Makes the project "Machine" of the sample in "model", and connects it.
-  void makeProject(const std::string& archive);
+  /// Makes the project "Machine" of the sample in "model", with the archive at an address.
+  void makeProject(const std::string& address);
 
   /// Runs `veldra-cm` on the project; it has to succeed.
   Ended cm(std::vector<std::string> arguments, const std::string& input = {});
@@ -47,6 +47,7 @@ class Job {
   Sandbox m_sandbox;
   std::unique_ptr<Tool> m_tool;
   std::string m_folder = "model";
+  std::string m_address;
 };
 
 }  // namespace veldra::live

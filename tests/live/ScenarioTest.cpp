@@ -4,8 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <iostream>
+#include <optional>
 
-#include "tests/live/Job.h"
+#include "tests/live/Serving.h"
 
 namespace veldra::live {
 namespace {
@@ -24,16 +25,26 @@ std::string hardComment() {
   return comment;
 }
 
-class ScenarioTest : public testing::TestWithParam<const char*> {
+struct ScenarioRow {
+  const char* pack;
+  const char* archive = "archive";  ///< What the archive is, for who reads the output.
+  Serve serve = nullptr;            ///< Without one the archive is a folder.
+};
+
+class ScenarioTest : public testing::TestWithParam<ScenarioRow> {
  protected:
   void SetUp() override {
-    const std::string program = m_job.tool().traits().program;
+    const std::string program = traits().program;
     if (!isInstalled(program)) GTEST_SKIP() << program << " is not installed";
+    if (GetParam().serve == nullptr) return;
+    m_job.tool().makeArchive();
+    m_address = GetParam().serve(m_job, m_server);
+    ASSERT_TRUE(!m_server || m_server->isListening());
   }
 
   void TearDown() override {
     if (IsSkipped()) return;
-    std::cout << "[ scenario ] " << GetParam() << ": " << m_done;
+    std::cout << "[ scenario ] " << GetParam().pack << ", " << GetParam().archive << ": " << m_done;
     for (const std::string& missing : m_notPossible) std::cout << "; not possible: " << missing;
     std::cout << std::endl;
   }
@@ -49,6 +60,10 @@ class ScenarioTest : public testing::TestWithParam<const char*> {
   }
 
   const Tool& tool() const { return m_job.tool(); }
+  const ToolTraits& traits() const { return tool().traits(); }
+  /// The commands that take a lock and give it back.
+  const char* locking() const { return traits().noLockCommand ? "checkout" : "lock"; }
+  const char* unlocking() const { return traits().noLockCommand ? "undo" : "unlock"; }
 
   void expectInArchive(const std::string& unit) {
     EXPECT_TRUE(tool().newestText(unit) == m_job.read(unit)) << unit;
@@ -68,13 +83,15 @@ class ScenarioTest : public testing::TestWithParam<const char*> {
   void renameAndMove();
   void remove();
 
-  Job m_job{GetParam()};
+  Job m_job{GetParam().pack};
+  std::optional<Server> m_server;
+  std::string m_address = "archive";
   std::string m_done;
   std::vector<std::string> m_notPossible;
 };
 
 void ScenarioTest::connectAndAdd() {
-  m_job.makeProject("archive");
+  m_job.makeProject(m_address);
   EXPECT_EQ(tool().files(), std::set<std::string>());
   m_job.cm({"connect"});
   done("connect");
@@ -91,8 +108,9 @@ void ScenarioTest::connectAndAdd() {
 void ScenarioTest::list() {
   const json listed = m_job.document({"ls"});
   EXPECT_EQ(Job::pathsOf(listed), tool().files());
+  const bool hasVersions = !leftOut("versions in the listing", traits().noVersions);
   for (const json& file : listed["units"]) {
-    EXPECT_NE(file["version"], "") << file;
+    EXPECT_EQ(file["version"].get<std::string>().empty(), !hasVersions) << file;
     EXPECT_EQ(file["mode"], "RO") << file;
     EXPECT_EQ(file["locker"], "") << file;
   }
@@ -103,13 +121,13 @@ void ScenarioTest::checkOutAndIn() {
   m_job.cm({"checkout", "Brewing::Grinder"});
   EXPECT_TRUE(m_job.isWritable(Unit));
   EXPECT_EQ(Job::unitOf(m_job.document({"status"}), Unit)["mode"], "RW");
-  if (tool().traits().noLocks == nullptr) {
+  if (traits().noLocks == nullptr) {
     EXPECT_EQ(tool().holder(Unit), "alice");
     EXPECT_EQ(Job::unitOf(m_job.document({"ls"}), Unit)["locker"], "alice");
   }
   // Who repeats a command is not refused what is his already.
   m_job.cm({"checkout", Unit, "Milk/Milk.vpkg"});
-  m_job.cm({"lock", Unit});
+  m_job.cm({locking(), Unit});
   m_job.cm({"undo", "Milk/Milk.vpkg"});
   done("check out");
 
@@ -129,7 +147,7 @@ void ScenarioTest::checkOutAndIn() {
 
   const json archived = Job::unitOf(m_job.document({"ls"}), Unit);
   const json local = Job::unitOf(m_job.document({"status"}), Unit);
-  if (leftOut("version in the file", tool().traits().noKeywords)) return;
+  if (leftOut("version in the file", traits().noKeywords)) return;
   EXPECT_EQ(archived["version"], local["version"]);
 }
 
@@ -152,9 +170,15 @@ void ScenarioTest::checkInUnchanged() {
 void ScenarioTest::properties() {
   m_job.cm({"checkout", Unit});
   const json properties = Job::unitOf(m_job.document({"properties", Unit}), Unit);
-  EXPECT_EQ(properties["state"], "checked out");
-  EXPECT_EQ(properties["version"], Job::unitOf(m_job.document({"ls"}), Unit)["version"]);
-  EXPECT_THAT(m_job.cm({"properties", Unit}).out, HasSubstr("version  "));
+  const Ended shown = m_job.cm({"properties", Unit});
+  if (traits().ownProperties != nullptr) {
+    EXPECT_THAT(properties["message"].get<std::string>(), HasSubstr(traits().ownProperties));
+    EXPECT_THAT(shown.out, HasSubstr(traits().ownProperties));
+  } else {
+    EXPECT_EQ(properties["state"], "checked out");
+    EXPECT_EQ(properties["version"], Job::unitOf(m_job.document({"ls"}), Unit)["version"]);
+    EXPECT_THAT(shown.out, HasSubstr("version  "));
+  }
   EXPECT_EQ(m_job.tryCm({"properties", "No/Such"}).code, 3);
   const Ended refreshed = m_job.cm({"refresh"});
   EXPECT_THAT(refreshed.out, HasSubstr("checked out  1\n"));
@@ -166,6 +190,15 @@ void ScenarioTest::properties() {
 void ScenarioTest::labels() {
   m_job.cm({"checkout", Unit});
   m_job.change(Unit, "\"6\"", "\"7\"");
+  if (leftOut("label, fetch by label", traits().noLabels)) {
+    for (const char* const command : {"checkin", "fetch"}) {
+      const Ended refused = m_job.tryCm({command, Unit, "-l", "R1-0"});
+      EXPECT_EQ(refused.code, 3) << command;
+      EXPECT_THAT(refused.err, HasSubstr("knows no labels"));
+    }
+    m_job.cm({"checkin", Unit, "-m", "to be delivered"});
+    return;
+  }
   m_job.cm({"checkin", Unit, "-m", "to be delivered", "-l", "R1-0"});
   const std::string labelled = m_job.read(Unit);
   EXPECT_EQ(tool().textAt("R1-0", Unit), labelled);
@@ -187,7 +220,7 @@ void ScenarioTest::labels() {
 void ScenarioTest::undo() {
   const std::string archived = m_job.read(Unit);
   m_job.cm({"checkout", Unit});
-  m_job.change(Unit, "\"8\"", "\"99\"");
+  m_job.change(Unit, "Grinds", "Spills");
   m_job.cm({"undo", Unit});
   EXPECT_EQ(m_job.read(Unit), archived);
   expectInArchive(Unit);
@@ -195,27 +228,34 @@ void ScenarioTest::undo() {
 }
 
 void ScenarioTest::locks() {
-  m_job.cm({"lock", Unit});
+  const bool hasCommand = !leftOut("lock and unlock as commands", traits().noLockCommand);
+  for (const char* const command : {"lock", "unlock"}) {
+    if (hasCommand) continue;
+    const Ended refused = m_job.tryCm({command, Unit});
+    EXPECT_EQ(refused.code, 3) << command;
+    EXPECT_THAT(refused.err, HasSubstr("provider"));
+  }
+  m_job.cm({locking(), Unit});
   EXPECT_TRUE(m_job.isWritable(Unit));
-  if (!leftOut("lock, and unlock by another", tool().traits().noLocks)) {
+  if (!leftOut("lock, and unlock by another", traits().noLocks)) {
     EXPECT_EQ(tool().holder(Unit), "alice");
     m_job.become("bob", "second");
-    tool().checkOut(tool().archive(), "second");
+    tool().checkOut(m_server ? m_address : tool().archive(), "second");
     m_job.cm({"connect"});
     const Ended refused = m_job.tryCm({"checkout", Unit, "Milk/Milk.vpkg"});
     EXPECT_EQ(refused.code, 1) << refused.err;
     EXPECT_THAT(refused.err, HasSubstr("alice"));
     EXPECT_EQ(tool().holder("Milk/Milk.vpkg"), "bob");
-    m_job.tryCm({"unlock", Unit});
+    m_job.tryCm({unlocking(), Unit});
     EXPECT_EQ(tool().holder(Unit), "alice") << "a lock is its holder's to give back";
     EXPECT_EQ(Job::unitOf(m_job.document({"ls"}), Unit)["locker"], "alice");
-    m_job.cm({"unlock", "Milk/Milk.vpkg"});
+    m_job.cm({unlocking(), "Milk/Milk.vpkg"});
     m_job.become("alice", "model");
-    done("lock");
+    done(hasCommand ? "lock" : "lock by check out, refusal to another");
   }
-  m_job.cm({"unlock", Unit});
+  m_job.cm({unlocking(), Unit});
   expectInArchive(Unit);
-  done("unlock");
+  done(hasCommand ? "unlock" : "unlock by undo");
 }
 
 void ScenarioTest::recursively() {
@@ -224,7 +264,7 @@ void ScenarioTest::recursively() {
   m_job.cm({"checkout", "-r", "Brewing"});
   EXPECT_TRUE(m_job.isWritable(inner));
   m_job.change(inner, "9 bar", "15 bar");
-  m_job.change(Unit, "\"8\"", "\"9\"");
+  m_job.change(Unit, "Grinds", "Mills");
   m_job.cm({"checkin", "-r", "Brewing", "-m", "more pressure"});
   for (const std::string unit : {inner.c_str(), Unit}) {
     expectInArchive(unit);
@@ -246,7 +286,12 @@ void ScenarioTest::renameAndMove() {
   EXPECT_EQ(tool().files(), m_job.files());
   EXPECT_FALSE(tool().files().contains(Unit));
   EXPECT_THAT(tool().newestComment("Brewing/Mill.vcmp"), HasSubstr("a better name"));
-  done("rename");
+  m_job.cm({"checkout", "Control"});
+  m_job.cm({"rename", "-m", "a clearer name", "Control", "Controls"});
+  EXPECT_EQ(tool().files(), m_job.files());
+  expectInArchive("Controls/Controls.vpkg");
+  EXPECT_THAT(tool().newestComment("Controls/Controls.vpkg"), HasSubstr("a clearer name"));
+  done("rename a unit and a package");
 
   m_job.cm({"move", "-m", "elsewhere", "Brewing/Mill.vcmp", "Milk"});
   expectInArchive("Milk/Mill.vcmp");
@@ -256,7 +301,7 @@ void ScenarioTest::renameAndMove() {
   EXPECT_EQ(Job::pathsOf(m_job.document({"status"})), tool().files());
   done("move a unit and a package");
 
-  if (leftOut("history across moves", tool().traits().noTrail)) return;
+  if (leftOut("history across moves", traits().noTrail)) return;
   EXPECT_THAT(m_job.cm({"history", "Milk/Mill.vcmp"}).out, HasSubstr("The machine as drawn"));
 }
 
@@ -286,9 +331,20 @@ TEST_P(ScenarioTest, FromConnectionToDeletion) {
   remove();
 }
 
-INSTANTIATE_TEST_SUITE_P(Packs, ScenarioTest,
-                         testing::Values("Subversion", "RCS", "CVS", "Git", "Mercurial"),
-                         [](const auto& param) { return std::string(param.param); });
+std::string scenarioName(const testing::TestParamInfo<ScenarioRow>& info) {
+  std::string name = info.param.pack;
+  if (info.param.archive != ScenarioRow().archive) name += info.param.archive;
+  std::erase_if(name, [](char c) { return std::isalnum(static_cast<unsigned char>(c)) == 0; });
+  return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Packs, ScenarioTest,
+    testing::Values(ScenarioRow{"Subversion"}, ScenarioRow{"RCS"}, ScenarioRow{"CVS"},
+                    ScenarioRow{"Git"}, ScenarioRow{"Mercurial"},
+                    ScenarioRow{"Subversion provider", "file://"},
+                    ScenarioRow{"Subversion provider", "svnserve", serveSubversion}),
+    scenarioName);
 
 }  // namespace
 }  // namespace veldra::live

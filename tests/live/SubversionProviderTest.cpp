@@ -375,6 +375,27 @@ TEST_F(SubversionProviderTest, DirectoryIsRenamedAsAWhole) {
   EXPECT_EQ(inStore("r/q/b"), "first\n");
 }
 
+TEST_F(SubversionProviderTest, WhatIsCheckedOutInARenamedDirectoryStaysSo) {
+  const Names names = {controlled("p/held"), controlled("p/q/changed")};
+  controlled("p/other");
+  ASSERT_EQ(m_provider.checkOut(names), SCC_OK);
+  m_sandbox.write("work/p/q/changed", "second\n");
+  aliceCommits("p/other", "newer\\n");
+  ASSERT_EQ(m_provider.rename(file("p"), file("r")), SCC_OK) << ProviderSession::takeTexts();
+  EXPECT_EQ(m_sandbox.read("work/p/q/changed"), "second\n");
+  fs::rename(file("p"), file("r"));
+  EXPECT_EQ(m_provider.query({file("r/held"), file("r/q/changed")}),
+            (std::vector<LONG>{Held, Held | SCC_STATUS_MODIFIED}));
+  EXPECT_EQ(inStore("r/q/changed"), "first\n");
+  EXPECT_EQ(m_sandbox.read("work/r/other"), "newer\n");
+
+  // Without the lock the changes know nothing of what may have come meanwhile.
+  ASSERT_EQ(alice("svn unlock -q --force r/q/changed").code, 0);
+  EXPECT_EQ(m_provider.rename(file("r"), file("s")), SCC_E_OPNOTPERFORMED);
+  EXPECT_EQ(m_sandbox.read("work/r/q/changed"), "second\n");
+  EXPECT_EQ(inStore("s/q/changed"), "");
+}
+
 TEST_F(SubversionProviderTest, CarriesHostileNames) {
   const Names hostile = {"a b",  "a@b",    "a@",  "-rf", "100%", "#1",  "\xC3\xA4\xC3\xB6",
                          "$Id$", "a'b\"c", "(x)", "[y]", "a;b",  "a>b", "%41"};

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <functional>
 
+#include "tests/live/Credentials.h"
 #include "tests/live/ProviderSession.h"
 #include "tests/live/Sandbox.h"
 
@@ -45,21 +46,8 @@ class SubversionServerTest : public testing::Test {
 
   std::string url() const { return "svn://127.0.0.1:" + m_port + "/trunk"; }
 
-  /// What svn keeps after a login for which it was told to.
-  void keepPassword(const std::string& user, const std::string& password,
-                    const std::string& home = "home") const {
-    const std::string realm = "<svn://127.0.0.1:" + m_port + "> models";
-    const auto entry = [](const std::string& name, const std::string& value) {
-      return "K " + std::to_string(name.size()) + "\n" + name + "\nV " +
-             std::to_string(value.size()) + "\n" + value + "\n";
-    };
-    m_sandbox.write("credentials", entry("passtype", "simple") + entry("password", password) +
-                                       entry("svn:realmstring", realm) + entry("username", user) +
-                                       "END\n");
-    const Ended kept = m_sandbox.shell(
-        "folder=" + home + "/.subversion/auth/svn.simple; mkdir -p $folder && mv credentials " +
-        "$folder/$(printf '%s' '" + realm + "' | md5sum | cut -c1-32)");
-    ASSERT_EQ(kept.code, 0) << kept.err;
+  void keepPassword(const std::string& user, const std::string& password) const {
+    keepCredentials(m_sandbox, "home", "<svn://127.0.0.1:" + m_port + "> models", user, password);
   }
 
   Ended alice(const std::string& script) const {
@@ -104,50 +92,6 @@ TEST_F(SubversionServerTest, TwoUsersMeet) {
   m_sandbox.write("work/a", "second\n");
   EXPECT_EQ(m_provider.checkIn({names[0]}, "over the wire"), SCC_OK);
   EXPECT_EQ(alice("svn cat " + url() + "/a").out, "second\n");
-}
-
-TEST_F(SubversionServerTest, TwoUsersWorkOnOneModel) {
-  keepPassword("bob", "one", "home-bob");
-  keepPassword("alice", "two", "home-alice");
-  m_sandbox.set("VELDRA_MACHINE_REGISTRY", m_sandbox.path("machine.toml"));
-  m_sandbox.set("VELDRA_USER_REGISTRY", m_sandbox.path("user.toml"));
-  const auto cm = [this](const std::string& user, std::vector<std::string> arguments) {
-    m_sandbox.set("HOME", m_sandbox.path("home-" + user));
-    arguments.insert(arguments.begin(), {"-p", m_sandbox.path(user)});
-    return m_sandbox.cm(arguments);
-  };
-  const std::string unit = "Brewing/Grinder.vcmp";
-  const auto change = [&](const std::string& user) {
-    m_sandbox.write(user + "/" + unit, m_sandbox.read(user + "/" + unit) + "\n");
-  };
-  m_sandbox.copySample("bob");
-  ASSERT_EQ(m_sandbox.cm({"init", m_sandbox.path("bob"), "--name", "Sample"}).code, 0);
-  ASSERT_EQ(cm("bob", {"provider", "install", VELDRA_SUBVERSION_PROVIDER}).code, 0);
-  ASSERT_EQ(cm("bob", {"provider", "use", "veldra subversion"}).code, 0);
-  const Ended connected = cm("bob", {"connect", "--archive", url()});
-  ASSERT_EQ(connected.code, 0) << connected.err;
-  const Ended added = cm("bob", {"add", "--all", "-m", "all"});
-  ASSERT_EQ(added.code, 0) << added.err;
-  ASSERT_EQ(alice("svn co -q " + url() + " alice").code, 0);
-
-  ASSERT_EQ(cm("bob", {"checkout", unit}).code, 0);
-  const Ended refused = cm("alice", {"checkout", unit});
-  EXPECT_EQ(refused.code, 3);
-  EXPECT_THAT(refused.err, HasSubstr("is checked out by bob"));
-  EXPECT_THAT(cm("alice", {"status"}).out, HasSubstr("checked out by another user"));
-  change("bob");
-  ASSERT_EQ(cm("bob", {"checkin", unit, "-m", "his"}).code, 0);
-
-  // What she checks out is his version, whatever she had.
-  const Ended taken = cm("alice", {"checkout", unit});
-  ASSERT_EQ(taken.code, 0) << taken.err;
-  EXPECT_EQ(m_sandbox.read("alice/" + unit), m_sandbox.read("bob/" + unit));
-  change("alice");
-  ASSERT_EQ(cm("alice", {"checkin", unit, "-m", "hers"}).code, 0);
-  ASSERT_EQ(cm("bob", {"fetch", unit}).code, 0);
-  EXPECT_EQ(m_sandbox.read("bob/" + unit), m_sandbox.read("alice/" + unit));
-  const std::string log = alice("svn log -q " + url() + "/" + unit).out;
-  EXPECT_LT(log.find("alice"), log.find("bob")) << log;
 }
 
 TEST_F(SubversionServerTest, ServerThatIsGoneIsAnErrorAndNoMore) {

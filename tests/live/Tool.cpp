@@ -6,7 +6,8 @@
 namespace veldra::live {
 
 std::unique_ptr<Tool> makeTool(const std::string& pack, const Sandbox& sandbox) {
-  for (const auto make : {makeSubversion, makeRcs, makeCvs, makeGit, makeMercurial}) {
+  for (const auto make :
+       {makeSubversion, makeSubversionProvider, makeRcs, makeCvs, makeGit, makeMercurial}) {
     std::unique_ptr<Tool> tool = make(sandbox);
     if (tool->traits().pack == pack) return tool;
   }

@@ -11,12 +11,16 @@ namespace veldra::live {
 
 /// What users of a tool see of it.
 struct ToolTraits {
-  const char* pack;
+  const char* pack;        ///< Its name, or what stands in its place.
   const char* program;     ///< Its absence lets a test of the pack be skipped.
   const char* noLocks;     ///< Why nobody is kept out; null where a check-out does.
   const char* noKeywords;  ///< Why a file does not tell its version; null where it does.
   const char* noTrail;     ///< Why a moved file leaves its history; null where that follows.
   const char* outOfDate;   ///< What a check-in on top of somebody's newer one is told.
+  const char* noVersions = nullptr;     ///< Why a listing tells none; null where it does.
+  const char* noLabels = nullptr;       ///< Why there are none; null where there are.
+  const char* noLockCommand = nullptr;  ///< Why only a check-out locks; null where a command does.
+  const char* ownProperties = nullptr;  ///< What its own words say of a file that alice has out.
 };
 
 /// A CM tool, asked directly: what it says does not pass through the module.
@@ -29,6 +33,16 @@ class Tool {
 
   virtual const ToolTraits& traits() const = 0;
   const std::string& archive() const { return m_archive; }
+
+  /// The commands of `veldra-cm` that put the folder "model" under its control, with the archive at
+  /// an address.
+  virtual std::vector<std::vector<std::string>> setUp(const std::string& address) const {
+    return {{"init", "model", "--name", "Machine", "--tool", traits().pack, "--archive", address}};
+  }
+  /// The folder of the sandbox that is a user's home.
+  virtual std::string homeOf(const std::string& /*user*/) const { return "home"; }
+  /// Lets a user in to the archive at an address for good, where nobody is asked for a password.
+  virtual void letIn(const std::string& /*user*/, const std::string& /*address*/) const {}
 
   /// Makes the archive, as an administrator does on a server.
   virtual void makeArchive() const = 0;
@@ -58,7 +72,7 @@ class Tool {
   std::string m_archive;
 };
 
-/// One of the tools of the tests by the name of its pack.
+/// One of the tools of the tests by the name of its pack, or of what stands in its place.
 std::unique_ptr<Tool> makeTool(const std::string& pack, const Sandbox& sandbox);
 
 /// The program whose absence lets a test of the pack be skipped.
@@ -71,6 +85,7 @@ std::string between(const std::string& text, const std::string& before, const st
 std::set<std::string> pieces(const std::string& text, char end);
 
 std::unique_ptr<Tool> makeSubversion(const Sandbox& sandbox);
+std::unique_ptr<Tool> makeSubversionProvider(const Sandbox& sandbox);
 std::unique_ptr<Tool> makeRcs(const Sandbox& sandbox);
 std::unique_ptr<Tool> makeCvs(const Sandbox& sandbox);
 std::unique_ptr<Tool> makeGit(const Sandbox& sandbox);

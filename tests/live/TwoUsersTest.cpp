@@ -5,8 +5,7 @@
 
 #include <optional>
 
-#include "tests/live/Job.h"
-#include "tests/live/Server.h"
+#include "tests/live/Serving.h"
 
 namespace veldra::live {
 namespace {
@@ -19,56 +18,6 @@ constexpr char Unit[] = "Brewing/Grinder.vcmp";
 constexpr char Other[] = "Milk/Milk.vpkg";
 /// In the folder of the first.
 constexpr char Sibling[] = "Brewing/Drip Tray.vcmp";
-
-/// Serves the archive of a job; empty where a server does not come up.
-using Serve = std::string (*)(Job& job, std::optional<Server>& server);
-
-std::string serveSubversion(Job& job, std::optional<Server>& server) {
-  const int port = freePort();
-  job.sandbox().write("archive/conf/svnserve.conf",
-                      "[general]\nanon-access = none\nauth-access = write\npassword-db = passwd\n");
-  job.sandbox().write("archive/conf/passwd", "[users]\nalice = alice\nbob = bob\n");
-  server.emplace(job.sandbox(),
-                 std::vector<std::string>{"svnserve", "--daemon", "--foreground", "--listen-host",
-                                          "127.0.0.1", "--listen-port", std::to_string(port),
-                                          "--root", job.sandbox().path()},
-                 port);
-  return "svn://127.0.0.1:" + std::to_string(port) + "/archive";
-}
-
-std::string serveGit(Job& job, std::optional<Server>& server) {
-  const int port = freePort();
-  server.emplace(
-      job.sandbox(),
-      std::vector<std::string>{"git", "daemon", "--reuseaddr", "--listen=127.0.0.1",
-                               "--port=" + std::to_string(port), "--export-all",
-                               "--enable=receive-pack", "--base-path=" + job.sandbox().path()},
-      port);
-  return "git://127.0.0.1:" + std::to_string(port) + "/archive";
-}
-
-std::string serveMercurial(Job& job, std::optional<Server>& server) {
-  const int port = freePort();
-  server.emplace(job.sandbox(),
-                 std::vector<std::string>{"hg", "serve", "-R", "archive", "-a", "127.0.0.1", "-p",
-                                          std::to_string(port), "--config", "web.allow-push=*",
-                                          "--config", "web.push_ssl=no"},
-                 port);
-  return "http://127.0.0.1:" + std::to_string(port) + "/";
-}
-
-/// A program in place of ssh that stays on this machine.
-std::string serveCvs(Job& job, std::optional<Server>& /*server*/) {
-  // The last argument is a command line.
-  job.sandbox().write("rsh", "#!/bin/sh\nfor line do :; done\nexec sh -c \"$line\"\n");
-  job.sandbox().shell("chmod +x rsh");
-  job.sandbox().set("CVS_RSH", job.sandbox().path("rsh"));
-  return ":ext:server:" + job.tool().archive() + "//model";
-}
-
-std::string shareDirectory(Job& job, std::optional<Server>& /*server*/) {
-  return job.tool().archive();
-}
 
 struct Row {
   const char* pack;
@@ -120,7 +69,9 @@ TEST_P(LockingUsersTest, TheSecondCheckOutIsRefusedAndNamesTheHolder) {
   m_job.become("alice", "model");
   m_job.cm({"checkout", Unit});
   m_job.become("bob", "second");
+  const bool hasCommand = tool().traits().noLockCommand == nullptr;
   for (const std::string command : {"checkout", "lock"}) {
+    if (command == "lock" && !hasCommand) continue;
     for (const std::string other : {Other, Sibling}) {
       SCOPED_TRACE(command + " " + other);
       const Ended refused = m_job.tryCm({command, Unit, other});
@@ -128,7 +79,7 @@ TEST_P(LockingUsersTest, TheSecondCheckOutIsRefusedAndNamesTheHolder) {
       EXPECT_THAT(refused.err, AllOf(HasSubstr("alice"), HasSubstr(Unit), Not(HasSubstr(other))));
       EXPECT_FALSE(m_job.isWritable(Unit));
       EXPECT_EQ(tool().holder(other), "bob");
-      m_job.cm({"unlock", other});
+      m_job.cm({hasCommand ? "unlock" : "undo", other});
     }
   }
   EXPECT_EQ(tool().holder(Unit), "alice");
@@ -179,6 +130,27 @@ TEST_P(TwoUsersTest, ACheckInIsNotStoppedByWhatHappensToOtherFiles) {
   EXPECT_TRUE(tool().files().contains("Milk/Whisk.puml"));
 }
 
+class LockBreakingUsersTest : public TwoUsersTest {};
+
+TEST_P(LockBreakingUsersTest, AfterALockWasTakenAwayNothingIsLostOnEitherSide) {
+  m_job.cm({"checkout", Unit});
+  m_job.change(Unit, "Grinds one portion", "Crushes one portion");
+  const std::string ofBob = m_job.read(Unit);
+  m_job.become("alice", "model");
+  const std::string file = "'model/" + std::string(Unit) + "'";
+  ASSERT_EQ(m_job.sandbox().shell("svn lock -q --force " + file).code, 0);
+  m_job.change(Unit, "\"5\"", "\"6\"");
+  ASSERT_EQ(m_job.sandbox().shell("svn commit -q -m 'by alice' " + file).code, 0);
+  m_job.become("bob", "second");
+
+  const Ended refused = m_job.tryCm({"checkin", Unit, "-m", "by bob"});
+  EXPECT_EQ(refused.code, 3) << refused.out;
+  EXPECT_THAT(refused.err, HasSubstr(Unit));
+  EXPECT_EQ(m_job.read(Unit), ofBob);
+  EXPECT_THAT(tool().newestText(Unit), AllOf(HasSubstr("\"6\""), HasSubstr("Grinds")));
+  EXPECT_THAT(tool().newestComment(Unit), HasSubstr("by alice"));
+}
+
 class MergingUsersTest : public TwoUsersTest {};
 
 TEST_P(MergingUsersTest, ACheckInThatNeedsAMergeOfAnotherFileLosesNothing) {
@@ -213,18 +185,24 @@ TEST_P(MergingUsersTest, ChangesThatDoNotFitTogetherAreKept) {
 }
 
 std::string nameOf(const testing::TestParamInfo<Row>& info) {
-  return info.param.pack;
+  std::string name = info.param.pack;
+  std::erase(name, ' ');
+  return name;
 }
 
 constexpr Row Subversion{"Subversion", serveSubversion, nullptr};
+constexpr Row Provider{"Subversion provider", serveSubversion, "a provider has no merge"};
 constexpr Row Cvs{"CVS", serveCvs, nullptr};
 constexpr Row Git{"Git", serveGit, nullptr};
 constexpr Row Mercurial{"Mercurial", serveMercurial, nullptr};
 constexpr Row Rcs{"RCS", shareDirectory, "RCS leaves a writable file alone"};
 
-INSTANTIATE_TEST_SUITE_P(Packs, TwoUsersTest, testing::Values(Subversion, Cvs, Git, Mercurial, Rcs),
+INSTANTIATE_TEST_SUITE_P(Packs, TwoUsersTest,
+                         testing::Values(Subversion, Provider, Cvs, Git, Mercurial, Rcs), nameOf);
+INSTANTIATE_TEST_SUITE_P(Packs, LockingUsersTest, testing::Values(Subversion, Provider, Cvs, Rcs),
                          nameOf);
-INSTANTIATE_TEST_SUITE_P(Packs, LockingUsersTest, testing::Values(Subversion, Cvs, Rcs), nameOf);
+INSTANTIATE_TEST_SUITE_P(Packs, LockBreakingUsersTest, testing::Values(Subversion, Provider),
+                         nameOf);
 // Where locks keep such changes apart, they cannot arise.
 INSTANTIATE_TEST_SUITE_P(Packs, MergingUsersTest, testing::Values(Git, Mercurial), nameOf);
 

@@ -34,7 +34,9 @@ class MemoryEnvironment : public IEnvironment {
   std::string omGetCurrentTime() override { return time; }
   std::string omGetCurrentDate() override { return date; }
   std::string omGetCurrentUser() override { return user; }
-  bool omFileExist(const std::string& path) override { return m_files.find(path) != nullptr; }
+  bool omFileExist(const std::string& path) override {
+    return m_files.find(path) != nullptr || m_files.isDirectory(path);
+  }
   bool omFileExistsAndNonEmpty(const std::string& path) override {
     const MemoryFiles::File* const file = m_files.find(path);
     return file != nullptr && !file->content.empty();

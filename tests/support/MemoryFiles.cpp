@@ -1,5 +1,7 @@
 #include "tests/support/MemoryFiles.h"
 
+#include <vector>
+
 namespace veldra::test {
 
 void MemoryFiles::write(const std::string& path, std::string content, bool writable) {
@@ -9,12 +11,21 @@ void MemoryFiles::write(const std::string& path, std::string content, bool writa
 }
 
 bool MemoryFiles::move(const std::string& from, const std::string& to) {
-  if (!m_files.contains(from) || m_files.contains(to)) return false;
-  auto node = m_files.extract(from);
-  node.key() = to;
-  m_files.insert(std::move(node));
-  makeDirectory(directoryOf(to));
-  return true;
+  if (m_files.contains(to) || isDirectory(to)) return false;
+  std::vector<std::string> names;
+  for (const auto& [name, file] : m_files) {
+    if (name == from || name.starts_with(from + '/')) names.push_back(name);
+  }
+  std::erase_if(m_directories, [&from](const std::string& name) {
+    return name == from || name.starts_with(from + '/');
+  });
+  for (const std::string& name : names) {
+    auto node = m_files.extract(name);
+    node.key() = to + name.substr(from.size());
+    makeDirectory(directoryOf(node.key()));
+    m_files.insert(std::move(node));
+  }
+  return !names.empty();
 }
 
 void MemoryFiles::makeDirectory(const std::string& path) {

@@ -19,7 +19,8 @@ class MemoryFiles {
 
   void write(const std::string& path, std::string content, bool writable = false);
   void remove(const std::string& path) { m_files.erase(path); }
-  /// False when there is no such file, or one of the new name.
+  /// A directory takes along what is in it. False when there is nothing of that name, or something
+  /// of the new one.
   bool move(const std::string& from, const std::string& to);
   void makeDirectory(const std::string& path);
   /// Names without a directory are meant in this one from now on.

@@ -18,11 +18,14 @@ int moveTo(std::string& folder, UnitList& units, ArgumentList& arguments,
   return result;
 }
 
-/// Whether the unit can go with everything it holds.
+/// Whether the unit can go with everything it holds. A provider takes all of it or nothing; one
+/// that leaves packages to a tool needs the tool's command.
 bool canGoWhole(const UnitCore& unit) {
+  if (unit.children().empty()) return true;
+  if (CMProperty::useSccCompliantTool() != 0 && CMProperty::isHybridModePossible() == 0)
+    return true;
   std::string command;
-  return unit.children().empty() ||
-         (CMProperty::getToolPropertyValue(IPN::MoveDirectory, command) && !command.empty());
+  return CMProperty::getToolPropertyValue(IPN::MoveDirectory, command) && !command.empty();
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include <algorithm>
 
-#include "cm/host/IPN.h"
 #include "host/cli/InstalledProviders.h"
 #include "host/cli/Session.h"
 #include "host/cli/printing/BytesAsText.h"
@@ -64,8 +63,7 @@ void use(const Invocation& invocation, Session& session, Registry& registry) {
   if (!invocation.options.dryRun) {
     makeDefaultProvider(registry.places().user, provider);
     if (hasProject) {
-      PropertyLayers& layers = session.host().properties();
-      for (const auto& [key, value] : providerSettings()) layers.setInProject(key, value);
+      session.host().properties().setInProject(useOfProvider(), "Yes");
       session.project().startShowingCMStatus();
       session.save(true);
     }

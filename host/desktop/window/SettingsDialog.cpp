@@ -272,9 +272,7 @@ void SettingsDialog::takeProvider(const std::string& chosen) {
     m_session.questions().ask({.text = shown(failure.what()), .icon = QMessageBox::Warning});
     return fill();
   }
-  for (const auto& [key, value] : cli::providerSettings()) {
-    if (!set(key, value, Origin::Project)) return;
-  }
+  if (!set(cli::useOfProvider(), "Yes", Origin::Project)) return;
   m_session.project()->startShowingCMStatus();
   if (former.empty() || former == name) return;
   m_session.questions().ask(

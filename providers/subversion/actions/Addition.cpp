@@ -71,7 +71,7 @@ void Addition::schedule(const std::string& file, LONG flags) {
   });
   check(svn_client_add5(file.c_str(), svn_depth_empty, TRUE, TRUE, FALSE, TRUE, m_project.client,
                         pool));
-  if (std::ranges::find(m_scheduled, file) == m_scheduled.end()) m_scheduled.push_back(file);
+  if (m_scheduled.empty() || m_scheduled.back() != file) m_scheduled.push_back(file);
   if (!isDirectory(file)) setProperties(file, flags);
 }
 

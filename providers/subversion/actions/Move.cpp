@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "providers/subversion/actions/Locks.h"
 #include "providers/subversion/actions/WorkingFiles.h"
 #include "providers/subversion/runtime/Failure.h"
 #include "providers/subversion/status/FileStatus.h"
@@ -35,15 +36,25 @@ std::string freeNameBeside(const std::string& file) {
   return name;
 }
 
-/// Whether anything below a directory has changes that a commit of it would take along.
-bool hasChanges(Project& project, const std::string& directory) {
-  bool found = false;
+Failure holdsChanges(const std::string& name) {
+  return {SCC_E_OPNOTPERFORMED,
+          "'" + lastPartOf(name) + "' holds changes. Check them in or undo them first."};
+}
+
+/// The files below a directory that are checked out here. Throws where anything else has changed:
+/// the commit of a directory would take it along.
+FileNames heldBelow(Project& project, const std::string& directory) {
+  FileNames held;
+  bool hasMore = false;
   readStatus(project.client, directory, svn_depth_infinity, StoreIsAsked::No,
-             [&found](const std::string&, const svn_client_status_t& status) {
+             [&](const std::string& path, const svn_client_status_t& status) {
                const FileState state = stateOf(status);
-               found = found || state.isModified || state.isScheduled || state.isDeleted;
+               if (state.isHeldHere()) held.push_back(path);
+               hasMore = hasMore || state.isScheduled || state.isDeleted ||
+                         (state.isModified && !state.isHeldHere());
              });
-  return found;
+  if (hasMore) throw holdsChanges(directory);
+  return held;
 }
 
 }  // namespace
@@ -82,27 +93,49 @@ void Move::prepare() {
   refuseWhen(!old.isControlled, m_from, "is not under version control.", SCC_E_FILENOTCONTROLLED);
   refuseWhen(stateIn(states, m_to).isControlled, m_to, "is under version control already.");
   refuseWhen(exists(m_to) && exists(m_from), m_to, "exists already.");
-  m_wasHeld = old.isHeldHere();
   m_wasRenamed = exists(m_to);
   if (m_wasRenamed) renameOnDisk(m_to, m_from);
-  if (!old.isDirectory) return putAside();
-  refuseWhen(hasChanges(m_project, m_from), m_from,
-             "holds changes. Check them in or undo them first.");
+  if (old.isHeldHere()) m_held = {m_from};
+  if (old.isDirectory) return prepareDirectory();
+  if (stateIn(localStates(m_project.client, {m_from}), m_from).isModified) putAside({m_from});
+}
+
+void Move::prepareDirectory() {
+  m_held = heldBelow(m_project, m_from);
+  const FileStates states = fileStates(m_project, m_held);
+  FileNames changed;
+  for (const std::string& file : m_held) {
+    const FileState& state = stateIn(states, file);
+    if (!state.isModified) continue;
+    // Without the lock there may be a newer version, which these changes know nothing of.
+    if (!state.isCheckedOut()) throw holdsChanges(m_from);
+    changed.push_back(file);
+  }
+  putAside(changed);
   // The store moves a directory only for somebody who has seen all that is in it.
   update(m_project, {m_from}, svn_depth_infinity);
 }
 
-void Move::putAside() {
-  if (!stateIn(localStates(m_project.client, {m_from}), m_from).isModified) return;
-  const std::string aside = freeNameBeside(m_from);
-  renameOnDisk(m_from, aside);
-  m_aside = aside;
-  restore(m_project, {m_from});
+void Move::putAside(const FileNames& files) {
+  for (const std::string& file : files) {
+    const std::string aside = freeNameBeside(m_from);
+    renameOnDisk(file, aside);
+    m_aside.emplace_back(file, aside);
+  }
+  restore(m_project, files);
 }
 
 void Move::putBack() {
-  if (m_aside.empty()) return;
-  renameOnDisk(std::exchange(m_aside, {}), m_from);
+  for (const auto& [file, aside] : std::exchange(m_aside, {})) renameOnDisk(aside, file);
+}
+
+void Move::holdAgain() {
+  if (m_held.empty()) return;
+  FileNames files;
+  for (const std::string& file : m_held) files.push_back(m_to + file.substr(m_from.size()));
+  for (const auto& [file, refusal] : lockFiles(m_project, files, nullptr)) {
+    m_project.output.warning(refusal.text);
+  }
 }
 
 void Move::leaveDiskAsItWas() {
@@ -130,9 +163,7 @@ svn_revnum_t Move::commit() {
   const svn_revnum_t revision =
       m_project.client.commit(paths, svn_depth_infinity, false, comment.c_str());
   m_isScheduled = false;
-  if (m_wasHeld) {
-    check(svn_client_lock(arrayOf({m_to}, pool), nullptr, FALSE, m_project.client, pool));
-  }
+  holdAgain();
   renameOnDisk(m_to, m_from);
   return revision;
 }

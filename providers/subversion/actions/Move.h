@@ -1,5 +1,9 @@
 #pragma once
 
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "providers/subversion/session/FileNames.h"
 #include "providers/subversion/session/Project.h"
 
@@ -8,9 +12,9 @@ namespace veldra::subversion {
 /// A file or directory that gets another name in the store while the disk stays as the program has
 /// it: under the old name, or under the new one when the program was quicker.
 ///
-/// libsvn moves what is on the disk along with what it knows, and commits what it moves. So a file
-/// with changes is put aside, the version of the store takes its place for the move, and at the end
-/// the changes lie where they lay.
+/// libsvn moves what is on the disk along with what it knows, and commits what it moves. So files
+/// that are checked out and have changes are put aside, the versions of the store take their places
+/// for the move, and at the end the changes lie where they lay. What was checked out stays so.
 class Move {
  public:
   Move(Project& project, std::string from, std::string to);
@@ -25,16 +29,18 @@ class Move {
  private:
   void prepare();
   void dropSchedule();
-  void putAside();
+  void prepareDirectory();
+  void putAside(const FileNames& files);
   void putBack();
+  void holdAgain();
   void leaveDiskAsItWas();
 
   Project& m_project;
   std::string m_from;
   std::string m_to;
-  std::string m_aside;        ///< Where the changed file waits; empty when there is none.
+  std::vector<std::pair<std::string, std::string>> m_aside;  ///< Changed files, where they wait.
+  FileNames m_held;                                          ///< What is checked out, by old names.
   bool m_wasRenamed = false;  ///< The program has renamed it already.
-  bool m_wasHeld = false;
   bool m_isScheduled = false;
   FileNames m_newDirectories;
 };

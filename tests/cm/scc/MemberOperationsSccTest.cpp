@@ -211,6 +211,55 @@ TEST_F(MemberOperationsSccTest, MoveGoesToTheTargetAndTakesPackagesWhole) {
   EXPECT_THAT(m_diagnostics[0].getMessage(), HasSubstr("60210: /plan/B.vcl"));
 }
 
+TEST_F(MemberOperationsSccTest, APackageGoesAtOnceWhereTheProviderKnowsDirectories) {
+  providerState().capabilities = scc::SCC_CAP_DIRECTORYSTATUS;
+  m_provider->status["/plan/Brewing/Boiler.vcl"] = 0x1003;
+  CMTargetFile target("/plan/New");
+  m_units = {&addPackage()};
+  m_arguments.push_back(&target);
+  EXPECT_EQ(call(CMFacade::MoveMember), 1);
+  EXPECT_THAT(calls(),
+              ElementsAre("SccDirQueryInfo /plan/Brewing",
+                          "SccQueryInfo /plan/Brewing/Brewing.vpk /plan/Brewing/Boiler.vcl",
+                          "SccRename /plan/Brewing /plan/New/Brewing",
+                          "SccCheckin /plan/New/Brewing/Boiler.vcl 'why' 0"));
+  EXPECT_TRUE(hasFile("/plan/New/Brewing/Boiler.vcl"));
+  EXPECT_FALSE(hasFile("/plan/Brewing/Boiler.vcl"));
+  EXPECT_THAT(ends(), ElementsAre(UnitEnd::Done));
+}
+
+TEST_F(MemberOperationsSccTest, ARenamedPackageTakesItsDirectoryAlong) {
+  providerState().capabilities = scc::SCC_CAP_DIRECTORYSTATUS;
+  MemoryPackage& package = addPackage();
+  m_provider->status["/plan/Brewing/Brewing.vpk"] = 0x1003;
+  EXPECT_EQ(CMFacade::RenameMember(&package, package.getFullFileName(), "/plan/Mill/Mill.vpk",
+                                   m_arguments, m_diagnostics),
+            1);
+  EXPECT_THAT(calls("SccRename"),
+              ElementsAre("SccRename /plan/Brewing /plan/Mill",
+                          "SccRename /plan/Mill/Brewing.vpk /plan/Mill/Mill.vpk"));
+  EXPECT_THAT(calls("SccCheckin"), ElementsAre("SccCheckin /plan/Mill/Mill.vpk 'why' 0"));
+  EXPECT_TRUE(hasFile("/plan/Mill/Boiler.vcl"));
+}
+
+TEST_F(MemberOperationsSccTest, APackageStaysWhereItIsWhenOneOfItsFilesDoes) {
+  CMTargetFile target("/plan/New");
+  m_units = {&addPackage()};
+  m_arguments = {&target};
+  m_provider->during = [this](const std::string& entryPoint) {
+    if (entryPoint != "SccRename") return;
+    const bool isBoiler = calls().back().find("Boiler") != std::string::npos;
+    m_provider->results["SccRename"] = isBoiler ? scc::SCC_E_FILEISCHECKEDOUT : scc::SCC_OK;
+  };
+  EXPECT_EQ(call(CMFacade::MoveMember), 0);
+  EXPECT_THAT(calls("SccRename"),
+              ElementsAre("SccRename /plan/Brewing/Brewing.vpk /plan/New/Brewing/Brewing.vpk",
+                          "SccRename /plan/Brewing/Boiler.vcl /plan/New/Brewing/Boiler.vcl",
+                          "SccRename /plan/New/Brewing/Brewing.vpk /plan/Brewing/Brewing.vpk"));
+  EXPECT_TRUE(hasFile("/plan/Brewing/Brewing.vpk"));
+  EXPECT_THAT(ends(), ElementsAre(UnitEnd::ToolFailed));
+}
+
 TEST_F(MemberOperationsSccTest, ThePackageContentOfATaskBasedProviderMovesFileByFile) {
   CMProperty::setSCCToolName("Corvane");
   MemoryPackage& package = addPackage();

@@ -44,7 +44,7 @@ TEST(MessageCatalogue, hasAClearTextForEveryNumberWithItsValues) {
   for (int id = 60001; id <= 60011; ++id) ids.push_back(id);
   for (int id = 60100; id <= 60101; ++id) ids.push_back(id);
   for (int id = 60110; id <= 60122; ++id) ids.push_back(id);
-  ids.insert(ids.end(), {60020, 60021, 60030, 60250, 60870});
+  ids.insert(ids.end(), {60020, 60021, 60030, 60250, 60261, 60870});
   for (int id = 60201; id <= 60211; ++id) ids.push_back(id);
   // The dialogs' texts: single ones, and groups with one per column or command.
   const std::pair<int, int> dialogTexts[] = {

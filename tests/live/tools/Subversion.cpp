@@ -1,5 +1,6 @@
 #include <regex>
 
+#include "tests/live/Credentials.h"
 #include "tests/live/Tool.h"
 
 namespace veldra::live {
@@ -63,10 +64,55 @@ class SubversionTool : public Tool {
   }
 };
 
+/// The same archive behind a source control provider, which has its passwords from svn's own
+/// stores.
+class SubversionProvider : public SubversionTool {
+ public:
+  using SubversionTool::SubversionTool;
+
+  const ToolTraits& traits() const override {
+    static constexpr ToolTraits traits{
+        .pack = "Subversion provider",
+        .program = "svn",
+        .noLocks = nullptr,
+        .noKeywords = "a provider says nothing of the words in files",
+        .noTrail = nullptr,
+        .outOfDate = "is not checked out by you",
+        .noVersions = "the provider interface tells none",
+        .noLabels = "the provider interface has none",
+        .noLockCommand = "the provider interface locks with a check-out",
+        .ownProperties = "is checked out by alice"};
+    return traits;
+  }
+
+  std::vector<std::vector<std::string>> setUp(const std::string& address) const override {
+    return {{"init", "model", "--name", "Machine"},
+            {"provider", "install", VELDRA_SUBVERSION_PROVIDER},
+            {"-p", "model", "provider", "use", "veldra subversion"},
+            {"-p", "model", "connect", "--archive", address}};
+  }
+
+  std::string homeOf(const std::string& user) const override { return "home-" + user; }
+
+  void letIn(const std::string& user, const std::string& address) const override {
+    if (address.starts_with("svn://")) {
+      const std::string server = address.substr(0, address.rfind('/'));
+      keepCredentials(sandbox(), homeOf(user), "<" + server + "> models", user, user);
+    } else {
+      const std::string uuid = between(outputOf({"svnlook", "uuid", archive()}), "", "\n");
+      if (!uuid.empty()) keepCredentials(sandbox(), homeOf(user), uuid, user, {});
+    }
+  }
+};
+
 }  // namespace
 
 std::unique_ptr<Tool> makeSubversion(const Sandbox& sandbox) {
   return std::make_unique<SubversionTool>(sandbox, "archive");
+}
+
+std::unique_ptr<Tool> makeSubversionProvider(const Sandbox& sandbox) {
+  return std::make_unique<SubversionProvider>(sandbox, "archive");
 }
 
 }  // namespace veldra::live

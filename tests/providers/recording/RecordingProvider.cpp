@@ -124,6 +124,10 @@ SCC_EXPORT SCCRTN SccRemove(LPVOID, HWND, LONG count, LPCSTR* files, LPCSTR comm
 SCC_EXPORT SCCRTN SccRename(LPVOID, HWND, LPCSTR from, LPCSTR to) {
   return answer("SccRename", std::string(from) + " " + to);
 }
+SCC_EXPORT SCCRTN SccDirQueryInfo(LPVOID, LONG count, LPCSTR* directories, LPLONG status) {
+  for (LONG i = 0; i < count; ++i) status[i] = statusOf(directories[i]) & SCC_DIRSTATUS_CONTROLLED;
+  return answer("SccDirQueryInfo", listOf(count, directories));
+}
 SCC_EXPORT SCCRTN SccHistory(LPVOID, HWND, LONG count, LPCSTR* files, LONG, LPCMDOPTS) {
   return answer("SccHistory", listOf(count, files));
 }
