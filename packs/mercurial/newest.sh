@@ -32,9 +32,31 @@ bring_missing() {
   hg revert -q --no-backup 'set:deleted()'
 }
 
+# take_back: undoes what has been committed and scheduled; the files stay as they are.
+take_back() {
+  [ "$(hg log -r . -T '{node}')" = "$base" ] ||
+    hg --config extensions.strip= strip -q --keep --no-backup -r "children($base) and ::."
+  hg debugrebuilddirstate
+  rm -f "$top/.hg/veldra-delivery"
+}
+
+# take_back_undelivered: the same for the commits that a killed run has made and not brought to the
+# archive, so that the same command makes them anew. After `receive`.
+take_back_undelivered() {
+  [ -f "$top/.hg/veldra-delivery" ] || return 0
+  read -r process former <"$top/.hg/veldra-delivery"
+  ! kill -0 "$process" 2>/dev/null || return 0
+  if [ -n "$(hg log -r ". and draft() and children($former)::." -T x 2>/dev/null)" ]; then
+    base=$former
+    take_back
+  fi
+  rm -f "$top/.hg/veldra-delivery"
+}
+
 # bring_newest: moves the whole folder on to $tip. Local changes are merged in, or everything stays
 # as it is.
 bring_newest() {
+  take_back_undelivered
   [ -n "$tip" ] || return 0
   case $base in
     *[!0]*) ;;
