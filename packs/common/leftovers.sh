@@ -1,19 +1,23 @@
 # Sourced by the helpers of tools whose locks stay when a process is killed.
 
-# at_work PROGRAM PLACE: whether a process whose name begins so works below the place. One that cannot
-# be looked at may.
+# at_work PLACE PROGRAM...: whether a process of such a name works below the place. One that cannot be
+# looked at may.
 at_work() {
+  below=$1
+  shift
   for process in /proc/[0-9]*; do
     read -r name 2>/dev/null <"$process/comm" || continue
-    case $name in
-      "$1"*) ;;
-      *) continue ;;
-    esac
-    # A process of one's own that cannot be looked at has ended.
-    place=$(readlink "$process/cwd" 2>/dev/null) || [ -O "$process" ] || return 0
-    case $place/ in
-      "$2"/*) return 0 ;;
-    esac
+    for program do
+      case $name in
+        "$program" | "$program"-*) ;;
+        *) continue ;;
+      esac
+      # A process of one's own that cannot be looked at has ended.
+      folder=$(readlink "$process/cwd" 2>/dev/null) || [ -O "$process" ] || return 0
+      case $folder/ in
+        "$below"/*) return 0 ;;
+      esac
+    done
   done
   return 1
 }
@@ -26,17 +30,24 @@ is_of_this_machine() {
   esac
 }
 
-# clear_lock PROGRAM PLACE LOCK: takes it away when no process of the program can have made it. Who is
-# at work gets five seconds.
+# state_of_lock LOCK
+state_of_lock() {
+  ls -d -i -l -- "$1" 2>/dev/null
+}
+
+# clear_lock LOCK PLACE PROGRAM...: takes it away when no such program can have made it. Who is at work
+# gets five seconds.
 clear_lock() {
-  is_of_this_machine "$2" || return 0
+  lock=$1
+  shift
+  { [ -e "$lock" ] || [ -L "$lock" ]; } && is_of_this_machine "$lock" || return 0
   patience=50
-  while at_work "$1" "$2" && [ -e "$3" ] && [ $((patience -= 1)) -gt 0 ]; do sleep 0.1; done
-  # Somebody may be about to begin.
-  found=$(ls -d -i -- "$3" 2>/dev/null) || return 0
-  sleep 0.1
-  if [ "$(ls -d -i -- "$3" 2>/dev/null)" = "$found" ] && ! at_work "$1" "$2"; then
-    rm -rf -- "$3"
-    printf "A former command was killed; its lock '%s' is gone now.\n" "${3##*/}"
+  while at_work "$@" && [ -e "$lock" ] && [ $((patience -= 1)) -gt 0 ]; do sleep 0.1; done
+  # Somebody may be about to begin, or work under another name.
+  found=$(state_of_lock "$lock") || return 0
+  sleep 1
+  if [ "$(state_of_lock "$lock")" = "$found" ] && ! at_work "$@"; then
+    rm -rf -- "$lock"
+    printf "A former command was killed; its lock '%s' is gone now.\n" "${lock##*/}"
   fi
 }

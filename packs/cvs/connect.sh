@@ -26,6 +26,7 @@ else
   [ -d "$new/it/CVS" ] || (cd "$new" && cvs -d "$root" checkout -d it -- "$module" >/dev/null)
   take_over "$new/it"
 fi
+clear_locks
 # Files are read-only for everybody from now on, until somebody edits them. Who may not write in the
 # archive cannot turn this on, and need not.
 run cvs watch on || :

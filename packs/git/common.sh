@@ -51,7 +51,7 @@ on() {
 # clear_locks_of RECORDS PLACE: of a repository; killed processes leave them.
 clear_locks_of() {
   for lock in "$1"/*.lock "$1"/refs/*/*.lock "$1"/refs/*/*/*.lock; do
-    [ ! -e "$lock" ] || clear_lock git "$(real "$2")" "$lock"
+    [ ! -e "$lock" ] || clear_lock "$lock" "$(real "$2")" git
   done
 }
 
