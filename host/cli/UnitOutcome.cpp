@@ -5,6 +5,7 @@
 #include <string_view>
 #include <unordered_set>
 
+#include "cm/core/TextTools.h"
 #include "host/cli/CallArguments.h"
 #include "host/cli/printing/BytesAsText.h"
 #include "host/platform/CommandLine.h"
@@ -142,8 +143,11 @@ void makePlan(const UnitTrace& trace, const char* lock, UnitRecord& record) {
 std::vector<std::string> plannedArguments(const std::string& command) {
   Result<std::vector<std::string>> split = splitCommandLine(command);
   std::vector<std::string> arguments = split ? *split : std::vector<std::string>{command};
-  std::ranges::replace(arguments, std::string(PlannedCommentFile), std::string("<comment>"));
-  std::ranges::replace(arguments, std::string(PlannedUnitList), std::string("<units>"));
+  // A sign such as "@" may stand before them.
+  for (std::string& argument : arguments) {
+    argument = replaceAll(argument, PlannedCommentFile, "<comment>");
+    argument = replaceAll(argument, PlannedUnitList, "<units>");
+  }
   return arguments;
 }
 
