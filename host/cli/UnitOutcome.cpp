@@ -5,7 +5,6 @@
 #include <string_view>
 #include <unordered_set>
 
-#include "cm/core/TextTools.h"
 #include "host/cli/CallArguments.h"
 #include "host/cli/printing/BytesAsText.h"
 #include "host/platform/CommandLine.h"
@@ -66,6 +65,11 @@ std::string providerWords(const UnitTrace& trace) {
     if (isNew) words += line + '\n';
   }
   return words;
+}
+
+void putInPlace(std::string_view mark, std::string_view words, std::string& argument) {
+  const std::size_t at = argument.find(mark);
+  if (at != std::string::npos) argument.replace(at, mark.size(), words);
 }
 
 /// The diagnostic that speaks of the file, or nothing.
@@ -145,8 +149,8 @@ std::vector<std::string> plannedArguments(const std::string& command) {
   std::vector<std::string> arguments = split ? *split : std::vector<std::string>{command};
   // A sign such as "@" may stand before them.
   for (std::string& argument : arguments) {
-    argument = replaceAll(argument, PlannedCommentFile, "<comment>");
-    argument = replaceAll(argument, PlannedUnitList, "<units>");
+    putInPlace(PlannedCommentFile, "<comment>", argument);
+    putInPlace(PlannedUnitList, "<units>", argument);
   }
   return arguments;
 }

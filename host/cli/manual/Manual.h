@@ -27,4 +27,7 @@ std::vector<std::string> namesOf(const OptionRow& row);
 /// The words that a value may be, where it is one of a few ("get|set|list"); else nothing.
 std::vector<std::string> wordsOf(const OptionRow& row);
 
+/// Whether the value names units, which "veldra-cm manual units" lists.
+bool namesUnits(const OptionRow& row);
+
 }  // namespace veldra::host::cli
