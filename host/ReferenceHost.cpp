@@ -69,8 +69,8 @@ PropertyLayers loadedLayers(const HostOptions& options, const std::string& root,
 constexpr std::uint64_t MostMegabytes = std::uint64_t{1} << 40U;
 constexpr std::uint64_t MostDays = 36500;
 
-/// A whole number of the section "General" up to the most, or what holds without it. Of a value that
-/// is none is told.
+/// A whole number of the section "General" up to the most, or what holds without it. Of a value
+/// that is none is told.
 std::uint64_t numberOf(const PropertyLayers& layers, const char* name, std::uint64_t otherwise,
                        std::uint64_t most, Problems& problems) {
   const std::optional<std::string> text = layers.setting("General", name);
@@ -87,10 +87,10 @@ std::uint64_t numberOf(const PropertyLayers& layers, const char* name, std::uint
 
 KeptLimits keptLimits(const PropertyLayers& layers, Problems& problems) {
   const KeptLimits standard;
-  return {numberOf(layers, "KeptCopiesMegabytes", standard.bytes >> 20U, MostMegabytes, problems)
-              << 20U,
-          static_cast<unsigned>(
-              numberOf(layers, "KeptCopiesDays", standard.days, MostDays, problems))};
+  return {
+      numberOf(layers, "KeptCopiesMegabytes", standard.bytes >> 20U, MostMegabytes, problems)
+          << 20U,
+      static_cast<unsigned>(numberOf(layers, "KeptCopiesDays", standard.days, MostDays, problems))};
 }
 
 }  // namespace

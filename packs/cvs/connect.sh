@@ -20,7 +20,7 @@ if [ -d CVS ]; then
     fail "'$2' is already a working copy of $(cat CVS/Root)//$(cat CVS/Repository). \
 Connect a fresh folder, or set the archive to that."
 else
-  new=$(mktemp -d "$PWD/.veldra-checkout-XXXXXX")
+  new=$(scratch_in "$PWD" -d)
   trap 'rm -rf "$new"' EXIT
   (cd "$new" && cvs -d "$root" checkout -P -d it -- "$module" >/dev/null)
   [ -d "$new/it/CVS" ] || (cd "$new" && cvs -d "$root" checkout -d it -- "$module" >/dev/null)

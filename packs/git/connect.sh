@@ -19,7 +19,7 @@ is_clone_of() {
 }
 
 clone() {
-  new=$(mktemp -d "$here/.veldra-clone-XXXXXX")
+  new=$(scratch_in "$here" -d)
   trap 'rm -rf "$new"' EXIT
   run git clone -q --no-checkout -- "$archive" "$new/it" || give_up
   mv "$new/it/.git" "$here/.git"

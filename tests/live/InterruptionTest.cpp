@@ -276,11 +276,13 @@ TEST(Leftovers, HalfWrittenFilesOfADeadProgramGo) {
   sandbox.write("model/parts/part.puml", "@startuml\n@enduml\n");
   ASSERT_EQ(sandbox.cm({"init", "model", "--name", "M"}).code, 0);
   sandbox.write(dead, "half");
+  sandbox.write("model/.veldra-cm-999999999-abcdef.tmp/it/part.puml", "of a clone");
   sandbox.write("tmp/veldra-cm-999999999-abcdef", "comment");
   sandbox.write("tmp/veldra-cm-1-abcdef", "of a process that lives");
   sandbox.write("tmp/veldra-cm-notes", "the user's own");
   ASSERT_EQ(sandbox.cm({"-p", "model", "status"}).code, 0);
   EXPECT_FALSE(std::filesystem::exists(sandbox.path(dead)));
+  EXPECT_EQ(sandbox.files("model").size(), 2U);
   EXPECT_EQ(sandbox.files("tmp").size(), 2U);
 }
 

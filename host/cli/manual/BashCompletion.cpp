@@ -53,7 +53,7 @@ std::string bashCompletion() {
       commandNames("|") +
       ") command=${command:-$word} ;;\n    esac\n  done\n"
       "  words='--help " +
-      wordList(OptionSet::Everywhere) + "'\n  case $command in\n    '') words+=' " +
+      wordList(OptionSet::Everywhere) + "'\n  case $command in\n    '') words+=' --version " +
       commandNames(" ") + "' ;;\n";
   for (const Command& command : commandTable()) {
     const std::string words = wordList(command.options);

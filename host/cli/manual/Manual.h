@@ -18,6 +18,10 @@ std::string zshCompletion();
 
 // --- what the three of them share ---
 
+// Two options that do not stand in the table.
+inline constexpr char HelpText[] = "Show how the program or a command is called";
+inline constexpr char VersionText[] = "Show the version";
+
 /// The rows of a command's own options, in the order of the table.
 std::vector<const OptionRow*> rowsOf(unsigned sets);
 

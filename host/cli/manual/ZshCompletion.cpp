@@ -27,7 +27,7 @@ std::string valueOf(const OptionRow& row) {
 
 /// The specifications of these sets, one a line.
 std::string specifications(unsigned sets, const std::string& indent) {
-  std::string text;
+  std::string text = " \\\n" + indent + "'(- *)--help[" + HelpText + "]'";
   int position = 0;
   for (const OptionRow* row : rowsOf(sets)) {
     if (row->isPositional()) {
@@ -55,7 +55,8 @@ std::string zshCompletion() {
   for (const Command& command : commandTable()) {
     script += std::string("    '") + command.name + ":" + quoted(command.summary) + "'\n";
   }
-  script += "  )\n  _arguments -C" + specifications(OptionSet::Everywhere, "    ") +
+  script += "  )\n  _arguments -C '(- *)--version[" + std::string(VersionText) + "]'" +
+            specifications(OptionSet::Everywhere, "    ") +
             " \\\n    '1:command:->command' '*::argument:->arguments'\n"
             "  case $state in\n    command) _describe command commands ;;\n    arguments)\n"
             "      case $words[1] in\n";
