@@ -53,6 +53,18 @@ take_back_undelivered() {
   rm -f "$top/.hg/veldra-delivery"
 }
 
+# exchange FROM TO: puts the versions of FROM, a folder in $work, in the place of the files that both
+# sides have changed, and these into TO.
+exchange() {
+  mkdir -p "$work/$2"
+  number=0
+  while read -r file; do
+    number=$((number + 1))
+    cp "./$file" "$work/$2/$number"
+    cp "$work/$1/$number" "./$file.veldra-merged" && mv -f "./$file.veldra-merged" "./$file"
+  done <"$work/both"
+}
+
 # bring_newest: moves the whole folder on to $tip. Local changes are merged in, or everything stays
 # as it is.
 bring_newest() {
@@ -69,13 +81,15 @@ bring_newest() {
     fail "This folder has commits that the archive lacks, and the archive has newer ones. \
 Bring both together with hg merge."
   begin_update
-  # A file that both sides have changed stays; what has been merged then takes its place.
-  run hg update -q --merge --tool internal:local -r "$tip" || give_up
-  number=0
-  while read -r file; do
-    number=$((number + 1))
-    cp "$work/merged/$number" "./$file.veldra-merged" && mv -f "./$file.veldra-merged" "./$file"
-  done <"$work/both"
+  # hg leaves a file alone that both sides have changed. What has been merged takes its place before:
+  # were it done afterwards, a kill between both would leave a file that takes back what others did.
+  exchange merged before
+  run hg update -q --merge --tool internal:local -r "$tip" || {
+    reason=$answer
+    exchange before merged
+    answer=$reason
+    give_up
+  }
   end_update
 }
 
