@@ -1,6 +1,8 @@
 #include "host/ReferenceHost.h"
 
+#include <algorithm>
 #include <charconv>
+#include <system_error>
 #include <utility>
 
 #include "host/UserMessages.h"
@@ -63,18 +65,32 @@ PropertyLayers loadedLayers(const HostOptions& options, const std::string& root,
   return layers;
 }
 
-/// A whole number of the section "General", or what holds without it.
-std::uint64_t numberOf(const PropertyLayers& layers, const char* name, std::uint64_t otherwise) {
-  const std::string text = layers.setting("General", name).value_or("");
-  std::uint64_t number = otherwise;
-  std::from_chars(text.data(), text.data() + text.size(), number);
-  return number;
+// More than any disk, and more than anybody lives.
+constexpr std::uint64_t MostMegabytes = std::uint64_t{1} << 40U;
+constexpr std::uint64_t MostDays = 36500;
+
+/// A whole number of the section "General" up to the most, or what holds without it. Of a value
+/// that is none is told.
+std::uint64_t numberOf(const PropertyLayers& layers, const char* name, std::uint64_t otherwise,
+                       std::uint64_t most, Problems& problems) {
+  const std::optional<std::string> text = layers.setting("General", name);
+  if (!text) return otherwise;
+  std::uint64_t number = 0;
+  const char* const end = text->data() + text->size();
+  const auto [stop, error] = std::from_chars(text->data(), end, number);
+  if (error == std::errc::result_out_of_range) return most;
+  if (error == std::errc() && stop == end) return std::min(number, most);
+  problems.push_back({name, "'" + *text + "' is no whole number from 0 on.",
+                      std::to_string(otherwise) + " is taken."});
+  return otherwise;
 }
 
-KeptLimits keptLimits(const PropertyLayers& layers) {
+KeptLimits keptLimits(const PropertyLayers& layers, Problems& problems) {
   const KeptLimits standard;
-  return {numberOf(layers, "KeptCopiesMegabytes", standard.bytes >> 20U) << 20U,
-          static_cast<unsigned>(numberOf(layers, "KeptCopiesDays", standard.days))};
+  return {
+      numberOf(layers, "KeptCopiesMegabytes", standard.bytes >> 20U, MostMegabytes, problems)
+          << 20U,
+      static_cast<unsigned>(numberOf(layers, "KeptCopiesDays", standard.days, MostDays, problems))};
 }
 
 }  // namespace
@@ -102,7 +118,7 @@ struct ReferenceHost::Parts {
               const Project* open = model.project();
               return open ? open->getProjectDirectory() : std::string();
             },
-            keptLimits(layers)),
+            keptLimits(layers, problems)),
         onlyPlans(options.onlyPlans),
         guarded(options.processes ? *options.processes : processes,
                 [this](const std::string& command) { return objectionTo(command); }) {

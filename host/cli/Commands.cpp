@@ -40,7 +40,8 @@ std::span<const Command> commandTable() {
       {"trust", "Show the commands that the project brings, and trust them", Trust, runTrust},
       {"doctor", "Look whether the tool works, in a throw-away archive of its own", Doctor,
        runDoctor},
-      {"manual", "Print the manual page, or a completion script for a shell", Manual, runManual},
+      {"manual", "Print the manual page, a completion script for a shell, or what it completes",
+       Manual, runManual},
   };
   return rows;
 }

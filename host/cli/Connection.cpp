@@ -54,13 +54,46 @@ std::optional<std::string> createArchive(const std::string& place) {
          "\ncommand: " + withoutSecrets(command) + adviceLine(words);
 }
 
-std::optional<std::string> connectToArchive(Session& session,
-                                            const std::optional<std::string>& place) {
-  if (CMProperty::useSccCompliantTool() != 0) return connectToProvider(session, place);
-  if (place && CMArchive::setMainArchive(*place) == 0) {
-    return "The project's tool knows no archive. Choose a tool with \"veldra-cm property set "
-           "CMTool NAME\".";
+namespace {
+
+/// Another archive of the project, taken back unless the connection comes about.
+class ArchiveChange {
+ public:
+  ArchiveChange(Session& session, const std::string& place)
+      : m_session(session), m_former(CMArchive::getMainArchive()) {
+    m_isChange = place != m_former;
+    if (!m_isChange) return;
+    if (session.project().isReadOnly() && !session.options().dryRun) {
+      m_isChange = false;
+      m_refusal = session.project().getFullFileName() +
+                  " is read-only and cannot keep the name of another archive. Check it out first.";
+    } else if (CMArchive::setMainArchive(place) == 0) {
+      m_isChange = false;
+      m_refusal =
+          "The project's tool knows no archive. Choose a tool with \"veldra-cm property set "
+          "CMTool NAME\".";
+    }
   }
+  ArchiveChange(const ArchiveChange&) = delete;
+  ArchiveChange& operator=(const ArchiveChange&) = delete;
+  ~ArchiveChange() {
+    if (!m_isChange) return;
+    CMArchive::setMainArchive(m_former);
+    m_session.save(false);
+  }
+
+  const std::optional<std::string>& refusal() const { return m_refusal; }
+  void keep() { m_isChange = false; }
+
+ private:
+  Session& m_session;
+  std::string m_former;
+  bool m_isChange = false;
+  std::optional<std::string> m_refusal;
+};
+
+/// Empty on success; otherwise why the archive cannot be reached.
+std::optional<std::string> connect(Session& session) {
   if (CMArchive::getMainArchive().empty()) {
     return "The project has no archive. Name one with --archive.";
   }
@@ -77,6 +110,19 @@ std::optional<std::string> connectToArchive(Session& session,
   if (traces.back().end == UnitEnd::Done) return std::nullopt;
   return "The project cannot be connected to its archive.\n" +
          failureOf(traces.back(), IPN::CMConnectToCMRepository);
+}
+
+}  // namespace
+
+std::optional<std::string> connectToArchive(Session& session,
+                                            const std::optional<std::string>& place) {
+  if (CMProperty::useSccCompliantTool() != 0) return connectToProvider(session, place);
+  if (!place) return connect(session);
+  ArchiveChange change(session, *place);
+  if (change.refusal()) return change.refusal();
+  std::optional<std::string> failure = connect(session);
+  if (!failure) change.keep();
+  return failure;
 }
 
 }  // namespace veldra::host::cli

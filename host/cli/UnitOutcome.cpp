@@ -47,6 +47,11 @@ std::string providerWords(const UnitTrace& trace) {
   return words;
 }
 
+void putInPlace(std::string_view mark, std::string_view words, std::string& argument) {
+  const std::size_t at = argument.find(mark);
+  if (at != std::string::npos) argument.replace(at, mark.size(), words);
+}
+
 /// The diagnostic that speaks of the file, or nothing.
 const CMDiagnostic* diagnosticOf(const std::string& file, const DiagnosticList& diagnostics) {
   const auto at = std::ranges::find_if(diagnostics, [&](const CMDiagnostic& diagnostic) {
@@ -113,8 +118,11 @@ void makePlan(const UnitTrace& trace, const char* lock, UnitRecord& record) {
 std::vector<std::string> plannedArguments(const std::string& command) {
   Result<std::vector<std::string>> split = splitCommandLine(command);
   std::vector<std::string> arguments = split ? *split : std::vector<std::string>{command};
-  std::ranges::replace(arguments, std::string(PlannedCommentFile), std::string("<comment>"));
-  std::ranges::replace(arguments, std::string(PlannedUnitList), std::string("<units>"));
+  // A sign such as "@" may stand before them.
+  for (std::string& argument : arguments) {
+    putInPlace(PlannedCommentFile, "<comment>", argument);
+    putInPlace(PlannedUnitList, "<units>", argument);
+  }
   return arguments;
 }
 

@@ -39,10 +39,9 @@ bool isRecordFile(const std::string& name) {
          });
 }
 
-/// A file that is being written, or that a killed program left half written.
+/// A file or a folder that is being made, or that a killed program left half made.
 bool isTemporary(const Entry& entry) {
-  return !entry.isFolder && entry.name.starts_with(WorkingFilePrefix) &&
-         entry.name.ends_with(".tmp");
+  return entry.name.starts_with(WorkingFilePrefix) && entry.name.ends_with(".tmp");
 }
 
 class Walk {

@@ -91,6 +91,11 @@ scratch() {
   mktemp "$@" "${TMPDIR:-/tmp}/veldra-cm-$$-XXXXXX"
 }
 
+# scratch_in FOLDER [-d]: the same in a folder of the project.
+scratch_in() {
+  mktemp ${2:+"$2"} "$1/.veldra-cm-$$-XXXXXX.tmp"
+}
+
 # open_work: makes sure that there is $work, a folder that goes with the helper.
 open_work() {
   [ -z "${work:-}" ] || return 0
@@ -130,7 +135,7 @@ replace() {
   file=$1
   shift
   mkdir -p -- "${file%/*}"
-  new=$(mktemp "${file%/*}/.veldra-fetch-XXXXXX")
+  new=$(scratch_in "${file%/*}")
   "$@" >"$new" && chmod 444 "$new" && mv -f -- "$new" "$file" && return
   rm -f -- "$new"
   return 1

@@ -22,7 +22,7 @@ take_back() {
   done
 }
 
-open_folder
+open_folder "$units"
 relative "$units" | while read -r file; do
   [ -f "$file" ] || fail "'$file' is not a file."
   ! entries "$(dirname -- "$file")" | grep -q -F "/${file##*/}/" ||

@@ -4,7 +4,7 @@
 
 mode=$1 units=$2 wanted=${3:-}
 [ -z "$wanted" ] || fail "Only the newest revision can be checked out; fetch '$wanted' instead."
-open_folder
+open_folder "$units"
 if [ "$mode" = --lock ]; then
   in_archive "$units"
   case $newline$(state_of "$units") in

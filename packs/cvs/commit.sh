@@ -15,7 +15,7 @@ check_label() {
 # revisions UNITS: a line a file that cvs knows, in the folders of these: its path, a tab, and the revision
 # that this folder has of it. What cvs has changed last stands in a log behind its records.
 revisions() {
-  relative "$1" | sed 's|^[^/]*$|./&|; s|/[^/]*$||' | sort -u | while read -r folder; do
+  folders_of "$1" | while read -r folder; do
     cat "$folder/CVS/Entries" "$folder/CVS/Entries.Log" 2>/dev/null | F=$folder/ awk '
       { gone = sub(/^R /, ""); sub(/^A /, "") }
       split($0, part, "/") > 2 && part[1] == "" {
@@ -27,11 +27,30 @@ revisions() {
   done
 }
 
+# without_keywords: the input with keywords that stand for nothing yet.
+without_keywords() {
+  LC_ALL=C sed 's/\$\([A-Z][A-Za-z]*\):[^$]*\$/$\1$/g'
+}
+
+# know_own: a commit that was killed may have made revisions that this folder does not know of. True
+# when it does now, and nothing else keeps the files from being committed.
+know_own() {
+  printf '%s\n' "$answer" | sed -n "s/.*Up-to-date check failed for .\(.*\)'$/\1/p" >"$work/newer"
+  [ -s "$work/newer" ] || return
+  while read -r file; do
+    without_keywords <"$file" >"$work/mine"
+    command cvs -f -Q update -p -A -- "$file" 2>/dev/null | without_keywords |
+      cmp -s - "$work/mine" || return
+  done <"$work/newer"
+  while read -r file; do bring_clean "$file" -A && chmod u+w -- "$file"; done <"$work/newer"
+}
+
 # commit UNITS COMMENTFILE: as `run`. CVS commits file by file: after a failure the files that made it
 # are named, which have another revision now or are gone from the records; the rest stays as it was.
 commit() {
   revisions "$1" | sort >"$work/before"
   run on "$1" commit -F "${2:-/dev/null}" -- && return
+  know_own && run on "$1" commit -F "${2:-/dev/null}" -- && return
   reason=$answer
   revisions "$1" | sort | comm -23 "$work/before" - | cut -f 1 >"$work/moved-on"
   lines "$1" >"$work/all"

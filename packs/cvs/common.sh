@@ -1,6 +1,7 @@
 # Sourced by the helpers beside it: the surroundings of cvs, units, editors, directories.
 pack='cvs archive'
 . "${0%/*}/../common/units.sh"
+. "${0%/*}/../common/leftovers.sh"
 
 # Files come read-only also where nobody may turn watching on; nobody is there to edit.
 export CVSREAD=1 CVSEDITOR=:
@@ -20,8 +21,38 @@ on() {
   relative "$paths" | tr '\n' '\000' | xargs -0 cvs -f -q "$@"
 }
 
+# open_folder [UNITS]
 open_folder() {
   [ -f CVS/Root ] || fail "The folder is not connected to an archive; connect it first."
+  clear_locks ${1:+"$1"}
+}
+
+# clear_locks [UNITS]: cvs waits without an end for the locks of killed processes. They lie beside the
+# archive files; without UNITS anywhere.
+clear_locks() {
+  read -r root <CVS/Root
+  read -r place <CVS/Repository
+  root=${root#:local:} root=${root#:fork:}
+  case $root$place in
+    /*) ;;
+    # They are the server's business.
+    *) return 0 ;;
+  esac
+  place=${place#"$root"/}
+  {
+    find "$root/CVSROOT" -maxdepth 1 -name '#cvs.*.lock' -print0
+    if [ $# -gt 0 ]; then
+      folders_of "$1" | R=$root/$place/ awk '{ print ENVIRON["R"] $0 }' | tr '\n' '\000' |
+        xargs -0 -r sh -c 'find "$@" -maxdepth 1 \( -name "#cvs.*" -o -name ",*," \) -print0' sh
+    else
+      find "$root/$place" \( -name '#cvs.*' -o -name ',*,' \) -print0
+    fi
+  } 2>/dev/null | tr '\n\000' '\001\n' | while read -r lock; do clear_lock "$lock" '' cvs; done
+}
+
+# folders_of UNITS: the folders that they lie in, a line a folder.
+folders_of() {
+  relative "$1" | sed 's|^[^/]*$|./&|; s|/[^/]*$||' | sort -u
 }
 
 # state_of UNITS: a line a file that is not as in the archive: a letter, a blank, the path. M, A and R
@@ -67,6 +98,18 @@ make_folders() {
   relative "$1" | sed -n 's|/[^/]*$||p' | sort -u | while read -r folder; do
     make_folder "$folder"
   done
+}
+
+# bring_clean FILE [OPTION]: in place of what is there.
+bring_clean() {
+  command cvs -f -Q update -C ${2:+"$2"} -- "$1"
+  drop_backups "$1" CVS/Root
+}
+
+# drop_backups FILE SINCE: cvs keeps the former content beside a file; SINCE is an older file.
+drop_backups() {
+  find "./$(dirname -- "$1")" -maxdepth 1 -type f -name '.#*' -newer "$2" \
+    -exec sh -c 'case $2 in */".#$1".*) rm -f -- "$2" ;; esac' sh "${1##*/}" {} \;
 }
 
 # bring_newest UNITS: merges what is new in the archive into the files.

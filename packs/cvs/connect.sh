@@ -20,12 +20,13 @@ if [ -d CVS ]; then
     fail "'$2' is already a working copy of $(cat CVS/Root)//$(cat CVS/Repository). \
 Connect a fresh folder, or set the archive to that."
 else
-  new=$(mktemp -d "$PWD/.veldra-checkout-XXXXXX")
+  new=$(scratch_in "$PWD" -d)
   trap 'rm -rf "$new"' EXIT
   (cd "$new" && cvs -d "$root" checkout -P -d it -- "$module" >/dev/null)
   [ -d "$new/it/CVS" ] || (cd "$new" && cvs -d "$root" checkout -d it -- "$module" >/dev/null)
   take_over "$new/it"
 fi
+clear_locks
 # Files are read-only for everybody from now on, until somebody edits them. Who may not write in the
 # archive cannot turn this on, and need not.
 run cvs watch on || :

@@ -7,7 +7,7 @@
 units=$1
 shift
 read_options "$@"
-open_folder
+open_folder "$units"
 if [ -d "$units" ]; then
   relative "$units" >"$work/folder"
   controlled "./$(cat "$work/folder")" | sed "s|^\./|$PWD/|" >"$work/files"

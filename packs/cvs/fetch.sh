@@ -22,7 +22,7 @@ has_revision() {
   esac
 }
 
-open_folder
+open_folder "$units"
 if [ -n "$to" ]; then
   file=$(relative "$units")
   [ -z "$wanted" ] || has_revision "$file" ||

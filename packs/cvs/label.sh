@@ -6,7 +6,7 @@ units=$1
 shift
 read_options "$@"
 [ -n "$label" ] || fail "No label is given."
-open_folder
+open_folder "$units"
 in_archive "$units"
 check_label "$units"
 attach_label "$units"

@@ -19,6 +19,7 @@ begin_commit() {
 # other files is brought here first; these files must be as this folder knows them.
 catch_up() {
   receive || give_up
+  take_back_undelivered
   if is_behind; then
     each "$1" | xargs -0 git diff --quiet HEAD "$tip" -- 2>/dev/null || fail "$moved_on"
     bring_newest
@@ -46,6 +47,16 @@ commit() {
   }
 }
 
+# begin_delivery: from a commit on until it is in the archive, a run that is killed leaves word of it.
+begin_delivery() {
+  [ -z "$remote" ] ||
+    printf '%s\n' "$$ $(git rev-parse HEAD)" ${old:+"$old"} >"$records/veldra-delivery"
+}
+
+end_delivery() {
+  rm -f "$records/veldra-delivery"
+}
+
 # take_back UNITS: undoes the commit; the files stay as they are.
 take_back() {
   if [ -n "$old" ]; then
@@ -54,6 +65,7 @@ take_back() {
     git update-ref -d HEAD
   fi
   on "$1" reset -q
+  end_delivery
 }
 
 # tag_and_push: brings new commits and the label to the archive; false and nothing there when that
@@ -92,7 +104,11 @@ refuse_push() {
 deliver() {
   for patience in 3 2 1; do
     run commit "$1" "$2" || give_up
-    tag_and_push && return
+    begin_delivery
+    if tag_and_push; then
+      end_delivery
+      return
+    fi
     take_back "$1"
     was_late && [ "$patience" -gt 1 ] || refuse_push
     catch_up "$1"
@@ -101,7 +117,10 @@ deliver() {
 
 # publish UNITS: as `tag_and_push`; takes the commit back when that fails.
 publish() {
-  tag_and_push && return
+  if tag_and_push; then
+    end_delivery
+    return
+  fi
   take_back "$1"
   refuse_push
 }

@@ -1,6 +1,7 @@
 # Sourced by the helpers beside it: the surroundings of git, units, the archive.
 pack='git archive'
 . "${0%/*}/../common/units.sh"
+. "${0%/*}/../common/leftovers.sh"
 
 # Set by a hook that started us, these would lead to another repository.
 unset GIT_DIR GIT_WORK_TREE GIT_INDEX_FILE GIT_OBJECT_DIRECTORY GIT_COMMON_DIR GIT_PREFIX GIT_NAMESPACE
@@ -53,8 +54,15 @@ on() {
   each "$paths" | git "$@" --pathspec-from-file=- --pathspec-file-nul
 }
 
-# open_repository: sets $remote (empty: the folder is the archive itself) and $target, the branch
-# there; also $branch, that of this folder, unless it is known.
+# clear_locks_of RECORDS PLACE: of a repository; killed processes leave them.
+clear_locks_of() {
+  for lock in "$1"/*.lock "$1"/refs/*/*.lock "$1"/refs/*/*/*.lock; do
+    [ ! -e "$lock" ] || clear_lock "$lock" "$(real "$2")" git
+  done
+}
+
+# open_repository: sets $remote (empty: the folder is the archive itself), $target, the branch there,
+# and $records, where git keeps what it knows; also $branch, that of this folder, unless it is known.
 branch=
 open_repository() {
   silence_ssh
@@ -62,6 +70,11 @@ open_repository() {
     git rev-parse --git-dir >/dev/null 2>&1 ||
       fail "The folder is not connected to an archive; connect it first."
     fail "No branch is checked out in this folder; git switch BRANCH leads back to one."
+  }
+  top=$PWD records=$PWD/.git
+  [ -d "$records" ] || {
+    top=$(git rev-parse --show-toplevel)
+    records=$(git rev-parse --absolute-git-dir)
   }
   setting "branch.${branch#refs/heads/}.remote"
   remote=$value
@@ -71,6 +84,11 @@ open_repository() {
   fi
   setting "branch.${branch#refs/heads/}.merge"
   target=${value:-$branch}
+  clear_locks_of "$records" "$top"
+  setting "remote.$remote.url"
+  case $value in
+    /*) clear_locks_of "$value" "$value" ;;
+  esac
 }
 
 # receive: learns what the archive holds; sets $tip to its newest commit, empty when it has none, and

@@ -20,7 +20,7 @@ is_clone_of() {
 
 clone() {
   silence_ssh
-  new=$(mktemp -d "$here/.veldra-clone-XXXXXX")
+  new=$(scratch_in "$here" -d)
   trap 'rm -rf "$new"' EXIT
   run git clone -q --no-checkout -- "$archive" "$new/it" || give_up
   mv "$new/it/.git" "$here/.git"

@@ -26,9 +26,28 @@ settle() {
   git diff --relative --name-only -z | xargs -0 -r chmod -f u+w -- || :
 }
 
+# take_back_undelivered: a commit that a killed run has made and not brought to the archive. The files
+# stay as they are, so the same command makes it anew. After `receive`.
+take_back_undelivered() {
+  [ -f "$records/veldra-delivery" ] || return 0
+  { read -r process made && read -r former || :; } <"$records/veldra-delivery"
+  ! kill -0 "$process" 2>/dev/null || return 0
+  if [ "$(git rev-parse -q --verify HEAD)" = "$made" ] &&
+    ! git merge-base --is-ancestor HEAD "$tip" 2>/dev/null; then
+    git tag --points-at HEAD | while read -r tag; do git tag -d "$tag" >/dev/null; done
+    if [ -n "$former" ]; then
+      git reset -q "$former"
+    else
+      git update-ref -d HEAD && git read-tree --empty
+    fi
+  fi
+  rm -f "$records/veldra-delivery"
+}
+
 # bring_newest: moves the whole folder on to $tip. Local changes are merged in, or everything stays
 # as it is.
 bring_newest() {
+  take_back_undelivered
   is_behind || return 0
   if ! git rev-parse -q --verify HEAD >/dev/null; then
     git reset -q "$tip"

@@ -6,7 +6,7 @@ units=$1
 shift
 read_options "$@"
 begin_commit "$units"
-present=$(on "$units" files 2>/dev/null || :)
+present=$(on "$units" files -r . 2>/dev/null || :)
 [ -z "$present" ] || fail "'${present%%"$newline"*}' is in the archive already."
 run on "$units" add -q || give_up
 commit "$units" "$comment" || {
@@ -15,5 +15,6 @@ commit "$units" "$comment" || {
   answer=$reason
   give_up
 }
+begin_delivery
 publish
 make_read_only "$units"

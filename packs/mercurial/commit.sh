@@ -15,6 +15,7 @@ begin_commit() {
 # other files is brought here first; these files must be as this folder knows them.
 catch_up() {
   receive || give_up
+  take_back_undelivered
   [ -n "$tip" ] || return 0
   [ -z "$(on "$1" status --rev "$base" --rev "$tip" 2>/dev/null)" ] || fail "$moved_on"
   bring_newest
@@ -45,11 +46,13 @@ commit() {
   return $result
 }
 
-# take_back: undoes what has been committed and scheduled; the files stay as they are.
-take_back() {
-  [ "$(hg log -r . -T '{node}')" = "$base" ] ||
-    hg --config extensions.strip= strip -q --keep --no-backup -r "children($base) and ::."
-  hg debugrebuilddirstate
+# begin_delivery: from a commit on until it is in the archive, a run that is killed leaves word of it.
+begin_delivery() {
+  [ -z "$remote" ] || printf '%s\n' "$$ $base" >"$top/.hg/veldra-delivery"
+}
+
+end_delivery() {
+  rm -f "$top/.hg/veldra-delivery"
 }
 
 # was_late: whether somebody was quicker with a push.
@@ -70,7 +73,11 @@ refuse_push() {
 deliver() {
   for patience in 3 2 1; do
     commit "$1" "$2" || give_up
-    tag_and_push && return
+    begin_delivery
+    if tag_and_push; then
+      end_delivery
+      return
+    fi
     reason=$answer
     take_back
     answer=$reason
@@ -81,7 +88,10 @@ deliver() {
 
 # publish: as `tag_and_push`; takes the commits back when that fails.
 publish() {
-  tag_and_push && return
+  if tag_and_push; then
+    end_delivery
+    return
+  fi
   reason=$answer
   take_back
   answer=$reason

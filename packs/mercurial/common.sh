@@ -39,6 +39,12 @@ remote_of() {
   sed -n '/^\[paths\]/,/^\[/s/^default *= *//p' "$1/.hg/hgrc" 2>/dev/null
 }
 
+# recover REPOSITORY: takes back what a killed hg has begun; one that is at work is waited for. Locks of
+# dead processes hg knows by itself.
+recover() {
+  [ ! -e "$1/.hg/store/journal" ] || hg -R "$1" recover --quiet >/dev/null 2>&1 || :
+}
+
 # open_repository: sets $remote; empty when the folder is the archive itself.
 open_repository() {
   find_top || fail "The folder is not connected to an archive; connect it first."
@@ -46,7 +52,9 @@ open_repository() {
   case $remote in
     # An ssh that may not ask fails at once instead of waiting.
     ssh://*) ssh="$(hg config ui.ssh || echo ssh) -o BatchMode=yes" ;;
+    /*) recover "$remote" ;;
   esac
+  recover "$top"
 }
 
 # receive: learns what the archive holds; sets $base, the commit of this folder, and $tip, the newest

@@ -18,7 +18,7 @@ is_clone() {
 }
 
 clone() {
-  new=$(mktemp -d "$here/.veldra-clone-XXXXXX")
+  new=$(scratch_in "$here" -d)
   trap 'rm -rf "$new"' EXIT
   run hg clone -q --noupdate -- "$archive" "$new/it" || give_up
   mv "$new/it/.hg" "$here/.hg"

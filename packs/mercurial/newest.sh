@@ -32,9 +32,43 @@ bring_missing() {
   hg revert -q --no-backup 'set:deleted()'
 }
 
+# take_back: undoes what has been committed and scheduled; the files stay as they are.
+take_back() {
+  [ "$(hg log -r . -T '{node}')" = "$base" ] ||
+    hg --config extensions.strip= strip -q --keep --no-backup -r "children($base) and ::."
+  hg debugrebuilddirstate
+  rm -f "$top/.hg/veldra-delivery"
+}
+
+# take_back_undelivered: the same for the commits that a killed run has made and not brought to the
+# archive, so that the same command makes them anew. After `receive`.
+take_back_undelivered() {
+  [ -f "$top/.hg/veldra-delivery" ] || return 0
+  read -r process former <"$top/.hg/veldra-delivery"
+  ! kill -0 "$process" 2>/dev/null || return 0
+  if [ -n "$(hg log -r ". and draft() and children($former)::." -T x 2>/dev/null)" ]; then
+    base=$former
+    take_back
+  fi
+  rm -f "$top/.hg/veldra-delivery"
+}
+
+# exchange FROM TO: puts the versions of FROM, a folder in $work, in the place of the files that both
+# sides have changed, and these into TO.
+exchange() {
+  mkdir -p "$work/$2"
+  number=0
+  while read -r file; do
+    number=$((number + 1))
+    cp "./$file" "$work/$2/$number"
+    cp "$work/$1/$number" "./$file.veldra-merged" && mv -f "./$file.veldra-merged" "./$file"
+  done <"$work/both"
+}
+
 # bring_newest: moves the whole folder on to $tip. Local changes are merged in, or everything stays
 # as it is.
 bring_newest() {
+  take_back_undelivered
   [ -n "$tip" ] || return 0
   case $base in
     *[!0]*) ;;
@@ -47,13 +81,15 @@ bring_newest() {
     fail "This folder has commits that the archive lacks, and the archive has newer ones. \
 Bring both together with hg merge."
   begin_update
-  # A file that both sides have changed stays; what has been merged then takes its place.
-  run hg update -q --merge --tool internal:local -r "$tip" || give_up
-  number=0
-  while read -r file; do
-    number=$((number + 1))
-    cp "$work/merged/$number" "./$file.veldra-merged" && mv -f "./$file.veldra-merged" "./$file"
-  done <"$work/both"
+  # hg leaves a file alone that both sides have changed. What has been merged takes its place before:
+  # were it done afterwards, a kill between both would leave a file that takes back what others did.
+  exchange merged before
+  run hg update -q --merge --tool internal:local -r "$tip" || {
+    reason=$answer
+    exchange before merged
+    answer=$reason
+    give_up
+  }
   end_update
 }
 

@@ -41,8 +41,6 @@ replace_mark() {
   # An unchanged file leaves no revision and so no mark.
   [ -n "$offset" ] || return 0
   offset=${offset%%:*}
-  semaphore=${archived##*/}
-  semaphore=${archived%/*}/,${semaphore%,v},
   if ! (set -C && : >"$semaphore") 2>/dev/null; then
     comment_lost "Another command is using the archive file."
   fi

@@ -3,6 +3,7 @@
 # They name a file by its archive file ("...,v") and the directory that it is worked on in, which ends
 # with a slash. The first "/./" in a place of the archive tells where the archive itself ends. The tools
 # print no translated texts, and names and contents are bytes to them. Only what ends in ",v" is an archive file: by default so is everything below any directory "RCS".
+. "${0%/*}/../common/leftovers.sh"
 export LC_ALL=C RCSINIT=-x,v
 
 newline='
@@ -49,6 +50,9 @@ name_files() {
   case $working in
     *,v) fail "RCS takes every name that ends in ',v' for an archive file; rename '$working'." ;;
   esac
+  # Who works on an archive file holds it by a file of such a name; a killed process leaves that.
+  semaphore=${archived%/*}/,${working##*/},
+  [ ! -e "$semaphore" ] || clear_lock "$semaphore" '' ci co rcs rcsclean
 }
 
 # lockers ARCHIVEFILE: who holds locks, one a line.

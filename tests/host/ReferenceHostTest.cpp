@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
 #include <sstream>
 
 #include "tests/host/model/TempModel.h"
@@ -41,6 +42,32 @@ class ReferenceHostTest : public testing::Test {
   std::ostringstream output;
   CountingDoor door;
 };
+
+TEST_F(ReferenceHostTest, limitsOfKeptCopiesAreNumbers) {
+  for (const std::string value : {"0", "64", "17592186044416", "99999999999999999999999"}) {
+    model.put("user.toml", "[General]\nKeptCopiesMegabytes = '" + value + "'\nKeptCopiesDays = '" +
+                               value + "'\n");
+    ReferenceHost host(options());
+    EXPECT_TRUE(host.problems().empty()) << value;
+    model.putProject();
+    model.putUnit("P.vcmp");
+    ASSERT_EQ(host.open(model.root()), std::nullopt);
+    std::string reason;
+    EXPECT_TRUE(host.kept().keep(model.path("P.vcmp"), "undo", reason)) << value << reason;
+    EXPECT_EQ(host.kept().list().size(), 1U) << value;
+    ReferenceHost next(options());
+    ASSERT_EQ(next.open(model.root()), std::nullopt);
+    EXPECT_TRUE(next.kept().keep(model.path("M.vdy"), "undo", reason)) << value << reason;
+    EXPECT_EQ(next.kept().list().size(), value == "0" ? 1U : 2U) << value;
+    std::filesystem::remove_all(model.path(".veldra"));
+  }
+  for (const std::string value : {"-1", "many", "1.5", ""}) {
+    model.put("user.toml", "[General]\nKeptCopiesMegabytes = '" + value + "'\n");
+    const ReferenceHost host(options());
+    ASSERT_EQ(host.problems().size(), 1U) << value;
+    EXPECT_THAT(sentence(host.problems()[0]), HasSubstr("KeptCopiesMegabytes: '" + value + "'"));
+  }
+}
 
 TEST_F(ReferenceHostTest, opensSavesAndClosesProjects) {
   model.putProject();

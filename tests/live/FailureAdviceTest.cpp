@@ -112,6 +112,21 @@ TEST_P(FailureAdviceTest, AFolderThatIsNotConnected) {
   }
 }
 
+TEST_P(FailureAdviceTest, AnotherArchiveIsRefusedAndTheFormerStays) {
+  const auto archive = [this] { return cm({"property", "get", "Archive"}).out; };
+  const std::string former = archive();
+  const std::vector<std::string> connect = {"connect", "--archive", m_sandbox.path("other")};
+  const Ended readOnly = cm(connect);
+  EXPECT_EQ(readOnly.code, 3);
+  EXPECT_THAT(readOnly.err, HasSubstr("Machine.vdy is read-only"));
+  ASSERT_EQ(cm({"checkout", "Machine.vdy"}).code, 0);
+  const Ended refused = cm(connect);
+  EXPECT_EQ(refused.code, 3);
+  EXPECT_THAT(refused.err, HasSubstr("other"));
+  EXPECT_EQ(archive(), former);
+  EXPECT_EQ(cm({"ls"}).code, 0);
+}
+
 TEST_P(FailureAdviceTest, WhatTheArchiveSaysAgainstACheckInIsRead) {
   const std::string hook = m_sandbox.path("hook");
   const std::map<std::string, std::pair<std::string, std::string>> hooks = {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
+#include <regex>
 
 #include "tests/live/Sandbox.h"
 
@@ -40,13 +41,33 @@ TEST(Run, RunsTheCommandOfAProperty) {
   EXPECT_EQ(run({"run", "Show"}).code, 3) << "nothing answers to $Unit";
 }
 
+/// The commands that the help lists, each at the beginning of a line.
+std::vector<std::string> commandsOf(const std::string& help) {
+  std::vector<std::string> names;
+  const std::regex line("\n  ([a-z]+) +[A-Z]");
+  for (std::sregex_iterator at(help.begin(), help.end(), line), end; at != end; ++at) {
+    names.push_back((*at)[1]);
+  }
+  return names;
+}
+
 TEST(Manual, NamesEveryCommandAndCompletesInBash) {
   const Sandbox sandbox;
   const std::string page = sandbox.cm({"manual", "man"}).out;
   const std::string help = sandbox.cm({"--help"}).out;
-  for (const char* command : {"init", "checkin", "run", "trust", "kept", "doctor", "delete"}) {
-    EXPECT_THAT(help, HasSubstr(command));
+  const std::string scripts[] = {sandbox.cm({"manual", "bash"}).out,
+                                 sandbox.cm({"manual", "zsh"}).out};
+  for (const std::string& command : commandsOf(help)) {
     EXPECT_THAT(page, HasSubstr(std::string(".SS \"") + command));
+    // "--option", with or without a short name before it.
+    const std::string options = sandbox.cm({command, "--help"}).out;
+    const std::regex option("--[a-z-]+");
+    for (std::sregex_iterator at(options.begin(), options.end(), option), end; at != end; ++at) {
+      for (const std::string& script : scripts) EXPECT_THAT(script, HasSubstr(at->str()));
+      const std::string inPage = std::regex_replace(at->str(), std::regex("-"), "\\-");
+      EXPECT_THAT(page, HasSubstr(inPage)) << command;
+    }
+    for (const std::string& script : scripts) EXPECT_THAT(script, HasSubstr(command));
   }
   EXPECT_THAT(page, HasSubstr("\\fB\\-\\-dry\\-run\\fR"));
   if (isInstalled("man")) {
@@ -56,10 +77,14 @@ TEST(Manual, NamesEveryCommandAndCompletesInBash) {
                 sandbox.cm({"manual", "bash"}).out +
                     "try() { COMP_WORDS=(veldra-cm \"$@\"); COMP_CWORD=$#; _veldra_cm; "
                     "echo \"${COMPREPLY[@]}\"; }\n"
-                    "try che; try checkin --mes; try -p x pack sh; try ''\n");
-  const Ended completed = sandbox.run({"bash", "complete.bash"});
+                    "try che; try checkin --mes; try -p x pack sh; try -p model lock 'Brewing/D'\n"
+                    "cd model/Milk; try undo Brewing/Gr; try ''\n");
+  sandbox.copySample("model");
+  ASSERT_EQ(sandbox.cm({"init", "model", "--name", "M"}).code, 0);
+  const Ended completed = sandbox.shell("PATH=\"${CM%/*}:$PATH\"; exec bash complete.bash");
   EXPECT_EQ(completed.err, "");
-  EXPECT_THAT(completed.out, testing::StartsWith("checkout checkin\n--message\nshow\n"));
+  EXPECT_THAT(completed.out, testing::StartsWith("checkout checkin\n--message\nshow\n"
+                                                 "Brewing/Drip Tray.vcmp\nBrewing/Grinder.vcmp\n"));
   EXPECT_THAT(completed.out, HasSubstr("doctor"));
   EXPECT_EQ(sandbox.cm({"manual", "zsh"}).out.rfind("#compdef veldra-cm", 0), 0U);
   if (isInstalled("zsh")) {

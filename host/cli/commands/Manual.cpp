@@ -1,9 +1,26 @@
 #include "host/cli/manual/Manual.h"
 
-#include <iterator>
 #include <string_view>
 
+#include "host/cli/Session.h"
+#include "host/cli/UnitDescription.h"
+#include "host/cli/UnitSelection.h"
+#include "host/cli/printing/BytesAsText.h"
+
 namespace veldra::host::cli {
+
+namespace {
+
+/// The units of the project, a line each. Without a project there are none.
+void printUnits(const Invocation& invocation) {
+  Session session(invocation);
+  if (!session.openProjectIfAny()) return;
+  for (IUnit* unit : selectAll(AllUnits::Every).units) {
+    invocation.console.out << textForPeople(projectPath(*unit)) << '\n';
+  }
+}
+
+}  // namespace
 
 ExitCode runManual(const Invocation& invocation) {
   struct Form {
@@ -17,8 +34,13 @@ ExitCode runManual(const Invocation& invocation) {
     invocation.console.out << form.text();
     return ExitCode::AllDone;
   }
-  throw CommandError(ExitCode::WrongUsage,
-                     "It is \"manual man\", \"manual bash\" or \"manual zsh\".");
+  if (invocation.options.action != "units") {
+    throw CommandError(
+        ExitCode::WrongUsage,
+        "It is \"manual man\", \"manual bash\", \"manual zsh\" or \"manual units\".");
+  }
+  printUnits(invocation);
+  return ExitCode::AllDone;
 }
 
 }  // namespace veldra::host::cli

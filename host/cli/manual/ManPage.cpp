@@ -27,6 +27,10 @@ std::string optionEntry(const OptionRow& row) {
   return text + names + "\n" + plain(row.help) + ".\n";
 }
 
+std::string switchEntry(const char* name, const char* text) {
+  return ".TP\n\\fB" + plain(name) + "\\fR\n" + plain(text) + ".\n";
+}
+
 std::string commandEntry(const Command& command) {
   std::string usage = ".SS \"" + plain(command.name);
   std::string options;
@@ -46,6 +50,7 @@ std::string manPage() {
                      ".SH SYNOPSIS\n.B veldra\\-cm\n[\\fIOPTIONS\\fR] \\fICOMMAND\\fR ...\n"
                      ".SH OPTIONS\nThey may stand before or after the command.\n";
   for (const OptionRow* row : rowsOf(OptionSet::Everywhere)) page += optionEntry(*row);
+  page += switchEntry("--help", HelpText) + switchEntry("--version", VersionText);
   page += ".SH COMMANDS\n";
   for (const Command& command : commandTable()) page += commandEntry(command);
   page +=

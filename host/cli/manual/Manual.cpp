@@ -1,6 +1,7 @@
 #include "host/cli/manual/Manual.h"
 
 #include <sstream>
+#include <string_view>
 
 namespace veldra::host::cli {
 
@@ -30,6 +31,10 @@ std::vector<std::string> namesOf(const OptionRow& row) {
 std::vector<std::string> wordsOf(const OptionRow& row) {
   const std::string value = row.value;
   return value.find('|') != std::string::npos ? split(value, '|') : std::vector<std::string>();
+}
+
+bool namesUnits(const OptionRow& row) {
+  return std::string_view(row.value) == "UNIT";
 }
 
 }  // namespace veldra::host::cli

@@ -21,12 +21,13 @@ std::string quoted(const std::string& text) {
 std::string valueOf(const OptionRow& row) {
   std::string words;
   for (const std::string& word : wordsOf(row)) words += (words.empty() ? "" : " ") + word;
-  return ":" + quoted(row.value) + ":" + (words.empty() ? "_files" : "(" + words + ")");
+  const std::string file = namesUnits(row) ? "_veldra-cm-units" : "_files";
+  return ":" + quoted(row.value) + ":" + (words.empty() ? file : "(" + words + ")");
 }
 
 /// The specifications of these sets, one a line.
 std::string specifications(unsigned sets, const std::string& indent) {
-  std::string text;
+  std::string text = " \\\n" + indent + "'(- *)--help[" + HelpText + "]'";
   int position = 0;
   for (const OptionRow* row : rowsOf(sets)) {
     if (row->isPositional()) {
@@ -47,12 +48,15 @@ std::string specifications(unsigned sets, const std::string& indent) {
 
 std::string zshCompletion() {
   std::string script =
-      "#compdef veldra-cm\n\n_veldra-cm() {\n  local curcontext=$curcontext state "
+      "#compdef veldra-cm\n\n_veldra-cm-units() {\n  local -a units\n"
+      "  units=(${(f)\"$(_call_program units veldra-cm manual units 2>/dev/null)\"})\n"
+      "  compadd -a units\n  _files\n}\n\n_veldra-cm() {\n  local curcontext=$curcontext state "
       "line\n  local -a commands\n  commands=(\n";
   for (const Command& command : commandTable()) {
     script += std::string("    '") + command.name + ":" + quoted(command.summary) + "'\n";
   }
-  script += "  )\n  _arguments -C" + specifications(OptionSet::Everywhere, "    ") +
+  script += "  )\n  _arguments -C '(- *)--version[" + std::string(VersionText) + "]'" +
+            specifications(OptionSet::Everywhere, "    ") +
             " \\\n    '1:command:->command' '*::argument:->arguments'\n"
             "  case $state in\n    command) _describe command commands ;;\n    arguments)\n"
             "      case $words[1] in\n";

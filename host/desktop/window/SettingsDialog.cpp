@@ -29,7 +29,6 @@
 namespace veldra::host::desktop {
 namespace {
 
-constexpr char UseProvider[] = "UseSCCtool";
 // No tool has a name that begins like this. The provider's name follows; nothing for whichever the
 // user has.
 constexpr char ProviderEntry[] = "\x01provider";
@@ -249,7 +248,7 @@ void SettingsDialog::takeTool() {
   if (chosen.starts_with(ProviderEntry)) {
     return takeProvider(chosen.substr(std::string_view(ProviderEntry).size()));
   }
-  if (!set({IPN::CM, IPN::General, UseProvider}, "No", Origin::Project)) return;
+  if (!set(cli::useOfProvider(), "No", Origin::Project)) return;
   set({IPN::CM, IPN::General, IPN::CMTool}, chosen, Origin::Project);
 }
 

@@ -54,12 +54,13 @@ TEST_F(UnitOutcomeTest, DiagnosticsGoToTheirUnitOnce) {
 TEST_F(UnitOutcomeTest, PlanSplitsTheCommandAndNamesTheCommentFile) {
   UnitRecord record;
   makePlan({.file = "/m/a b",
-            .commands = {std::string("ci -t \"/m/a b\" ") + PlannedCommentFile, "open \"quote"}},
+            .commands = {std::string("ci -t \"/m/a b\" ") + PlannedCommentFile,
+                         std::string("ci @") + PlannedUnitList, "open \"quote"}},
            "given back", record);
   EXPECT_EQ(record.result, UnitResult::Planned);
   EXPECT_EQ(record.plan.file, "/m/a b");
-  const std::vector<std::vector<std::string>> expected = {{"ci", "-t", "/m/a b", "<comment>"},
-                                                          {"open \"quote"}};
+  const std::vector<std::vector<std::string>> expected = {
+      {"ci", "-t", "/m/a b", "<comment>"}, {"ci", "@<units>"}, {"open \"quote"}};
   EXPECT_EQ(record.plan.commands, expected);
 
   UnitRecord refused;
