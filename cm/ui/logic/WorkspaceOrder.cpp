@@ -15,6 +15,9 @@ namespace {
 /// Longer texts are not kept: a project may have hundreds of thousands of them.
 constexpr std::size_t KeptLength = 24;
 
+/// So many units later a unit has come from memory.
+constexpr std::size_t LookAhead = 8;
+
 /// By the place of a unit, where it stands now.
 std::vector<std::uint32_t> positionsOf(const LiveUnits& units) {
   std::vector<std::uint32_t> positions(units.size());
@@ -43,6 +46,7 @@ std::vector<std::size_t> addTexts(KeyOrder& keys, std::size_t place, const LiveU
   while (place < units.size()) {
     std::size_t count = 0;
     for (; count < BlockSize && place < units.size(); ++place) {
+      units.expectAtPlace(place + LookAhead);
       const IUnit* const unit = units.atPlace(place);
       if (unit == nullptr) {
         gone.push_back(positions[place]);
