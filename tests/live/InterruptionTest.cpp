@@ -15,7 +15,6 @@ namespace veldra::live {
 namespace {
 
 using nlohmann::json;
-using testing::HasSubstr;
 
 /// A moment in the life of a command: the tool's program runs with this word among its arguments,
 /// and the condition, a command of the shell, holds. In there %n is a number of

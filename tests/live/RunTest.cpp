@@ -12,7 +12,6 @@ namespace veldra::live {
 namespace {
 
 using testing::HasSubstr;
-using testing::Not;
 
 TEST(Run, RunsTheCommandOfAProperty) {
   Sandbox sandbox;
