@@ -23,6 +23,7 @@
 #include "cm/ui/logic/synchronize/SyncSettings.h"
 #include "cm/ui/synchronize/CMSyncDlg.h"
 #include "cm/ui/widgets/ButtonPanel.h"
+#include "cm/ui/widgets/ProgressStrip.h"
 #include "cm/ui/widgets/Text.h"
 #include "cm/ui/widgets/WorkspaceData.h"
 

@@ -12,12 +12,16 @@
 #include <QTreeView>
 
 #include "cm/host/IPN.h"
+#include "cm/ui/ControlIds.h"
+#include "cm/ui/widgets/Control.h"
 #include "host/desktop/logic/SettingsTable.h"
+#include "host/desktop/pictures/WindowDriver.h"
 #include "host/desktop/window/SettingsDialog.h"
 #include "host/desktop/window/SettingsModel.h"
 #include "host/desktop/window/UnitEditor.h"
 #include "tests/host/desktop/SampleProject.h"
 #include "tests/host/desktop/ScriptedQuestions.h"
+#include "tests/host/platform/Variable.h"
 
 namespace veldra::host::desktop {
 namespace {
@@ -112,6 +116,42 @@ TEST_F(MainWindowTest, AProjectThatCannotBeOpenedIsTold) {
   ASSERT_THAT(m_questions.asked, SizeIs(1));
   EXPECT_THAT(m_questions.asked[0].text.toStdString(), HasSubstr("/nowhere/at/all"));
   EXPECT_EQ(m_session.project(), nullptr);
+}
+
+TEST_F(MainWindowTest, AProviderThatCannotBeLoadedIsToldAndTheWindowWorksOn) {
+  const Variable user("VELDRA_USER_REGISTRY", m_sample.beside("user.toml"));
+  const Variable machine("VELDRA_MACHINE_REGISTRY", m_sample.beside("machine.toml"));
+  SettingsTable table(m_session.host().properties(), m_session.project());
+  const PropertyKey key{IPN::CM, IPN::General, "UseSCCtool"};
+  ASSERT_EQ(table.set(key, "Yes", Origin::Project, nullptr), std::nullopt);
+  m_window.selectUnits({"Brewing/Grinder.vcmp"});
+  for (const char* command : {"check-out", "check-in", "fetch", "history", "refresh"}) {
+    m_questions.asked.clear();
+    EXPECT_TRUE(perform(m_window, command)) << command;
+    EXPECT_FALSE(m_questions.asked.empty()) << command << " is silent";
+  }
+  rename("Brewing/Grinder.vcmp", "Mill");
+  EXPECT_EQ(unit("Brewing/Grinder.vcmp").record().name, "Mill");
+}
+
+TEST_F(MainWindowTest, UnitsThatFailedAreNamedAndCanBeSelected) {
+  SettingsTable table(m_session.host().properties(), m_session.project());
+  ASSERT_EQ(table.set({IPN::CM, IPN::General, IPN::CMTool}, "Subversion", Origin::Project, nullptr),
+            std::nullopt);
+  ASSERT_EQ(table.set({IPN::CM, "Subversion", IPN::CMArchive}, m_sample.beside("none"),
+                      Origin::Project, nullptr),
+            std::nullopt);
+  m_window.selectUnits({"Brewing/Grinder.vcmp", "Brewing/Brew Group.vcmp"});
+  ASSERT_TRUE(perform(m_window, "check-out"));
+  ASSERT_FALSE(m_questions.asked.empty());
+  EXPECT_THAT(m_questions.asked.back().text.toStdString(), HasSubstr("Grinder"));
+  EXPECT_THAT(m_questions.asked.back().text.toStdString(), HasSubstr("Brew Group"));
+  auto* const select = m_window.findChild<QPushButton*>(controlName(ControlId::SelectFailed));
+  EXPECT_TRUE(select->isVisible());
+  m_window.selectUnits({"Milk/Milk.vpkg"});
+  select->click();
+  EXPECT_THAT(m_window.findChild<QTreeView*>("ModelTree")->selectionModel()->selectedRows(),
+              SizeIs(2));
 }
 
 TEST_F(MainWindowTest, EveryCommandCanBeReachedByKeyboardAndHasAName) {
