@@ -44,9 +44,65 @@ take_back_undelivered() {
   rm -f "$records/veldra-delivery"
 }
 
+# note_update, forget_update: what undo_update has to know, while a folder moves on to $tip.
+note_update() {
+  former=$(git rev-parse HEAD) goal=$tip
+  cp "$work/writable" "$records/veldra-writable"
+  printf '%s\n' "$$ $former $goal" >"$records/veldra-update"
+}
+
+forget_update() {
+  rm -f "$records/veldra-update" "$records/veldra-writable"
+}
+
+# take_back_update: one that a killed run has left half done.
+take_back_update() {
+  [ -f "$records/veldra-update" ] || return 0
+  read -r process former goal <"$records/veldra-update"
+  kill -0 "$process" 2>/dev/null || undo_update
+}
+
+# undo_update: a killed merge leaves files of both commits, and changes put aside. Files that it brought
+# become what they were, so that it can be made anew; every other file stays.
+undo_update() {
+  open_work
+  clear_locks_of "$records" "$top"
+  # Not by git reset, which would make a stash of what is put aside.
+  git read-tree HEAD
+  git update-index -q --refresh >/dev/null || :
+  export GIT_INDEX_FILE="$work/index"
+  git read-tree "$goal"
+  git diff --relative --name-only -z | sort -z >"$work/unlike"
+  unset GIT_INDEX_FILE
+  git ls-files -z | sort -z >"$work/known"
+  git diff --relative --name-only --no-renames -z HEAD "$goal" | sort -z |
+    comm -z -23 - "$work/unlike" >"$work/brought"
+  comm -z -12 "$work/known" "$work/brought" | xargs -0 -r git checkout -q HEAD --
+  comm -z -13 "$work/known" "$work/brought" | xargs -0 -r rm -f --
+  git diff --relative --name-only --no-renames -z "$former" "$goal" | xargs -0 -r chmod -f a-w -- || :
+  xargs -0 -r chmod -f u+w -- <"$records/veldra-writable" || :
+  forget_update
+  take_up_changes
+}
+
+# take_up_changes: those that a killed merge has put aside. Where they do not fit any more, they are
+# kept as a stash.
+take_up_changes() {
+  [ -f "$records/MERGE_AUTOSTASH" ] || return 0
+  read -r aside <"$records/MERGE_AUTOSTASH"
+  run git stash apply -q "$aside" || {
+    git stash store -q -m 'put aside by a fetch that was killed' "$aside"
+    rm -f "$records/MERGE_AUTOSTASH"
+    fail "A former command was killed while it had put your changes aside. They are in git's stash; \
+git stash pop brings them back."
+  }
+  rm -f "$records/MERGE_AUTOSTASH"
+}
+
 # bring_newest: moves the whole folder on to $tip. Local changes are merged in, or everything stays
 # as it is.
 bring_newest() {
+  take_back_update
   take_back_undelivered
   is_behind || return 0
   if ! git rev-parse -q --verify HEAD >/dev/null; then
@@ -63,8 +119,14 @@ Bring both together with git rebase or git merge."
   name_user >/dev/null
   stash=--autostash
   [ -s "$work/both" ] || stash=--no-autostash
-  run git merge -q --ff-only "$stash" "$tip" || give_up
+  note_update
+  run git merge -q --ff-only "$stash" "$tip" || {
+    [ $? -le 128 ] || undo_update
+    forget_update
+    give_up
+  }
   end_update
+  forget_update
 }
 
 # bring_missing UNITS: brings back files that are missing, read-only.
