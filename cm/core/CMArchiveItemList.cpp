@@ -13,6 +13,15 @@ bool CMArchiveItemList::remove(const CMArchiveItem* item) {
   return true;
 }
 
+void CMArchiveItemList::takeAll(CMArchiveItemList& other) {
+  if (m_items.empty()) {
+    m_items.swap(other.m_items);
+  } else {
+    m_items.insert(m_items.end(), other.m_items.begin(), other.m_items.end());
+  }
+  other.removeAll();
+}
+
 CMArchiveItemListWrapper::~CMArchiveItemListWrapper() {
   for (const CMArchiveItem* item : m_list) delete item;
 }

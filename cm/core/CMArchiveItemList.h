@@ -21,6 +21,8 @@ class VELDRA_CM_EXPORT CMArchiveItemList {
   /// Takes the first entry that is this very item out of the list. False when there is none.
   bool remove(const CMArchiveItem* item);
   void removeAll() { m_items.clear(); }
+  /// Appends the entries of another list, which is empty then.
+  void takeAll(CMArchiveItemList& other);
 
   bool empty() const { return m_items.empty(); }
   std::size_t size() const { return m_items.size(); }

@@ -79,14 +79,14 @@ int ArchiveListing::read(std::string_view output, int status, CMArchiveItemList&
   if (!m_delimiter) return status;
   if (output.size() < m_splitter.done()) startOver();
   m_splitter.finish(output, [this](std::string_view record) { readRecord(record); });
-  for (std::unique_ptr<CMArchiveItem>& item : m_items) items.addTail(item.release());
+  items.takeAll(m_items->list());
   return m_status.value_or(status);
 }
 
 void ArchiveListing::startOver() {
   m_splitter = PatternSplitter(*m_delimiter);
   m_status.reset();
-  m_items.clear();
+  m_items.emplace();
 }
 
 /// Of all model project files only the open project's own is listed.
@@ -121,7 +121,7 @@ std::string ArchiveListing::optionalField(const PropertyPattern& pattern, std::s
 
 void ArchiveListing::readRecord(std::string_view record) {
   std::string nothing;
-  if (m_startsOver.exists() && m_startsOver.extract(record, nothing).result == 1) m_items.clear();
+  if (m_startsOver.exists() && m_startsOver.extract(record, nothing).result == 1) m_items.emplace();
 
   std::string workingFile;
   const PropertyPattern::Answer file = extract(m_workingFile, record, workingFile);
@@ -141,7 +141,7 @@ void ArchiveListing::readRecord(std::string_view record) {
       std::make_unique<CMArchiveItem>(std::move(workingFile), std::move(version),
                                       ListedMode::store(listedMode(mode)), std::move(locker), "");
   const bool hasDot = baseName(item->getFileNameWithPath()).find('.') != std::string_view::npos;
-  if (hasDot || !m_ignoresNamesWithoutDot) m_items.push_back(std::move(item));
+  if (hasDot || !m_ignoresNamesWithoutDot) m_items->addTail(item.release());
 }
 
 }  // namespace veldra

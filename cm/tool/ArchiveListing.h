@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
+#include <utility>
 
 #include "cm/core/CMArchiveItem.h"
 #include "cm/core/CMArchiveItemList.h"
@@ -53,7 +53,7 @@ class ArchiveListing {
   std::optional<std::string> m_delimiter;
   PatternSplitter m_splitter;
   std::optional<int> m_status;  ///< The result of the last pattern.
-  std::vector<std::unique_ptr<CMArchiveItem>> m_items;
+  std::optional<CMArchiveItemListWrapper> m_items{std::in_place};
 };
 
 }  // namespace veldra

@@ -26,8 +26,8 @@ bool isLoaded(const IUnit& unit) {
   return (unit.getFlags() & UnitFlag::Stub) == 0;
 }
 
-/// A tool that takes a target writes there. For any other, and for providers, the call sees to it that
-/// the working file stays as it is.
+/// A tool that takes a target writes there. For any other, and for providers, the call sees to it
+/// that the working file stays as it is.
 FacadeCall fetchCall() {
   const bool usesTool = CMProperty::getUseSCCtool() == 0;
   const bool takesTarget = usesTool && fetchTakesTarget(IPN::CMFetch);
