@@ -53,30 +53,39 @@ void append(const Json& part, std::string_view lineStart, std::string& text) {
   }
 }
 
-/// A unit as the library would write it. Many thousands would take that longer than listing them.
+/// The next field of a unit in a document, up to its value.
+void appendName(std::string_view name, std::string& text) {
+  if (text.back() != '{') text += ',';
+  text.append("\n      \"").append(name).append("\": ");
+}
+
+struct TextField {
+  std::string_view name;
+  std::string UnitRecord::*value;
+};
+
+constexpr TextField TextFields[] = {
+    {"path", &UnitRecord::path},       {"name", &UnitRecord::name}, {"type", &UnitRecord::type},
+    {"version", &UnitRecord::version}, {"mode", &UnitRecord::mode}, {"locker", &UnitRecord::locker},
+};
+
+/// A unit as the library would write it, which for many thousands takes longer than to list them.
 void append(const UnitRecord& unit, std::string& text) {
-  text += "{\n      \"path\": ";
-  appendText(unit.path, text);
-  text += ",\n      \"name\": ";
-  appendText(unit.name, text);
-  text += ",\n      \"type\": ";
-  appendText(unit.type, text);
-  text += ",\n      \"version\": ";
-  appendText(unit.version, text);
-  text += ",\n      \"mode\": ";
-  appendText(unit.mode, text);
-  text += ",\n      \"locker\": ";
-  appendText(unit.locker, text);
+  text += '{';
+  for (const TextField& field : TextFields) {
+    appendName(field.name, text);
+    appendText(unit.*field.value, text);
+  }
   if (!unit.state.empty()) {
-    text += ",\n      \"state\": ";
+    appendName("state", text);
     appendText(unit.state, text);
   }
-  text += ",\n      \"result\": ";
+  appendName("result", text);
   appendText(resultWord(unit.result), text);
-  text += ",\n      \"message\": ";
+  appendName("message", text);
   appendText(unit.message, text);
   if (unit.result == UnitResult::Planned) {
-    text += ",\n      \"plan\": ";
+    appendName("plan", text);
     append(jsonOf(unit.plan), "      ", text);
   }
   text += "\n    }";
