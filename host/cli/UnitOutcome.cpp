@@ -96,6 +96,7 @@ void applyAbsence(bool wasCancelled, const std::string& reason, UnitRecord& reco
 std::string generalMessage(const DiagnosticList& diagnostics,
                            const std::vector<UnitTrace>& traces) {
   std::vector<veldra::UnitResult> results;
+  results.reserve(traces.size());
   for (const UnitTrace& trace : traces) results.push_back({trace.file, trace.end, trace.words});
   std::string message;
   for (const std::string& failure : failuresOfNoUnit(diagnostics, results)) {

@@ -15,7 +15,7 @@ constexpr int PumpMilliseconds = 15;
 
 }  // namespace
 
-WorkWatch::WorkWatch(OutputSink& sink) : m_sink(sink), m_provider([this] { waitForProvider(); }) {
+WorkWatch::WorkWatch(OutputSink& sink) : m_sink(sink) {
   m_restTimer.setSingleShot(true);
   m_restTimer.setInterval(0);
   connect(&m_restTimer, &QTimer::timeout, this, &WorkWatch::rest);

@@ -71,7 +71,7 @@ class WorkWatch : public QObject, public ChildWatch, public IProgress {
 
   OutputSink& m_sink;
   BatchResults m_results;
-  ProviderThread m_provider;
+  ProviderThread m_provider{[this] { waitForProvider(); }};
   std::chrono::milliseconds m_patience = ProviderWatch::Patience;
   QElapsedTimer m_callClock;
   QString m_entryPoint;  ///< Of the call under way.
