@@ -81,9 +81,14 @@ archive_url() {
     '') fail "No archive is set." ;;
     *://*) printf '%s\n' "$1" ;;
     *)
-      printf 'file://'
-      absolute_path "$1" |
-        sed 's/%/%25/g; s/#/%23/g; s/?/%3F/g; s/ /%20/g; s/\$/%24/g; s/(/%28/g; s/)/%29/g'
+      path=$(absolute_path "$1")
+      case $path in
+        *[%#?\ \$\(\)]*)
+          path=$(printf '%s\n' "$path" |
+            sed 's/%/%25/g; s/#/%23/g; s/?/%3F/g; s/ /%20/g; s/\$/%24/g; s/(/%28/g; s/)/%29/g')
+          ;;
+      esac
+      printf 'file://%s\n' "$path"
       ;;
   esac
 }
