@@ -33,6 +33,19 @@ CommandTemplate templateForDirectory(IUnit& unit, const CommandTemplate& forDire
   return isPackageWithDirectory(&unit) && hasValue(forDirectory) ? forDirectory : forFile;
 }
 
+std::string expandedForm(const CommandTemplate& ordinary, const char* form,
+                         ArgumentList& arguments) {
+  const std::string property = std::string(ordinary.property) + form;
+  if (!hasValue({.property = property.c_str(), .providerMetaclass = ordinary.providerMetaclass})) {
+    return {};
+  }
+  std::string command;
+  std::string extra;
+  const int expanded =
+      CMProperty::ExpandProperty(property, arguments, command, extra, ordinary.providerMetaclass);
+  return expanded == 1 ? command : std::string();
+}
+
 bool hasValue(const CommandTemplate& command) {
   std::string value;
   return CMProperty::getToolPropertyValue(command.property, value, command.providerMetaclass) &&

@@ -45,6 +45,10 @@ class UnitProgress : public UnitReport {
   void endsAsUnchanged(const std::string& file);
 };
 
+/// The command that another form of a template becomes: the property of the same name with `form`
+/// at its end. Empty when the tool has none, or it cannot be expanded.
+std::string expandedForm(const CommandTemplate& ordinary, const char* form,
+                         ArgumentList& arguments);
 /// Whether the tool has the template, and it is not empty.
 bool hasValue(const CommandTemplate& command);
 /// `forDirectory` for a package that has a directory of its own, when that template has a value;

@@ -12,8 +12,10 @@ namespace veldra {
 
 namespace {
 
+constexpr char BatchForm[] = "Batch";
+
 std::string batchProperty(const CommandTemplate& single) {
-  return std::string(single.property) + "Batch";
+  return std::string(single.property) + BatchForm;
 }
 
 /// "unitList": a file with the names of units, for as long as this lives.
@@ -83,13 +85,8 @@ UnitBatches::BatchAnswer UnitBatches::runCommand(const Group& group) {
   UnitListFile list(group.units);
   if (!list.exists()) return {};
   const PushedArgument pushed(m_arguments, list);
-  std::string command;
-  std::string extra;
-  if (CMProperty::ExpandProperty(batchProperty(group.single), m_arguments, command, extra,
-                                 group.single.providerMetaclass) != 1 ||
-      command.empty()) {
-    return {};
-  }
+  const std::string command = expandedForm(group.single, BatchForm, m_arguments);
+  if (command.empty()) return {};
   BatchAnswer answer;
   const int executed = runTraced(command, m_row, answer);
   answer.isWell = executed == 1 && !theCMToolShellInterface().lastCommandEnd().failed;

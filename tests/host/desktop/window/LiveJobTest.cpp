@@ -8,7 +8,6 @@
 #include <QDialog>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QProcess>
 #include <QStandardPaths>
 #include <QTest>
 
@@ -17,6 +16,7 @@
 #include "host/desktop/window/UnitEditor.h"
 #include "tests/host/desktop/SampleProject.h"
 #include "tests/host/desktop/ScriptedQuestions.h"
+#include "tests/host/desktop/SvnOutput.h"
 
 namespace veldra::host::desktop {
 namespace {
@@ -38,13 +38,6 @@ class LiveJobTest : public testing::Test {
     if (QStandardPaths::findExecutable("svn").isEmpty()) GTEST_SKIP() << "svn is not installed";
     m_window.show();
     ASSERT_TRUE(m_window.openProject(QString::fromStdString(m_sample.folder())));
-  }
-
-  std::string svn(const QStringList& arguments) const {
-    QProcess process;
-    process.start("svn", arguments);
-    process.waitForFinished(60000);
-    return process.readAllStandardOutput().toStdString();
   }
 
   SampleProject m_sample;

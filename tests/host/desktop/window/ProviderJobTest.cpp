@@ -7,7 +7,6 @@
 #include <QDialog>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QProcess>
 #include <QStandardPaths>
 #include <QTest>
 #include <QTreeView>
@@ -20,6 +19,7 @@
 #include "host/desktop/window/UnitEditor.h"
 #include "tests/host/desktop/SampleProject.h"
 #include "tests/host/desktop/ScriptedQuestions.h"
+#include "tests/host/desktop/SvnOutput.h"
 #include "tests/host/platform/Variable.h"
 
 namespace veldra::host::desktop {
@@ -98,13 +98,6 @@ class ProviderJobTest : public testing::Test {
     }
     return text;
   }
-  std::string svn(const QStringList& arguments) const {
-    QProcess process;
-    process.start("svn", arguments);
-    process.waitForFinished(60000);
-    return process.readAllStandardOutput().toStdString();
-  }
-
   SampleProject m_sample;
   const Variable m_user{"VELDRA_USER_REGISTRY", m_sample.beside("user.toml")};
   const Variable m_machine{"VELDRA_MACHINE_REGISTRY", m_sample.beside("machine.toml")};
