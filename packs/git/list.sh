@@ -7,13 +7,37 @@
 
 [ "${1:-}" != --here ] || exec git ls-files --stage -z
 
+# look_up REF: sets $commit to what git has noted for a reference, without starting git; empty where
+# that is not quickly seen.
+look_up() {
+  commit=
+  if [ -f ".git/$1" ]; then
+    read -r commit <".git/$1" || :
+  elif [ -f .git/packed-refs ]; then
+    lines=0
+    while [ "$((lines += 1))" -lt 50 ] && read -r commit name; do
+      [ "${name:-}" != "$1" ] || break
+      commit=
+    done <.git/packed-refs
+  fi
+  case $commit in
+    *[!0-9a-f]*) commit= ;;
+  esac
+}
+
 # begin_listing: mostly the archive holds what it held when it was asked last, so that is listed while
 # it is asked again. Sets $begun to that commit, and $branch.
 begun=
 begin_listing() {
-  answer=$(git rev-parse '@{upstream}^{commit}' --symbolic-full-name HEAD 2>/dev/null) || return 0
-  begun=${answer%%"$newline"*}
-  branch=${answer#*"$newline"}
+  head=
+  [ ! -f .git/HEAD ] || read -r head <.git/HEAD || :
+  look_up "refs/remotes/origin/${head#ref: refs/heads/}"
+  if [ -n "$commit" ]; then
+    begun=$commit branch=${head#ref: }
+  else
+    answer=$(git rev-parse '@{upstream}^{commit}' --symbolic-full-name HEAD 2>/dev/null) || return 0
+    begun=${answer%%"$newline"*} branch=${answer#*"$newline"}
+  fi
   git ls-tree -r -z "$begun" 2>/dev/null &
   lister=$!
 }

@@ -19,43 +19,111 @@ schedule() {
     --config-option "config:auto-props:*=$properties" --targets "$targets"
 }
 
-# The same lines for what an interrupted add left behind.
-scheduled_before() {
-  while read -r path; do
-    path=${path%@}
+# new_paths LINES: those of `schedule` as targets. In a list of them svn drops blanks that a line begins
+# with.
+new_paths() {
+  sed 's/^..........//; s|^[^/]|./&|; s/$/@/' "$1"
+}
+
+# left_over: the same lines for those of $targets that `svn add` has passed over because an interrupted
+# one has left them behind, and for the directories above them.
+left_over() {
+  sed 's/^..........//' "$work/added" >"$work/paths"
+  tell passed -v "$work/paths" | sed 's/^passed: //' | while IFS= read -r path; do
     while state=$(svn status --depth empty -- "$path@") && [ "${state#A}" != "$state" ]; do
       printf 'A         %s\n' "$path"
       path=${path%/*}
     done
-  done <"$targets" | sort -u
+  done | sort -u
+}
+
+# take_back: nothing stays scheduled; the files stay. What lies in a directory goes with it, and by itself
+# it would be unknown then.
+take_back() {
+  new_paths "$work/added" | awk '{
+    path = substr($0, 1, length($0) - 1)
+    for (above = path; sub("/[^/]*$", "", above);) if (above in taken) next
+    taken[path]
+    print
+  }' >"$work/tops"
+  [ ! -s "$work/tops" ] || svn revert --quiet --recursive --targets "$work/tops"
+}
+
+# give_nothing: ends without anything scheduled.
+give_nothing() {
+  take_back
+  exit 1
+}
+
+# keep_bytes: what looks like a keyword in a binary file may be anything.
+keep_bytes() {
+  grep '^A  (bin)  ' "$work/added" >"$work/binary" || return 0
+  new_paths "$work/binary" | tr '\n' '\000' |
+    xargs -0 sh "${0%/*}/svn.sh" propdel --quiet svn:keywords --
 }
 
 # add_and_commit: as `commit`; after a failure nothing is left scheduled.
 add_and_commit() {
-  schedule >"$work/added" || exit
-  [ -s "$work/added" ] || scheduled_before >"$work/added"
-  [ -s "$work/added" ] || fail "'$(sed '1s/@$//;q' "$targets")' is in the archive already."
-  sed 's/^..........//; s/$/@/' "$work/added" >"$work/new"
-  # Bytes that look like a keyword may be anything in a binary file.
-  if [ "$kind" = text ] && sed -n 's/^A  (bin)  \(.*\)/\1@/p' "$work/added" >"$work/binary" &&
-    [ -s "$work/binary" ]; then
-    svn propdel --quiet svn:keywords --targets "$work/binary" || exit
+  schedule >"$work/added" || give_nothing
+  left_over >"$work/left"
+  if [ -s "$work/left" ]; then
+    # Nobody knows with which properties, so all are added afresh.
+    cat "$work/left" >>"$work/added"
+    take_back
+    schedule >"$work/added" || give_nothing
   fi
+  [ -s "$work/added" ] || fail "'$(sed '1s/@$//;q' "$targets")' is in the archive already."
+  [ "$kind" = plain ] || keep_bytes || give_nothing
+  new_paths "$work/added" >"$work/new"
   commit "$comment" --targets "$work/new" && return
   reason=$answer
-  # The files stay.
-  svn revert --quiet --recursive --targets "$work/new"
+  take_back
   answer=$reason
   return 1
+}
+
+# take_directory PATH: makes the directory part of this working copy. It alone is taken over, its files
+# are not.
+take_directory() {
+  svn update --quiet --force --parents --depth empty -- "$1@"
+}
+
+# add_directories: the new directories alone, from a working copy of their own. A directory that svn adds
+# it reads, and it gives up when any file in there has a name that is no UTF-8.
+add_directories() {
+  apart=$work/apart
+  url=$(svn info --show-item url .) && svn checkout --quiet --depth empty -- "$url@" "$apart" || return
+  while IFS= read -r path; do
+    path=${path%@}
+    path=${path#./}
+    path=${path#"$PWD/"}
+    path=${path#"$(pwd -P)/"}
+    [ ! -d "$path" ] || printf '%s\n' "$path"
+  done <"$work/new" >"$work/directories"
+  [ -s "$work/directories" ] || return
+  while IFS= read -r path; do
+    case $path in
+      */*) svn update --quiet --parents --depth empty -- "$apart/${path%/*}@" ;;
+    esac
+    mkdir "$apart/$path" && svn add --quiet --depth empty -- "$apart/$path@" || return
+  done <"$work/directories"
+  depth=infinity
+  commit "$comment" -- "$apart@" || return
+  depth=
+  while IFS= read -r path; do take_directory "$path" || return; done <"$work/directories"
 }
 
 if ! add_and_commit; then
   case $answer in
     *E155011:* | *E160020:*)
-      # Somebody else has added the directory. It alone is taken over, its files are not.
+      # Somebody else has added the directory.
       if [ "$(wc -l <"$targets")" -gt 1 ] || [ "$(wc -l <"$work/new")" -eq 1 ]; then give_up; fi
-      directory=$(sed 's|/[^/]*$||' "$targets")
-      svn update --quiet --force --parents --depth empty -- "$directory@" || exit
+      take_directory "$(sed 's|/[^/]*$||' "$targets")" || exit
+      add_and_commit || give_up
+      ;;
+    *E000022:*)
+      reason=$answer
+      add_directories || { answer=$reason; give_up; }
       add_and_commit || give_up
       ;;
     *) give_up ;;

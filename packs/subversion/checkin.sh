@@ -8,7 +8,7 @@ read_options "$@"
 check_label
 commit "$comment" --targets "$targets" || refuse_commit
 show
-printf '%s\n' "$answer" | sed -n 's/^Sending  *//p' >"$work/sent"
+printf '%s\n' "$answer" | sed -n 's/^Sending        //p' >"$work/sent"
 tell unchanged -v "$work/sent"
 # A commit leaves the lock of what it has not sent.
 answer=
