@@ -1,18 +1,19 @@
 #include "host/platform/ContentHash.h"
 
-#include <openssl/evp.h>
+#include <sha2.h>
 
 #include <array>
+#include <cstdint>
 
 namespace veldra::host {
 
 std::string contentHash(std::string_view bytes) {
-  std::array<unsigned char, EVP_MAX_MD_SIZE> digest{};
-  unsigned size = 0;
-  if (EVP_Digest(bytes.data(), bytes.size(), digest.data(), &size, EVP_sha256(), nullptr) != 1) {
-    return {};
-  }
-  return hexDigits({digest.data(), size});
+  SHA2_CTX state;
+  SHA256Init(&state);
+  SHA256Update(&state, reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
+  std::array<std::uint8_t, SHA256_DIGEST_LENGTH> digest{};
+  SHA256Final(digest.data(), &state);
+  return hexDigits(digest);
 }
 
 }  // namespace veldra::host
