@@ -6,48 +6,37 @@
 namespace veldra {
 
 namespace {
-// Most tools say little. A flood needs few allocations; each one is a promise of the system's until
-// it is touched, so that it may be generous.
+// Most tools say little. What a listing or a flood needs is a promise of the system's until it is
+// touched, so it may be generous: to copy what has come takes longer.
 constexpr std::size_t FirstRoom = std::size_t{4} << 10;
-constexpr std::size_t LargestRoom = std::size_t{8} << 20;
-constexpr std::size_t LargestReserve = std::size_t{256} << 20;
+constexpr std::size_t ListingRoom = std::size_t{16} << 20;
+constexpr std::size_t FloodRoom = std::size_t{256} << 20;
 }  // namespace
 
-void LineList::makeRoom() {
-  if (m_text.capacity() > m_size) return;
-  m_text.resize(m_size);
-  m_text.reserve(m_size + std::clamp(3 * m_size, FirstRoom, LargestReserve));
+void LineList::makeRoom(std::size_t bytes) {
+  const std::size_t size = m_text.size();
+  if (m_text.capacity() - size >= bytes) return;
+  const std::size_t room = size == 0 ? FirstRoom : size < ListingRoom ? ListingRoom : FloodRoom;
+  m_text.reserve(size + std::max(bytes, room));
 }
 
 std::span<char> LineList::untouched() {
-  makeRoom();
+  makeRoom(1);
   return {m_text.data() + m_text.size(), m_text.capacity() - m_text.size()};
 }
 
-std::span<char> LineList::room() {
-  if (m_text.size() == m_size) {
-    makeRoom();
-    const std::size_t size = m_size + std::clamp(m_size, FirstRoom, LargestRoom);
-    m_text.resize(std::min(size, m_text.capacity()));
-  }
-  return std::span<char>(m_text).subspan(m_size);
-}
-
 void LineList::append(std::string_view bytes) {
-  m_text.resize(m_size);
+  makeRoom(bytes.size());
   m_text += bytes;
-  m_size = m_text.size();
 }
 
 void LineList::moveTo(std::string& text) {
-  m_text.resize(m_size);
   if (text.empty()) {
     text = std::move(m_text);
   } else {
     text += m_text;
   }
   m_text.clear();
-  m_size = 0;
 }
 
 }  // namespace veldra

@@ -14,7 +14,7 @@ namespace veldra {
 
 /// The lines that a child printed on one of its outputs, each with its line end, in the order
 /// printed. They stand in one text that `moveTo` can hand over as it is, so that a flood is held
-/// and copied once.
+/// once.
 class VELDRA_CM_EXPORT LineList {
  public:
   LineList() = default;
@@ -25,27 +25,22 @@ class VELDRA_CM_EXPORT LineList {
 
   /// Adds bytes as they arrive; they may begin and end anywhere in a line.
   void append(std::string_view bytes);
-  /// Space at the end, never empty, into which the next bytes can be read without a copy. `took`
-  /// says how many of them have been filled.
-  std::span<char> room();
-  void took(std::size_t count) { m_size += count; }
-  /// Memory for this room and later ones, which nobody has touched yet: a host may tell the system
-  /// how to provide it.
+  /// Memory for what comes next, which nobody has touched yet: a host may tell the system how to
+  /// provide it.
   std::span<char> untouched();
 
   /// What has come so far; valid until more comes.
-  std::string_view text() const { return std::string_view(m_text).substr(0, m_size); }
-  bool empty() const { return m_size == 0; }
+  std::string_view text() const { return m_text; }
+  bool empty() const { return m_text.empty(); }
   /// All lines together, in bytes.
-  std::size_t size() const { return m_size; }
+  std::size_t size() const { return m_text.size(); }
   /// Appends every line to `text`, with nothing between them, and is empty afterwards.
   void moveTo(std::string& text);
 
  private:
-  void makeRoom();
+  void makeRoom(std::size_t bytes);
 
-  std::string m_text;  ///< The lines, and after them room that is not filled yet.
-  std::size_t m_size = 0;
+  std::string m_text;
 };
 
 /// The closed list of ways in which a child process ends.

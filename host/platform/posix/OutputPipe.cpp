@@ -61,20 +61,21 @@ void OutputPipe::noteSize(std::size_t count) {
   m_mayGather = m_smallPieces == ManySmallPieces && count < FirstPipe / 2;
 }
 
-std::span<char> OutputPipe::roomToRead() {
-  static thread_local std::array<char, FirstPipe> forgotten;
-  if (m_forgets) return forgotten;
+void OutputPipe::keep(std::string_view bytes) {
+  m_insideLine = bytes.back() != '\n';
+  if (m_watch) m_watch->printed(bytes);
+  if (m_forgets) return;
+  m_lines.append(bytes);
   preferLargePages();
-  return m_lines.room();
 }
 
 std::size_t OutputPipe::take(short events) {
   // Nothing is left to read, and a list that stays empty needs no memory.
   if ((events & POLLIN) == 0) m_reader.reset();
+  static thread_local std::array<char, FirstPipe> buffer;
   std::size_t taken = 0;
   while (m_reader && taken < LargePipe) {
-    const std::span<char> room = roomToRead();
-    const ssize_t result = ::read(m_reader.get(), room.data(), room.size());
+    const ssize_t result = ::read(m_reader.get(), buffer.data(), buffer.size());
     if (result < 0 && errno == EINTR) continue;
     if (result < 0 && errno == EAGAIN) break;
     if (result <= 0) {
@@ -82,15 +83,13 @@ std::size_t OutputPipe::take(short events) {
       break;
     }
     const auto count = static_cast<std::size_t>(result);
-    m_insideLine = room[count - 1] != '\n';
-    if (m_watch) m_watch->printed({room.data(), count});
-    if (!m_forgets) m_lines.took(count);
+    keep({buffer.data(), count});
     taken += count;
     noteSize(count);
-    if (count >= FirstPipe && !std::exchange(m_enlarged, true)) {
+    if (count == FirstPipe && !std::exchange(m_enlarged, true)) {
       ::fcntl(m_reader.get(), F_SETPIPE_SZ, static_cast<int>(LargePipe));
     }
-    if (count < room.size()) break;
+    if (count < buffer.size()) break;
   }
   if (m_follower && taken != 0 && !m_forgets) (*m_follower)(m_lines.text());
   return taken;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstddef>
-#include <span>
+#include <string_view>
 
 #include "cm/host/RunThread.h"
 #include "host/platform/Processes.h"
@@ -45,7 +45,7 @@ class OutputPipe {
 
  private:
   void noteSize(std::size_t count);
-  std::span<char> roomToRead();
+  void keep(std::string_view bytes);
   void preferLargePages();
 
   LineList& m_lines;
