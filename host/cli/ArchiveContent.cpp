@@ -1,5 +1,6 @@
 #include "host/cli/ArchiveContent.h"
 
+#include <deque>
 #include <utility>
 
 #include "cm/core/CMFacade.h"
@@ -33,6 +34,13 @@ std::string reasonForNoRecords() {
   return {};
 }
 
+/// A list that nobody takes down: the program ends soon, and giving many thousand items back one by
+/// one would take longer than half of the printing.
+CMArchiveItemList& listForGood() {
+  static auto* const lists = new std::deque<CMArchiveItemListWrapper>;
+  return lists->emplace_back().list();
+}
+
 }  // namespace
 
 std::string whyNotListed(Session& session, std::size_t tracesBefore,
@@ -49,22 +57,22 @@ std::string whyNotListed(Session& session, std::size_t tracesBefore,
 ArchiveContent listArchive(Session& session, const std::function<void(UnitRecord&)>& take) {
   CallArguments arguments = callArguments(
       {.projectDirectory = session.project().getProjectDirectory()}, session.options().dryRun);
-  CMArchiveItemListWrapper items;
+  CMArchiveItemList& items = listForGood();
   DiagnosticList diagnostics;
   const std::vector<UnitTrace>& traces = session.progress().traces();
   const std::size_t before = traces.size();
-  const bool isListed = CMFacade::ListArchive(items.list(), arguments.list(), diagnostics) != 0;
+  const bool isListed = CMFacade::ListArchive(items, arguments.list(), diagnostics) != 0;
 
   ArchiveContent content;
   // A provider is asked without a command.
   if (isListed && CMProperty::useSccCompliantTool() != 0) {
-    describeItems(items.list(), take);
+    describeItems(items, take);
     return content;
   }
   content.failure = whyNotListed(session, before, diagnostics);
   if (traces.size() == before) return content;
   content.commands = traces.back().commands;
-  describeItems(items.list(), take);
+  describeItems(items, take);
   return content;
 }
 

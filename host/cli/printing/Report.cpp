@@ -1,6 +1,7 @@
 #include "host/cli/printing/Report.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <string_view>
 
@@ -28,67 +29,61 @@ Json jsonOf(const UnitPlan& plan) {
   return json;
 }
 
-/// Whether a text stands in a document as it is. Without a way out in the middle, because this
-/// takes several characters at once.
-bool isPlain(std::string_view bytes) {
-  bool plain = true;
-  for (const char c : bytes) plain &= (c >= ' ') & (c <= '~') & (c != '"') & (c != '\\');
+/// Which bytes stand in a document as they are.
+constexpr auto PlainBytes = [] {
+  std::array<bool, 256> plain{};
+  for (unsigned char c = ' '; c <= '~'; ++c) plain[c] = c != '"' && c != '\\';
   return plain;
-}
+}();
 
-/// What `jsonText` makes of the bytes, written out.
-void appendText(std::string_view bytes, std::string& text) {
-  if (isPlain(bytes)) {
-    text.append(1, '"').append(bytes).append(1, '"');
+/// What `jsonText` makes of the bytes, written out, without the quotes around it.
+void appendInside(std::string_view bytes, std::string& text) {
+  const auto isPlain = [](char c) { return PlainBytes[static_cast<unsigned char>(c)]; };
+  if (std::ranges::all_of(bytes, isPlain)) {
+    text += bytes;
   } else {
-    text += jsonText(std::string(bytes)).dump();
+    const std::string quoted = jsonText(std::string(bytes)).dump();
+    text.append(quoted, 1, quoted.size() - 2);
   }
 }
 
-/// A part of a document whose lines begin with `lineStart`.
-void append(const Json& part, std::string_view lineStart, std::string& text) {
-  for (const char c : part.dump(2)) {
-    text += c;
-    if (c == '\n') text += lineStart;
-  }
-}
-
-/// The next field of a unit in a document, up to its value.
-void appendName(std::string_view name, std::string& text) {
-  if (text.back() != '{') text += ',';
-  text.append("\n      \"").append(name).append("\": ");
+void appendText(std::string_view bytes, std::string& text) {
+  text += '"';
+  appendInside(bytes, text);
+  text += '"';
 }
 
 struct TextField {
-  std::string_view name;
+  std::string_view before;  ///< From the end of the value before to the beginning of this one.
   std::string UnitRecord::*value;
 };
 
 constexpr TextField TextFields[] = {
-    {"path", &UnitRecord::path},       {"name", &UnitRecord::name}, {"type", &UnitRecord::type},
-    {"version", &UnitRecord::version}, {"mode", &UnitRecord::mode}, {"locker", &UnitRecord::locker},
+    {"{\"path\": \"", &UnitRecord::path},    {"\", \"name\": \"", &UnitRecord::name},
+    {"\", \"type\": \"", &UnitRecord::type}, {"\", \"version\": \"", &UnitRecord::version},
+    {"\", \"mode\": \"", &UnitRecord::mode}, {"\", \"locker\": \"", &UnitRecord::locker},
 };
 
-/// A unit as the library would write it, which for many thousands takes longer than to list them.
+/// A unit on a line of its own. The library would take longer for many thousands than it takes to
+/// list them.
 void append(const UnitRecord& unit, std::string& text) {
-  text += '{';
   for (const TextField& field : TextFields) {
-    appendName(field.name, text);
-    appendText(unit.*field.value, text);
+    text += field.before;
+    appendInside(unit.*field.value, text);
   }
   if (!unit.state.empty()) {
-    appendName("state", text);
-    appendText(unit.state, text);
+    text += "\", \"state\": \"";
+    appendInside(unit.state, text);
   }
-  appendName("result", text);
-  appendText(resultWord(unit.result), text);
-  appendName("message", text);
-  appendText(unit.message, text);
+  text += "\", \"result\": \"";
+  text += resultWord(unit.result);
+  text += "\", \"message\": \"";
+  appendInside(unit.message, text);
+  text += '"';
   if (unit.result == UnitResult::Planned) {
-    appendName("plan", text);
-    append(jsonOf(unit.plan), "      ", text);
+    text += ", \"plan\": " + jsonOf(unit.plan).dump();
   }
-  text += "\n    }";
+  text += '}';
 }
 
 }  // namespace
