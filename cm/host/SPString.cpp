@@ -24,34 +24,40 @@ void reportPattern(int messageId, const std::string& pattern, const std::string&
   }
 }
 
-/// The compiled pattern, or null after its fault has been reported.
-const IPattern* compile(const std::string& pattern, const std::string& options) {
+}  // namespace
+
+/// Null after its fault has been reported.
+const IPattern* SPPattern::compiled() const {
+  if (m_compiled != nullptr || m_isNotValid) return m_compiled.get();
   Host* const host = installedHost();
   if (host == nullptr) return nullptr;
   std::string error;
-  const IPattern* const compiled = host->patterns().compile(pattern, options, error);
-  if (compiled == nullptr) reportPattern(MessageId::PatternNotValid, pattern, error);
-  return compiled;
+  m_compiled = host->patterns().compile(m_text, m_options, error);
+  m_isNotValid = m_compiled == nullptr;
+  if (m_isNotValid) reportPattern(MessageId::PatternNotValid, m_text, error);
+  return m_compiled.get();
 }
 
-bool matches(const IPattern& compiled, const std::string& pattern, std::string_view text,
-             std::size_t from, PatternMatch& match) {
-  const PatternEnd end = compiled.match(text, from, match);
-  if (end == PatternEnd::GivenUp) reportPattern(MessageId::PatternGivenUp, pattern, {});
-  return end == PatternEnd::Matched && !match.captures.empty();
+const SPPattern::Captures* SPPattern::find(std::string_view text, std::size_t from) const {
+  const IPattern* const pattern = compiled();
+  if (pattern == nullptr) return nullptr;
+  const PatternEnd end = pattern->match(text, from, m_match);
+  if (end == PatternEnd::GivenUp) reportPattern(MessageId::PatternGivenUp, m_text, {});
+  return end == PatternEnd::Matched && !m_match.captures.empty() ? &m_match.captures : nullptr;
 }
 
-}  // namespace
+const SPPattern::Captures* SPPattern::findSurely(std::string_view text, std::size_t& from) const {
+  const IPattern* const pattern = compiled();
+  return pattern != nullptr && pattern->matchSurely(text, from, m_match) ? &m_match.captures
+                                                                         : nullptr;
+}
 
 bool SPString::m(const std::string& pattern, const std::string& options,
                  std::vector<std::string_view>* captures) const {
-  const IPattern* const compiled = compile(pattern, options);
-  if (compiled == nullptr) return false;
-  // Kept between calls: listings match some hundred thousand times.
-  thread_local PatternMatch match;
-  if (!matches(*compiled, pattern, m_text, 0, match)) return false;
-  if (captures != nullptr) *captures = match.captures;
-  return true;
+  const SPPattern asked(pattern, options);
+  const SPPattern::Captures* const found = asked.find(m_text);
+  if (found != nullptr && captures != nullptr) *captures = *found;
+  return found != nullptr;
 }
 
 void SPString::split(const std::string& pattern,
@@ -61,37 +67,31 @@ void SPString::split(const std::string& pattern,
 
 template <class Find>
 void PatternSplitter::advance(std::string_view text, const Take& take, Find find) {
-  PatternMatch match;
-  while (m_from <= text.size() && find(match)) {
-    const auto start = static_cast<std::size_t>(match.captures[0].data() - text.data());
-    const std::size_t length = match.captures[0].size();
-    if (length == 0) {
+  while (m_from <= text.size()) {
+    const SPPattern::Captures* const found = find();
+    if (found == nullptr) break;
+    const std::string_view match = found->front();
+    const auto start = static_cast<std::size_t>(match.data() - text.data());
+    if (match.empty()) {
       // An empty match separates two characters, but makes no empty piece at either end.
       if (start >= text.size()) break;
       m_from = start + 1;
       if (start == m_pieceStart) continue;
     } else {
-      m_from = start + length;
+      m_from = start + match.size();
     }
     const std::string_view piece = text.substr(m_pieceStart, start - m_pieceStart);
-    m_pieceStart = start + length;
+    m_pieceStart = start + match.size();
     take(piece);
   }
 }
 
 void PatternSplitter::more(std::string_view text, const Take& take) {
-  const IPattern* const compiled = compile(m_pattern, "");
-  if (compiled == nullptr) return;
-  advance(text, take,
-          [&](PatternMatch& match) { return compiled->matchSurely(text, m_from, match); });
+  advance(text, take, [&] { return m_pattern.findSurely(text, m_from); });
 }
 
 void PatternSplitter::finish(std::string_view text, const Take& take) {
-  if (const IPattern* const compiled = compile(m_pattern, "")) {
-    advance(text, take, [&](PatternMatch& match) {
-      return matches(*compiled, m_pattern, text, m_from, match);
-    });
-  }
+  advance(text, take, [&] { return m_pattern.find(text, m_from); });
   if (m_pieceStart < text.size()) take(text.substr(m_pieceStart));
 }
 

@@ -41,16 +41,41 @@ class IPattern {
 class IPatternEngine {
  public:
   virtual ~IPatternEngine() = default;
-  /// The compiled pattern; the engine keeps it, so that asking again is cheap. Options: "i" ignores
-  /// case. Null, with the reason and place in `error`, when the text is no valid pattern.
-  virtual const IPattern* compile(std::string_view pattern, std::string_view options,
-                                  std::string& error) = 0;
+  /// The compiled pattern; the engine keeps it, so that asking again is cheap. Whoever asked may
+  /// keep it as long as the engine lives. Options: "i" ignores case. Null, with the reason and
+  /// place in `error`, when the text is no valid pattern.
+  virtual std::shared_ptr<const IPattern> compile(std::string_view pattern,
+                                                  std::string_view options, std::string& error) = 0;
 };
 
-/// A text with the pattern operations of the host.
+/// A pattern for one text after another; it is compiled when the first of them comes.
 ///
 /// A pattern that is not valid, or a match that was given up, matches nothing; the user is told
 /// once per pattern.
+class SPPattern {
+ public:
+  using Captures = std::vector<std::string_view>;
+  explicit SPPattern(std::string text, std::string options = {})
+      : m_text(std::move(text)), m_options(std::move(options)) {}
+
+  const std::string& text() const { return m_text; }
+  /// The first match at or after `from`: the whole of it, and the groups. Null when there is none.
+  /// Good until the pattern is asked again.
+  const Captures* find(std::string_view text, std::size_t from = 0) const;
+  /// The same as `IPattern::matchSurely`.
+  const Captures* findSurely(std::string_view text, std::size_t& from) const;
+
+ private:
+  const IPattern* compiled() const;
+
+  std::string m_text;
+  std::string m_options;
+  mutable std::shared_ptr<const IPattern> m_compiled;
+  mutable bool m_isNotValid = false;
+  mutable PatternMatch m_match;
+};
+
+/// A text with the pattern operations of the host.
 class SPString {
  public:
   explicit SPString(std::string_view text) : m_text(text) {}
@@ -72,7 +97,7 @@ class SPString {
 class PatternSplitter {
  public:
   using Take = std::function<void(std::string_view)>;
-  explicit PatternSplitter(std::string pattern) : m_pattern(std::move(pattern)) {}
+  explicit PatternSplitter(const std::string& pattern) : m_pattern(pattern) {}
 
   /// Hands on the pieces that are sure by now. Each text begins with the one before.
   void more(std::string_view text, const Take& take);
@@ -85,7 +110,7 @@ class PatternSplitter {
   template <class Find>
   void advance(std::string_view text, const Take& take, Find find);
 
-  std::string m_pattern;
+  SPPattern m_pattern;
   std::size_t m_pieceStart = 0;
   std::size_t m_from = 0;
 };

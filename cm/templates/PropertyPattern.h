@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "cm/host/SPString.h"
+
 namespace veldra {
 
 /// A search pattern held in a CM property, looked up once for any number of texts.
@@ -31,7 +33,7 @@ class PropertyPattern {
 
  private:
   std::string m_name;
-  std::optional<std::string> m_pattern;
+  std::optional<SPPattern> m_pattern;
   bool m_echoes;  ///< Debug lines are wanted; asked once, as texts come by the hundred thousand.
 };
 

@@ -2,7 +2,6 @@
 
 #include <iostream>
 #include <memory>
-#include <optional>
 #include <regex>
 #include <string>
 
@@ -23,14 +22,13 @@ using namespace veldra;
 /// bounds its effort.
 class StandardPatterns : public IPatternEngine {
  public:
-  const IPattern* compile(std::string_view pattern, std::string_view options,
-                          std::string& error) override {
+  std::shared_ptr<const IPattern> compile(std::string_view pattern, std::string_view options,
+                                          std::string& error) override {
     const bool ignoresCase = options.find('i') != std::string_view::npos;
     try {
-      m_last.emplace(
+      return std::make_shared<Pattern>(
           std::regex(std::string(pattern), ignoresCase ? std::regex::ECMAScript | std::regex::icase
                                                        : std::regex::ECMAScript));
-      return &*m_last;
     } catch (const std::regex_error& invalid) {
       error = invalid.what();
       return nullptr;
@@ -52,7 +50,6 @@ class StandardPatterns : public IPatternEngine {
     }
     std::regex m_regex;
   };
-  std::optional<Pattern> m_last;
 };
 
 /// What every host must have, and a runner for commands. The rest is left as it is: no output

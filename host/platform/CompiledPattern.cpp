@@ -32,6 +32,15 @@ constexpr auto TimePerByte = std::chrono::nanoseconds(20);
 // them.
 constexpr unsigned ItemsPerLook = 16;
 
+bool isForJit(const pcre2_code* code) {
+  std::size_t size = 0;
+  std::uint32_t options = 0;
+  pcre2_pattern_info(code, PCRE2_INFO_JITSIZE, &size);
+  pcre2_pattern_info(code, PCRE2_INFO_ALLOPTIONS, &options);
+  // A text that is no UTF-8 must not get there.
+  return size != 0 && (options & PCRE2_UTF) == 0;
+}
+
 /// No line ends there: at the end of what it sees, PCRE2 takes no line to begin, and it would see
 /// half of a CRLF.
 std::size_t endOfPart(std::string_view text, std::size_t from) {
@@ -75,7 +84,8 @@ CompiledPattern::CompiledPattern(const PatternCompiler& compiler, std::string_vi
       m_allowsParts(text.find("\\G") == std::string_view::npos &&
                     text.find("(*") == std::string_view::npos),
       m_code(std::move(code)),
-      m_data(pcre2_match_data_create_from_pattern(m_code.get(), nullptr)) {
+      m_data(pcre2_match_data_create_from_pattern(m_code.get(), nullptr)),
+      m_isForJit(isForJit(m_code.get())) {
   if (!m_data) throw std::bad_alloc();
 }
 
@@ -163,8 +173,9 @@ int CompiledPattern::searchWatched(std::string_view text, std::size_t from, Watc
 int CompiledPattern::run(const pcre2_code* code, std::uint32_t stepLimit, std::string_view text,
                          std::size_t from, std::uint32_t options) const {
   pcre2_set_match_limit(m_compiler.matchContext(), stepLimit);
-  return pcre2_match(code, reinterpret_cast<PCRE2_SPTR>(text.data()), text.size(), from, options,
-                     m_data.get(), m_compiler.matchContext());
+  const auto find = m_isForJit && code == m_code.get() ? pcre2_jit_match : pcre2_match;
+  return find(code, reinterpret_cast<PCRE2_SPTR>(text.data()), text.size(), from, options,
+              m_data.get(), m_compiler.matchContext());
 }
 
 void CompiledPattern::takeCaptures(std::string_view text, PatternMatch& match) const {

@@ -49,6 +49,7 @@ class CompiledPattern : public IPattern {
   mutable Pcre2Code m_timedCode;  ///< Made when it is first needed; most patterns never do.
   mutable unsigned m_timesGivenUp = 0;
   Pcre2MatchData m_data;
+  bool m_isForJit;  ///< Nothing of what `pcre2_match` sees to before the JIT's code is needed.
 };
 
 }  // namespace veldra::host

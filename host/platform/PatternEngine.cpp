@@ -33,7 +33,7 @@ struct KeyHash {
 
 struct Entry {
   std::string options;
-  std::unique_ptr<CompiledPattern> compiled;
+  std::shared_ptr<const CompiledPattern> compiled;
   Key key() const { return {compiled->text(), options}; }
 };
 
@@ -41,29 +41,29 @@ struct Entry {
 
 class PatternEngine::Cache {
  public:
-  const IPattern* find(const Key& key) {
+  std::shared_ptr<const IPattern> find(const Key& key) {
     // A listing asks for the same few by turns, a hundred thousand times.
     const auto recentEnd = std::next(m_entries.begin(), std::min(Recent, std::ssize(m_entries)));
     const auto recent = std::find_if(m_entries.begin(), recentEnd,
                                      [&](const Entry& entry) { return entry.key() == key; });
-    if (recent != recentEnd) return recent->compiled.get();
+    if (recent != recentEnd) return recent->compiled;
     const auto found = m_byKey.find(key);
     if (found == m_byKey.end()) return nullptr;
     m_entries.splice(m_entries.begin(), m_entries, found->second);
-    return found->second->compiled.get();
+    return found->second->compiled;
   }
 
-  const IPattern* add(const Key& key, std::string& error) {
+  std::shared_ptr<const IPattern> add(const Key& key, std::string& error) {
     std::uint32_t bits = 0;
     if (!PatternCompiler::parseOptions(key.options, bits, error)) return nullptr;
     auto code = m_compiler.compile(key.pattern, bits, error);
     if (!code) return nullptr;
     auto compiled =
-        std::make_unique<CompiledPattern>(m_compiler, key.pattern, bits, std::move(code));
+        std::make_shared<CompiledPattern>(m_compiler, key.pattern, bits, std::move(code));
     if (m_entries.size() >= MostPatterns) removeLast();
     m_entries.push_front({std::string(key.options), std::move(compiled)});
     m_byKey.emplace(m_entries.front().key(), m_entries.begin());
-    return m_entries.front().compiled.get();
+    return m_entries.front().compiled;
   }
 
  private:
@@ -80,11 +80,12 @@ class PatternEngine::Cache {
 PatternEngine::PatternEngine() : m_cache(std::make_unique<Cache>()) {}
 PatternEngine::~PatternEngine() = default;
 
-const IPattern* PatternEngine::compile(std::string_view pattern, std::string_view options,
-                                       std::string& error) {
+std::shared_ptr<const IPattern> PatternEngine::compile(std::string_view pattern,
+                                                       std::string_view options,
+                                                       std::string& error) {
   try {
     const Key key{pattern, options};
-    if (const IPattern* known = m_cache->find(key)) return known;
+    if (auto known = m_cache->find(key)) return known;
     return m_cache->add(key, error);
   } catch (const std::exception& problem) {
     error = problem.what();

@@ -16,7 +16,7 @@ namespace veldra::host {
 /// shrinks for a pattern that is given up again and again.
 ///
 /// The engine keeps the thousand patterns that were asked for last; a pattern that has not been
-/// asked for while a thousand others were is gone. For one thread at a time.
+/// asked for while a thousand others were is let go. For one thread at a time.
 class PatternEngine : public IPatternEngine {
  public:
   PatternEngine();
@@ -24,8 +24,8 @@ class PatternEngine : public IPatternEngine {
   PatternEngine(const PatternEngine&) = delete;
   PatternEngine& operator=(const PatternEngine&) = delete;
 
-  const IPattern* compile(std::string_view pattern, std::string_view options,
-                          std::string& error) override;
+  std::shared_ptr<const IPattern> compile(std::string_view pattern, std::string_view options,
+                                          std::string& error) override;
 
  private:
   class Cache;

@@ -33,7 +33,7 @@ std::optional<std::string> nameIn(std::string_view words, const KnownFailure& fa
   std::string text;
   if (!CMProperty::getToolPropertyValue(failure.property, text) || text.empty()) return {};
   std::string error;
-  const IPattern* const pattern = patterns.compile(text, "i", error);
+  const auto pattern = patterns.compile(text, "i", error);
   PatternMatch match;
   if (pattern == nullptr || pattern->match(words, 0, match) != PatternEnd::Matched) return {};
   return match.captures.size() > 1 ? std::string(match.captures[1]) : std::string();

@@ -77,7 +77,7 @@ DoctorCheck versionCheck(Session& session, const std::string& tool,
   run->errorLines().moveTo(output);
   std::string error;
   PatternMatch match;
-  const IPattern* const pattern =
+  const auto pattern =
       session.host().patterns().compile(valueOf(session, tool, "VersionPattern"), "i", error);
   const bool isFound =
       pattern != nullptr && pattern->match(output, 0, match) == PatternEnd::Matched;

@@ -13,7 +13,7 @@ class PatternEngineTest : public testing::Test {
   PatternEnd match(const std::string& pattern, std::string_view text,
                    const std::string& options = "", std::size_t from = 0) {
     std::string error;
-    const IPattern* const compiled = m_engine.compile(pattern, options, error);
+    const auto compiled = m_engine.compile(pattern, options, error);
     if (compiled == nullptr) return PatternEnd::Invalid;
     EXPECT_EQ(compiled->match(text, from, m_match), m_match.end);
     return m_match.end;
@@ -146,7 +146,7 @@ TEST_F(PatternEngineTest, longTextsAreSearchedAsOneWhole) {
 
 TEST_F(PatternEngineTest, keepsThePatternsThatWereAskedForLast) {
   std::string error;
-  const IPattern* const kept = m_engine.compile("kept", "i", error);
+  const auto kept = m_engine.compile("kept", "i", error);
   for (int i = 0; i < 5000; ++i) {
     ASSERT_NE(m_engine.compile(std::to_string(i) + "p", "", error), nullptr);
     ASSERT_EQ(m_engine.compile("kept", "i", error), kept);
