@@ -99,7 +99,8 @@ struct ReferenceHost::Parts {
   explicit Parts(const HostOptions& options)
       : root(options.installationRoot.empty() ? findInstallationRoot() : options.installationRoot),
         layers(loadedLayers(options, root, problems)),
-        catalogue(root, options.language.empty() ? userLanguage() : options.language, problems),
+        catalogue(root, options.language.empty() ? userLanguage() : options.language,
+                  [this](const Problem& problem) { tell(problem); }),
         model(layers),
         environment(root,
                     [this](const std::string& section, const std::string& name) {
@@ -128,6 +129,12 @@ struct ReferenceHost::Parts {
     if (!trace.error().empty()) {
       problems.push_back({options.traceLog, trace.error(), "No trace log is written."});
     }
+  }
+
+  /// A problem of which nobody knew when the host was made.
+  void tell(const Problem& problem) {
+    problems.push_back(problem);
+    messages.notifyUser(sentence(problem), 0);
   }
 
   std::string adviceForTrust() {

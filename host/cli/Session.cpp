@@ -74,10 +74,12 @@ Session::Session(const Invocation& invocation, WindowUse window)
       m_host(hostOptions()) {
   installHost(&m_host);
   m_door.setQuitListener([this] { m_progress.stop(); });
-  // The failures are listed with the tool's own words.
-  m_door.mute(m_host.messages().loadString(MessageId::ErrorPatternMatched));
-  // A question of which every answer is the same, about what is told unit by unit.
-  m_door.prepareAnswer(questionAfterCheckIn(m_host.messages()), MessageBox::AnswerYes);
+  m_door.setPreparation([this] {
+    // The failures are listed with the tool's own words.
+    m_door.mute(m_host.messages().loadString(MessageId::ErrorPatternMatched));
+    // A question of which every answer is the same, about what is told unit by unit.
+    m_door.prepareAnswer(questionAfterCheckIn(m_host.messages()), MessageBox::AnswerYes);
+  });
   if (!m_options.dryRun) CMFacade::saveCallbackFunc() = [this] { save(true); };
   tellProblems(m_host.problems());
 }

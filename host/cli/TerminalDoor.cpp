@@ -1,6 +1,7 @@
 #include "host/cli/TerminalDoor.h"
 
 #include <string_view>
+#include <utility>
 
 #include "cm/host/IUserMessages.h"
 #include "host/cli/printing/BytesAsText.h"
@@ -12,7 +13,12 @@ namespace {
 constexpr int ButtonBits = 0xF;
 }
 
+void TerminalDoor::prepare() {
+  if (const auto prepare = std::exchange(m_prepare, nullptr)) prepare();
+}
+
 void TerminalDoor::show(const std::string& text) {
+  prepare();
   if (!m_shown.insert(text).second) return;
   m_last = text;
   m_console.clearProgress();
@@ -24,6 +30,7 @@ void TerminalDoor::notify(const std::string& text, int /*level*/) {
 }
 
 int TerminalDoor::ask(const std::string& text, int flags) {
+  prepare();
   if (const auto prepared = m_answers.find(text); prepared != m_answers.end())
     return prepared->second;
   const int buttons = flags & ButtonBits;

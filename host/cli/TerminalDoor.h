@@ -17,6 +17,9 @@ class TerminalDoor : public UserDoor {
   /// `overwrites`: writable files are overwritten without a question.
   TerminalDoor(Console& console, bool overwrites) : m_console(console), m_overwrites(overwrites) {}
 
+  /// Called once, before the first text or question: what `mute` and `prepareAnswer` need are texts
+  /// that a command which says nothing need not read.
+  void setPreparation(std::function<void()> preparation) { m_prepare = std::move(preparation); }
   /// A text that is not shown, because the command tells the same with more detail.
   void mute(const std::string& text) { m_shown.insert(text); }
   /// A question that the command line has answered already.
@@ -31,12 +34,14 @@ class TerminalDoor : public UserDoor {
   std::string askOverwrite(const std::string& text) override;
 
  private:
+  void prepare();
   void show(const std::string& text);
   /// The first letter of the user's answer, in lower case; 'q' at the end of the input.
   char answerTo(const std::string& question, const char* choices);
 
   Console& m_console;
   bool m_overwrites;
+  std::function<void()> m_prepare;
   std::function<void()> m_quit;
   std::string m_last;
   std::unordered_set<std::string> m_shown;

@@ -24,17 +24,26 @@ bool isLanguageCode(const std::string& code) {
 
 }  // namespace
 
-MessageCatalogue::MessageCatalogue(const std::string& installationRoot, const std::string& language,
-                                   Problems& problems) {
-  add(fileOf(installationRoot, "en"), problems);
-  if (!isLanguageCode(language) || language == "en") return;
-  const std::string general = language.substr(0, language.find('_'));
-  if (general != "en") add(fileOf(installationRoot, general), problems);
-  if (general != language) add(fileOf(installationRoot, language), problems);
+const MessageCatalogue::Texts& MessageCatalogue::texts() const {
+  Problems problems;
+  std::call_once(m_isRead, [&] { problems = read(); });
+  // Only now, because whoever is told may ask for a text.
+  for (const Problem& problem : problems) m_report(problem);
+  return m_texts;
 }
 
-void MessageCatalogue::add(const std::string& file, Problems& problems) {
-  for (auto& [place, value] : readTomlSettings(file, problems).settings) {
+Problems MessageCatalogue::read() const {
+  Problems problems;
+  add("en", problems);
+  if (!isLanguageCode(m_language) || m_language == "en") return problems;
+  const std::string general = m_language.substr(0, m_language.find('_'));
+  if (general != "en") add(general, problems);
+  if (general != m_language) add(m_language, problems);
+  return problems;
+}
+
+void MessageCatalogue::add(const std::string& language, Problems& problems) const {
+  for (auto& [place, value] : readTomlSettings(fileOf(m_root, language), problems).settings) {
     const auto& [section, name] = place;
     int id = 0;
     const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), id);
@@ -45,7 +54,7 @@ void MessageCatalogue::add(const std::string& file, Problems& problems) {
 }
 
 std::string MessageCatalogue::text(int id) const {
-  const auto found = m_texts.find(id);
+  const auto found = texts().find(id);
   return found == m_texts.end() ? std::string() : found->second;
 }
 

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <functional>
+#include <mutex>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "host/model/Problem.h"
@@ -12,22 +15,33 @@ namespace veldra::host {
 /// installation root. What a language lacks is shown in English.
 class MessageCatalogue {
  public:
-  MessageCatalogue() = default;
+  using Report = std::function<void(const Problem&)>;
+
   /// `language` is a code such as "en" or "de_DE"; of the latter, "de" is used when there is no
-  /// file of the full code. Files that are not valid are reported in `problems` and skipped.
-  MessageCatalogue(const std::string& installationRoot, const std::string& language,
-                   Problems& problems);
+  /// file of the full code. The files are read when the first text is asked for: many a command
+  /// shows none. Those that are not valid are reported then, and skipped.
+  MessageCatalogue(std::string installationRoot, std::string language, Report report)
+      : m_root(std::move(installationRoot)),
+        m_language(std::move(language)),
+        m_report(std::move(report)) {}
 
   /// The text with its placeholders %1, %2, ...; empty for an unknown number.
   std::string text(int id) const;
   /// The same with the values in place of the placeholders.
   std::string format(int id, const std::vector<std::string>& values) const;
-  std::size_t size() const { return m_texts.size(); }
+  std::size_t size() const { return texts().size(); }
 
  private:
-  void add(const std::string& file, Problems& problems);
+  using Texts = std::unordered_map<int, std::string>;
+  const Texts& texts() const;
+  Problems read() const;
+  void add(const std::string& language, Problems& problems) const;
 
-  std::unordered_map<int, std::string> m_texts;
+  std::string m_root;
+  std::string m_language;
+  Report m_report;
+  mutable std::once_flag m_isRead;
+  mutable Texts m_texts;
 };
 
 /// The language of the process: LC_ALL, LC_MESSAGES or LANG without its encoding; "en" for none.
