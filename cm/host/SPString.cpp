@@ -38,18 +38,21 @@ const IPattern* SPPattern::compiled() const {
   return m_compiled.get();
 }
 
+const SPPattern::Captures* SPPattern::foundIf(bool matched) const {
+  return matched && !m_match.captures.empty() ? &m_match.captures : nullptr;
+}
+
 const SPPattern::Captures* SPPattern::find(std::string_view text, std::size_t from) const {
   const IPattern* const pattern = compiled();
   if (pattern == nullptr) return nullptr;
   const PatternEnd end = pattern->match(text, from, m_match);
   if (end == PatternEnd::GivenUp) reportPattern(MessageId::PatternGivenUp, m_text, {});
-  return end == PatternEnd::Matched && !m_match.captures.empty() ? &m_match.captures : nullptr;
+  return foundIf(end == PatternEnd::Matched);
 }
 
 const SPPattern::Captures* SPPattern::findSurely(std::string_view text, std::size_t& from) const {
   const IPattern* const pattern = compiled();
-  return pattern != nullptr && pattern->matchSurely(text, from, m_match) ? &m_match.captures
-                                                                         : nullptr;
+  return foundIf(pattern != nullptr && pattern->matchSurely(text, from, m_match));
 }
 
 bool SPString::m(const std::string& pattern, const std::string& options,

@@ -62,11 +62,12 @@ class SPPattern {
   /// The first match at or after `from`: the whole of it, and the groups. Null when there is none.
   /// Good until the pattern is asked again.
   const Captures* find(std::string_view text, std::size_t from = 0) const;
-  /// The same as `IPattern::matchSurely`.
+  /// In a text that is still growing, as `IPattern::matchSurely` finds it.
   const Captures* findSurely(std::string_view text, std::size_t& from) const;
 
  private:
   const IPattern* compiled() const;
+  const Captures* foundIf(bool matched) const;
 
   std::string m_text;
   std::string m_options;
