@@ -78,7 +78,7 @@ std::span<const OptionRow> optionTable() {
       {Doctor, "--tool", "TOOL", "The tool pack to look at; otherwise that of the project",
        &Options::tool},
 
-      {Manual, "action", "man|bash|zsh|units", "What to print", &Options::action, true},
+      {Manual, "action", "man|bash|zsh|units|names", "What to print", &Options::action, true},
 
       {Trust, "--list", "", "Show the commands and do nothing", &Options::list},
       {Trust, "--yes", "", "Trust them without a question", &Options::yes},

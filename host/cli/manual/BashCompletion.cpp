@@ -36,11 +36,43 @@ std::string unitCommands() {
   return names;
 }
 
+constexpr char Names[] = R"sh(
+# The units of the project, a line each: what goes on from $1, without $2. Not by compgen -W, which
+# would run what stands in a name.
+_veldra_cm_units() {
+  local from=${1//\\/} before=${2//\\/} what=units unit
+  [[ $1 != *::* ]] || what=names
+  shift 2
+  from=${from#[\"\']} before=${before#[\"\']}
+  while IFS= read -r unit; do
+    [[ $unit != "$from"* ]] || printf '%s\n' "${unit#"$before"}"
+  done < <("$@" manual $what 2>/dev/null)
+}
+)sh";
+
+constexpr char Completion[] = R"sh(
+  # Colons part words, and readline begins anew behind them; the name of a unit goes on.
+  local from=$current left= at=$COMP_CWORD line=${COMP_LINE:0:COMP_POINT}
+  [[ $current == *[!:]* ]] || left=$current
+  while ((--at > 0)) && [[ $from == :* || ${COMP_WORDS[at]} == *: ]] &&
+    [[ $line == *"${COMP_WORDS[at]}$from" ]]; do
+    from=${COMP_WORDS[at]}$from left=${COMP_WORDS[at]}$left
+  done
+  # A name with a dollar sign or a backquote might get into the line as a command.
+  mapfile -t COMPREPLY < <({
+    compgen -W "$words" -- "$current"
+    [[ -z $command ]] || compgen -f -- "$current"
+    [[ -z $units ]] || _veldra_cm_units "$from" "$left" "${COMP_WORDS[0]}" "${project[@]}"
+  } | grep -v '[$`]' | sort -u)
+}
+complete -o filenames -F _veldra_cm veldra-cm
+)sh";
+
 }  // namespace
 
 std::string bashCompletion() {
   std::string script =
-      "# Completes veldra-cm in bash.\n"
+      std::string("# Completes veldra-cm in bash.\n") + Names +
       "_veldra_cm() {\n"
       "  local current=${COMP_WORDS[COMP_CWORD]} command= words word before= units=\n"
       "  local -a project=()\n"
@@ -60,17 +92,8 @@ std::string bashCompletion() {
     if (!words.empty())
       script += std::string("    ") + command.name + ") words+=' " + words + "' ;;\n";
   }
-  return script +
-         "  esac\n"
-         "  case $command in\n    " +
-         unitCommands() +
-         ")\n      units=$(\"${COMP_WORDS[0]}\" \"${project[@]}\" manual units 2>/dev/null) ;;\n"
-         "  esac\n"
-         "  mapfile -t COMPREPLY < <(compgen -W \"$words\" -- \"$current\"\n"
-         "    [[ -z $command ]] || { compgen -f -- \"$current\"\n"
-         "      IFS=$'\\n' compgen -W \"$units\" -- \"${current//\\\\/}\"; } | sort -u)\n"
-         "}\n"
-         "complete -o filenames -F _veldra_cm veldra-cm\n";
+  return script + "  esac\n  case $command in\n    " + unitCommands() + ") units=yes ;;\n  esac" +
+         Completion;
 }
 
 }  // namespace veldra::host::cli

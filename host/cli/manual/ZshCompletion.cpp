@@ -48,8 +48,9 @@ std::string specifications(unsigned sets, const std::string& indent) {
 
 std::string zshCompletion() {
   std::string script =
-      "#compdef veldra-cm\n\n_veldra-cm-units() {\n  local -a units\n"
-      "  units=(${(f)\"$(_call_program units veldra-cm manual units 2>/dev/null)\"})\n"
+      "#compdef veldra-cm\n\n_veldra-cm-units() {\n  local -a units\n  local what=units\n"
+      "  [[ $PREFIX != *::* ]] || what=names\n"
+      "  units=(${(f)\"$(_call_program units veldra-cm manual $what 2>/dev/null)\"})\n"
       "  compadd -a units\n  _files\n}\n\n_veldra-cm() {\n  local curcontext=$curcontext state "
       "line\n  local -a commands\n  commands=(\n";
   for (const Command& command : commandTable()) {
