@@ -35,15 +35,17 @@ check_label() {
     fail "The label '$label' exists already, for an older state. Choose another one."
 }
 
-# commit UNITS COMMENTFILE: commits exactly these files, with the comment byte for byte.
+# commit UNITS COMMENTFILE: commits exactly these files, with the comment byte for byte; with '' for UNITS
+# what the index holds.
 commit() {
-  units=$1
+  named=$1
   # git takes no zero bytes in comments.
   tr -d '\000' <"${2:-/dev/null}" | {
     message=$(scratch)
     trap 'rm -f "$message"' EXIT
     cat >"$message"
-    on "$units" commit -q --only --allow-empty-message --cleanup=verbatim --file="$message" 2>&1
+    set -- commit -q --allow-empty-message --cleanup=verbatim --file="$message"
+    if [ -n "$named" ]; then on "$named" "$@" --only; else git "$@"; fi 2>&1
   }
 }
 

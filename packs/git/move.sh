@@ -20,6 +20,22 @@ both() {
   printf '@%s\n' "$work/both"
 }
 
+# commit_move: as `commit`. Git follows a file by its content, so one that has changed, too, takes its
+# new place in a commit of its own first; in an index of its own, because the file stays as it is.
+commit_move() {
+  changed=$(git diff --name-only -- "$new_file")
+  [ -n "$changed" ] || {
+    commit "$(both)" "$comment"
+    return
+  }
+  git ls-files -s -z --full-name -- "$new_place" >"$work/moved"
+  (
+    export GIT_INDEX_FILE="$work/index"
+    git read-tree HEAD && git rm -q -r --cached -- "$old_place" &&
+      git update-index -z --index-info <"$work/moved" && commit '' "$comment"
+  ) && commit "$new_file" "$comment"
+}
+
 # move_locks: what else is checked out in a directory stays so.
 move_locks() {
   has_locks || return 0
@@ -37,7 +53,7 @@ in_archive "$old_place"
 check_move
 refuse_locked "$old_place"
 move_there || give_up
-if run commit "$(both)" "$comment" && tag_and_push; then
+if run commit_move && tag_and_push; then
   chmod a-w -- "$new_file"
   move_locks
   exit
