@@ -78,18 +78,23 @@ void chooseArchiveOf(const IUnit* unit) {
   CMArchive::setMainArchive(archive);
 }
 
-std::unordered_set<std::string_view> ToolAnswer::marked(std::string_view mark) const {
-  std::unordered_set<std::string_view> files;
+std::vector<std::string_view> ToolAnswer::marked(std::string_view mark) const {
+  std::vector<std::string_view> rests;
   for (const std::string_view text :
        {std::string_view(output), std::string_view(errorText), std::string_view(setAside)}) {
     for (std::size_t from = 0; from < text.size();) {
       const std::size_t end = std::min(text.find('\n', from), text.size());
       const std::string_view line = text.substr(from, end - from);
-      if (line.starts_with(mark)) files.insert(line.substr(mark.size()));
+      if (line.starts_with(mark)) rests.push_back(line.substr(mark.size()));
       from = end + 1;
     }
   }
-  return files;
+  return rests;
+}
+
+std::unordered_set<std::string_view> ToolAnswer::files(std::string_view mark) const {
+  const std::vector<std::string_view> names = marked(mark);
+  return {names.begin(), names.end()};
 }
 
 int runTraced(const std::string& command, const char* traceBefore, const char* traceAfter,

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_set>
+#include <vector>
 
 #include "cm/core/CMDiagnostic.h"
 #include "cm/core/CMOperation.h"
@@ -71,6 +72,8 @@ void chooseArchiveOf(const IUnit* unit);
 /// What begins a line about a unit in the answer of a command.
 inline constexpr std::string_view DoneMark = "done: ";
 inline constexpr std::string_view UnchangedMark = "unchanged: ";
+/// What begins a line that the user is to read although the command was well.
+inline constexpr std::string_view NoteMark = "note: ";
 
 /// All that a command has printed: the two texts of `Execute`, and the output that error lines took
 /// the place of.
@@ -80,7 +83,9 @@ struct ToolAnswer {
   std::string setAside{};
 
   /// The rest of each line that begins with a mark, on whichever output.
-  std::unordered_set<std::string_view> marked(std::string_view mark) const;
+  std::vector<std::string_view> marked(std::string_view mark) const;
+  /// The same where they are names of files.
+  std::unordered_set<std::string_view> files(std::string_view mark) const;
 };
 
 /// Runs an expanded command between its two trace lines; the result of `Execute`.

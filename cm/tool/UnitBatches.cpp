@@ -95,8 +95,8 @@ UnitBatches::BatchAnswer UnitBatches::runCommand(const Group& group) {
 
 void UnitBatches::runGroup(const Group& group, Preparations preparations) {
   const BatchAnswer answer = runCommand(group);
-  const auto done = answer.marked(DoneMark);
-  const auto unchanged = answer.marked(UnchangedMark);
+  const auto done = answer.files(DoneMark);
+  const auto unchanged = answer.files(UnchangedMark);
   for (const IUnit* unit : group.units) {
     const std::string file = unit->getFullFileName();
     if (!answer.isWell && !done.contains(file)) continue;

@@ -153,6 +153,18 @@ void UnitCommand::runUnit(UnitRun& run, const UnitCallFrame& call, UnitProgress&
   if (run.reloadFailed) progress.endsAs(UnitEnd::NotReloaded, run.errorText);
 }
 
+void UnitCommand::tellRemark(const ToolAnswer& answer, const std::string& file,
+                             UnitProgress& progress) const {
+  if (row().tellsUnchanged && answer.files(UnchangedMark).contains(file)) {
+    return progress.endsAsUnchanged(file);
+  }
+  std::string notes;
+  for (const std::string_view note : answer.marked(NoteMark)) {
+    notes.append(notes.empty() ? "" : "\n").append(note);
+  }
+  if (!notes.empty()) progress.endsAs(UnitEnd::Done, notes);
+}
+
 int UnitCommand::runCommand(UnitRun& run, const UnitCallFrame& call, UnitProgress& progress) const {
   CMUnit argument(run.unit);
   const PushedArgument pushed(call.arguments, argument);
@@ -170,13 +182,11 @@ int UnitCommand::runCommand(UnitRun& run, const UnitCallFrame& call, UnitProgres
                                                    single.providerMetaclass);
     if (expanded == 1) status = runTraced(command, row(), answer);
   }
-  const bool isUnchanged = status == 1 && row().tellsUnchanged &&
-                           answer.marked(UnchangedMark).contains(run.unit->getFullFileName());
-  run.errorText = std::move(answer.errorText);
   progress.endsByCommand(expanded, status);
-  if (isUnchanged && !theCMToolShellInterface().lastCommandEnd().failed) {
-    progress.endsAsUnchanged(run.unit->getFullFileName());
+  if (status == 1 && !theCMToolShellInterface().lastCommandEnd().failed) {
+    tellRemark(answer, run.unit->getFullFileName(), progress);
   }
+  run.errorText = std::move(answer.errorText);
   return status;
 }
 

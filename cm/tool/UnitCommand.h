@@ -76,6 +76,8 @@ class UnitCommand : public CMWorkspaceOperation {
   UnitPreparation prepare(IUnit& unit) const;
   int runAll(UnitList& units, const UnitCallFrame& call, DiagnosticList& diagnostics) const;
   void runUnit(UnitRun& run, const UnitCallFrame& call, UnitProgress& progress) const;
+  /// What the user is to read although the command was well.
+  void tellRemark(const ToolAnswer& answer, const std::string& file, UnitProgress& progress) const;
   int runCommand(UnitRun& run, const UnitCallFrame& call, UnitProgress& progress) const;
 };
 

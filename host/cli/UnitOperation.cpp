@@ -324,7 +324,8 @@ ExitCode runUnitOperation(const Invocation& invocation, const UnitOperation& ope
     return ExitCode::AllDone;
   }
   const ExitCode code = wasInterrupted() ? ExitCode::Interrupted : exitCodeOf(report.units);
-  keepComment(session, comment, code == ExitCode::AllDone && isCommentUsed(report.units));
+  const bool isUsed = operation.plan != nullptr || isCommentUsed(report.units);
+  keepComment(session, comment, code == ExitCode::AllDone && isUsed);
   return code;
 }
 

@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cstdlib>
+#include <initializer_list>
 
 #include "host/model/PathNames.h"
 #include "host/model/TomlSettings.h"
@@ -75,15 +76,28 @@ std::string MessageCatalogue::format(int id, const std::vector<std::string>& val
   return out;
 }
 
-std::string userLanguage() {
-  for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-    const char* value = std::getenv(name);
-    if (!value || !*value) continue;
-    const std::string language(value);
-    const std::string code = language.substr(0, language.find_first_of(".@"));
-    return code == "C" || code == "POSIX" ? "en" : code;
+namespace {
+/// The first of the variables that is set and not empty.
+std::string firstSet(std::initializer_list<const char*> variables) {
+  for (const char* name : variables) {
+    const char* const value = std::getenv(name);
+    if (value && *value) return value;
   }
-  return "en";
+  return {};
+}
+}  // namespace
+
+std::string userLanguage() {
+  const std::string locale = firstSet({"LC_ALL", "LC_MESSAGES", "LANG"});
+  const std::string code = locale.substr(0, locale.find_first_of(".@"));
+  return code.empty() || code == "C" || code == "POSIX" ? "en" : code;
+}
+
+std::string userEncoding() {
+  const std::string locale = firstSet({"LC_ALL", "LC_CTYPE", "LANG"});
+  const std::size_t dot = locale.find('.');
+  if (dot == std::string::npos) return {};
+  return locale.substr(dot + 1, locale.find('@', dot) - dot - 1);
 }
 
 }  // namespace veldra::host

@@ -46,5 +46,8 @@ class MessageCatalogue {
 
 /// The language of the process: LC_ALL, LC_MESSAGES or LANG without its encoding; "en" for none.
 std::string userLanguage();
+/// The encoding of the process: what stands behind the language in LC_ALL, LC_CTYPE or LANG; empty
+/// for none.
+std::string userEncoding();
 
 }  // namespace veldra::host

@@ -26,11 +26,6 @@ give_leftovers() {
   }
 }
 
-# is_out: of the paths on the input, a line a path, those of writable files.
-is_out() {
-  tr '\n' '\000' | writable | tr '\000' '\n' | sed 's|^\./||'
-}
-
 open_folder "$units"
 in_archive "$units"
 check_label "$units"

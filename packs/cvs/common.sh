@@ -76,6 +76,11 @@ in_archive() {
   done
 }
 
+# is_out: of the paths on the input, a line a path, those of writable files.
+is_out() {
+  tr '\n' '\000' | writable | tr '\000' '\n' | sed 's|^\./||'
+}
+
 # make_folder DIRECTORY: gives a directory that exists in the archive its place here, without bringing
 # any file of it, as cvs has no command for that. Records of one that does not exist would be in the way
 # of its being added.

@@ -8,9 +8,10 @@ units=$1
 shift
 read_options "$@"
 open_folder "$units"
+folder=
 if [ -d "$units" ]; then
-  relative "$units" >"$work/folder"
-  controlled "./$(cat "$work/folder")" | sed "s|^\./|$PWD/|" >"$work/files"
+  folder=$(relative "$units")
+  controlled "./$folder" | sed "s|^\./|$PWD/|" >"$work/files"
   units=@$work/files
 fi
 in_archive "$units"
@@ -20,6 +21,7 @@ check it in, undo them, or fetch first."
 refuse_edited "$units"
 run on "$units" remove -f -- || give_up
 if commit "$units" "$comment"; then
+  [ -z "$folder" ] || drop_empty "./$folder"
   show
   exit
 fi

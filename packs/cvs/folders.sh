@@ -26,3 +26,8 @@ controlled() {
     done
   done
 }
+
+# drop_empty DIRECTORY: the records of one without files are of no use.
+drop_empty() {
+  [ -n "$(find "$1" -type f ! -path '*/CVS/*')" ] || rm -rf -- "$1"
+}

@@ -1,7 +1,7 @@
 # move.sh OLD NEW OLDFILE NEWFILE [COMMENTFILE]: gives a file, or a directory with all below it, another
 # place. CVS cannot follow: the files are removed and added anew in one go. For a directory OLDFILE
 # lies in it, and becomes NEWFILE in the new one. Changes of that file are checked in with the move;
-# other changed files are refused.
+# other changed files are refused. What else is checked out stays so.
 . "${0%/*}/common.sh"
 . "${0%/*}/commit.sh"
 . "${0%/*}/folders.sh"
@@ -39,14 +39,21 @@ put_back() {
   done
 }
 
-# take_along: what cvs does not know; the records of an empty directory are of no use.
+# take_along: what cvs does not know.
 take_along() {
   find "$old" -type f ! -path '*/CVS/*' | while read -r file; do
     place=$(new_place "$file")
     mkdir -p -- "$(dirname -- "$place")"
     [ -e "$place" ] || mv -- "$file" "$place"
   done
-  [ -n "$(find "$old" -type f ! -path '*/CVS/*')" ] || rm -rf -- "$old"
+  drop_empty "$old"
+}
+
+# keep_out: what else is checked out in a directory stays so.
+keep_out() {
+  [ -s "$work/out" ] || return 0
+  while read -r file; do new_place "$file"; done <"$work/out" | sed "s|^|$PWD/|" >"$work/taken"
+  (take "@$work/taken") || :
 }
 
 open_folder
@@ -63,6 +70,7 @@ other=$(state_of "@$work/units" | grep -v -x -F -e "M $old_file" | sed -n '1s/^.
 check it in, undo them, or fetch first."
 refuse_edited "@$work/units"
 
+is_out <"$work/old" | grep -v -x -F -e "$old_file" >"$work/out" || :
 mkdir "$work/records"
 find "$old" "$(dirname -- "$old")" -path '*CVS/Entries*' -exec sh -c '
   for record do mkdir -p "$0/${record%/*}" && cp -p -- "$record" "$0/$record"; done
@@ -82,7 +90,8 @@ if run on "@$work/units" remove -- &&
   sed "s|^|$PWD/|" "$work/text" "$work/plain" >>"$work/units" && commit "@$work/units" "$comment"; then
   [ ! -d "$old" ] || take_along
   show
-  echo "CVS cannot follow a file to another place: its history stays with the former name."
+  keep_out
+  echo "note: CVS cannot follow a file to another place: its history stays with the former name."
   exit
 fi
 reason=$answer

@@ -26,7 +26,7 @@ find_archive() {
     */./*)
       root=${1%%/./*}
       place=$root/${1#*/./}
-      [ -d "$root" ] || fail "The archive '$root' is not a directory; connect to it first."
+      [ -d "$root" ] || fail "The archive '$root' is not a directory."
       ;;
   esac
 }

@@ -86,7 +86,7 @@ TEST_P(FailureAdviceTest, AnArchiveThatIsGone) {
   m_sandbox.write("model/" + m_other, m_sandbox.read("model/" + m_other) + "\n");
   std::filesystem::rename(m_sandbox.path("archive"), m_sandbox.path("away"));
   expectAdvice({"ls"},
-               std::string(GetParam()) == "RCS" ? "veldra-cm connect" : "archive's address");
+               "archive's address");
   for (const std::vector<std::string>& command :
        {std::vector<std::string>{"checkin", m_unit, m_other, "-m", "lost"},
         {"add", "Product/Product.vpkg", "Control/Control.vpkg"},

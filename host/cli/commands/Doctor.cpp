@@ -2,6 +2,7 @@
 #include <optional>
 
 #include "cm/host/IPN.h"
+#include "cm/templates/CMProperty.h"
 #include "host/cli/Packs.h"
 #include "host/cli/doctor/Checks.h"
 #include "host/cli/printing/BytesAsText.h"
@@ -12,6 +13,11 @@ namespace veldra::host::cli {
 namespace {
 
 using Json = nlohmann::ordered_json;
+
+/// Whether the project's provider is meant.
+bool isAboutProvider(Session& session, bool hasProject) {
+  return hasProject && !session.options().tool && CMProperty::useSccCompliantTool() != 0;
+}
 
 /// The tool that is meant: the one named, else the project's.
 std::string toolOf(Session& session) {
@@ -50,6 +56,11 @@ void print(const Invocation& invocation, const std::string& tool, const DoctorCh
   }
 }
 
+ExitCode exitCodeOf(const DoctorChecks& checks) {
+  const bool isFine = std::ranges::all_of(checks, &DoctorCheck::isFine);
+  return isFine ? ExitCode::AllDone : ExitCode::SomeFailed;
+}
+
 }  // namespace
 
 ExitCode runDoctor(const Invocation& invocation) {
@@ -59,6 +70,11 @@ ExitCode runDoctor(const Invocation& invocation) {
   {
     Session session(invocation);
     const bool hasProject = session.openProjectIfAny();
+    if (isAboutProvider(session, hasProject)) {
+      checks = checkProvider(session);
+      print(invocation, checks.front().finding, checks);
+      return exitCodeOf(checks);
+    }
     tool = toolOf(session);
     tempDirectory = session.host().environment().omGetTempDir();
     checks = checkTool(session, tool);
@@ -74,8 +90,7 @@ ExitCode runDoctor(const Invocation& invocation) {
     checks.insert(checks.end(), more.begin(), more.end());
   }
   print(invocation, tool, checks);
-  const bool isFine = std::ranges::all_of(checks, &DoctorCheck::isFine);
-  return isFine ? ExitCode::AllDone : ExitCode::SomeFailed;
+  return exitCodeOf(checks);
 }
 
 }  // namespace veldra::host::cli

@@ -17,11 +17,21 @@ struct DoctorCheck {
 
 using DoctorChecks = std::vector<DoctorCheck>;
 
+/// A check that found a failure, told in the words of a command. Their last line may say what to
+/// do; `otherwise` does when it does not.
+DoctorCheck failedCheck(std::string name, const std::string& words, const char* otherwise);
+
 /// The tool itself: its pack, its program and version, language, lock policy.
 DoctorChecks checkTool(Session& session, const std::string& tool);
 
 /// What the open project says of its archive, and what may be done there.
 DoctorChecks checkProject(Session& session);
+
+/// The provider that the open project works with: its library, and the archive behind it.
+DoctorChecks checkProvider(Session& session);
+
+/// Why nothing may be started for the open project now; empty when it may, or none is open.
+std::string whyNothingIsStarted(Session& session);
 
 /// Takes a unit through the whole job, with a project and an archive made for that and removed
 /// again. The steps are commands of this very program, so no session may be open.

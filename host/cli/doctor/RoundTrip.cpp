@@ -4,10 +4,8 @@
 #include <sstream>
 #include <system_error>
 
-#include "cm/ui/logic/BatchResults.h"
 #include "host/cli/CommandLineProgram.h"
 #include "host/cli/doctor/Checks.h"
-#include "host/cli/printing/BytesAsText.h"
 #include "host/model/PathNames.h"
 #include "host/platform/Program.h"
 #include "host/platform/RemoveTree.h"
@@ -60,14 +58,6 @@ struct Step {
   std::function<bool()> holds;
 };
 
-/// The line of a command's messages that says what to do.
-std::string adviceIn(const std::string& messages) {
-  constexpr std::string_view Mark = "advice:";
-  const std::size_t at = messages.find(Mark);
-  if (at == std::string::npos) return "See to what the tool says; -v shows all of it.";
-  return firstLines(messages.substr(at + Mark.size()), 1);
-}
-
 DoctorCheck perform(const Step& step) {
   std::istringstream in;
   std::ostringstream out;
@@ -75,10 +65,7 @@ DoctorCheck perform(const Step& step) {
   Console console{.in = in, .out = out, .err = err};
   const ExitCode code = runProgram(step.arguments, console);
   if (code != ExitCode::AllDone) {
-    return {.name = step.name,
-            .isFine = false,
-            .finding = firstLines(err.str(), 8),
-            .advice = adviceIn(err.str())};
+    return failedCheck(step.name, err.str(), "See to what the tool says; -v shows all of it.");
   }
   if (step.holds && !step.holds()) {
     return {.name = step.name,

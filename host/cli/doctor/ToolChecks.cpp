@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 #include "cm/core/CMArchive.h"
 #include "cm/host/IPN.h"
@@ -18,6 +20,8 @@
 #include "host/resources/MessageCatalogue.h"
 
 namespace veldra::host::cli {
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -68,6 +72,8 @@ DoctorCheck programCheck(const std::string& program) {
 
 DoctorCheck versionCheck(Session& session, const std::string& tool,
                          const std::vector<std::string>& words) {
+  const std::string reason = whyNothingIsStarted(session);
+  if (!reason.empty()) return {.name = "version", .finding = reason};
   const std::unique_ptr<RunThread> run =
       session.host().processes()->createRunThread(joinCommandLine(words));
   constexpr std::uint32_t Patience = 30'000;
@@ -91,6 +97,19 @@ DoctorCheck versionCheck(Session& session, const std::string& tool,
           .advice = "Run \"" + joinCommandLine(words) + "\" by hand and see to what it says."};
 }
 
+DoctorCheck archiveCheck(Session& session, const std::string& archive) {
+  const std::string place = withoutSecrets(archive);
+  const std::string reason = whyNothingIsStarted(session);
+  if (!reason.empty()) return {.name = "archive", .finding = place + ", " + reason};
+  const ArchiveContent content = listArchive(session);
+  if (!content.failure.empty()) {
+    return failedCheck("archive", place + "\n" + content.failure,
+                       "See to what the tool says, then try \"veldra-cm ls\".");
+  }
+  return {.name = "archive",
+          .finding = place + ", " + std::to_string(content.files.size()) + " files"};
+}
+
 }  // namespace
 
 DoctorChecks checkTool(Session& session, const std::string& tool) {
@@ -109,6 +128,10 @@ DoctorChecks checkTool(Session& session, const std::string& tool) {
   checks.push_back({.name = "language",
                     .finding = "messages in " + userLanguage() +
                                "; the tool's own words are asked for in English"});
+  const std::string encoding = userEncoding();
+  checks.push_back({.name = "encoding",
+                    .finding = (encoding.empty() ? "not set" : encoding) +
+                               "; names and comments beyond ASCII are tried in the round trip"});
   const std::string policy = valueOf(session, tool, "LockPolicy");
   checks.push_back({.name = "locks", .finding = policy.empty() ? "not said by the pack" : policy});
   return checks;
@@ -136,16 +159,9 @@ DoctorChecks checkProject(Session& session) {
                       .advice = "Give \"veldra-cm connect --archive WHERE\"."});
     return checks;
   }
-  const ArchiveContent content = listArchive(session);
-  checks.push_back({.name = "archive", .finding = withoutSecrets(archive)});
-  if (!content.failure.empty()) {
-    checks.back().isFine = false;
-    checks.back().finding += "\n" + content.failure;
-    checks.back().advice = "See to what the tool says, then try \"veldra-cm ls\".";
-  } else {
-    checks.back().finding += ", " + std::to_string(content.files.size()) + " files";
-  }
-  if (isLocalPlace(archive) && fs::path(archive).is_absolute() && !canWriteInto(archive)) {
+  checks.push_back(archiveCheck(session, archive));
+  std::error_code unknown;
+  if (isLocalPlace(archive) && fs::is_directory(archive, unknown) && !canWriteInto(archive)) {
     checks.push_back({.name = "rights",
                       .isFine = false,
                       .finding = "You may not write to " + archive + ".",
