@@ -3,11 +3,23 @@
 #include <algorithm>
 #include <utility>
 
+#include "cm/host/Host.h"
 #include "host/cli/ArchiveContent.h"
 #include "host/cli/printing/BytesAsText.h"
 #include "host/model/PathNames.h"
 
 namespace veldra::host::cli {
+
+namespace {
+
+/// What a tool leaves where it deletes may never have been in the archive.
+bool keepCopyOf(const std::string& file) {
+  IKeptCopies* const copies = installedHost()->keptCopies();
+  std::string reason;
+  return copies == nullptr || copies->keep(file, "Delete", reason);
+}
+
+}  // namespace
 
 std::optional<std::string> Rearranging::admit(UnitCore& unit) {
   Result<Rearrangement> planned = m_plan(unit);
@@ -29,7 +41,7 @@ std::optional<std::string> Rearranging::admit(UnitCore& unit) {
 std::string Rearranging::follow(const std::string& file) {
   const auto at = m_planned.find(file);
   if (m_isPlan || at == m_planned.end()) return file;
-  at->second.carryOut();
+  at->second.carryOut(keepCopyOf);
   return at->second.newFile();
 }
 

@@ -124,10 +124,11 @@ void KeptFiles::moveOriginals(const std::string& path) const {
   removeEmptyFolders(m_path);
 }
 
-void KeptFiles::removeOriginals() const {
+void KeptFiles::removeOriginals(const std::function<bool(const std::string&)>& mayGo) const {
   std::error_code failed;
   for (const auto& [name, kept] : m_copies) {
-    removeEntry(name.empty() ? m_path : joinPath(m_path, name), failed);
+    const std::string file = name.empty() ? m_path : joinPath(m_path, name);
+    if (fs::exists(file, failed) && mayGo(file)) removeEntry(file, failed);
   }
   removeEmptyFolders(m_path);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -22,8 +23,9 @@ class KeptFiles {
   [[nodiscard]] std::optional<std::string> restore(const std::string& other = {});
   /// Moves those of the files that are still there to `path`, unless there is one already.
   void moveOriginals(const std::string& path) const;
-  /// Removes those of the files that are still there, and the folders that are empty then.
-  void removeOriginals() const;
+  /// Removes those of the files that are still there and that `mayGo` lets go, and the folders that
+  /// are empty then.
+  void removeOriginals(const std::function<bool(const std::string& file)>& mayGo) const;
 
  private:
   void keep(const std::string& file);

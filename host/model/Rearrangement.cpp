@@ -185,10 +185,10 @@ void Rearrangement::removeFromModel() {
   for (auto unit = inside.rbegin(); unit != inside.rend(); ++unit) project.remove(**unit);
 }
 
-void Rearrangement::carryOut() {
+void Rearrangement::carryOut(const Farewell& mayGo) {
   Project& project = m_unit->project();
   if (m_newFile.empty()) {
-    m_kept->removeOriginals();
+    m_kept->removeOriginals(mayGo);
     removeFromModel();
     return;
   }

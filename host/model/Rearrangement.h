@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -37,8 +38,10 @@ class Rearrangement {
 
   /// Nothing on success; otherwise why not, and everything is as it was.
   [[nodiscard]] std::optional<std::string> prepare();
+  /// Told a file that the tool has left where it deleted, before that goes; false keeps it.
+  using Farewell = std::function<bool(const std::string& file)>;
   /// The archive has it: model and disk follow.
-  void carryOut();
+  void carryOut(const Farewell& mayGo);
   /// The tool failed: model and disk are as they were. Nothing on success; otherwise what could not
   /// be put back.
   [[nodiscard]] std::optional<std::string> takeBack();

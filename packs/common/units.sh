@@ -51,6 +51,13 @@ give_up() {
   exit 1
 }
 
+# refuse_strangers FILES: for whole directories; a line a file that is not under control, and would be
+# lost.
+refuse_strangers() {
+  [ -z "$1" ] ||
+    fail "'${1%%"$newline"*}' is not in the archive; add it first, or take it out of the folder."
+}
+
 # each UNITS: the paths, each with a zero byte behind it.
 each() {
   case $1 in

@@ -13,6 +13,8 @@ if [ -d "$units" ]; then
   folder=$(relative "$units")
   controlled "./$folder" | sed "s|^\./|$PWD/|" >"$work/files"
   units=@$work/files
+  refuse_strangers "$(find "./$folder" -type f ! -path '*/CVS/*' | sed "s|^\./|$PWD/|" |
+    grep -v -x -F -f "$work/files")"
 fi
 in_archive "$units"
 changed=$(state_of "$units" | sed -n '1s/^..//p')

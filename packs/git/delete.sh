@@ -9,6 +9,8 @@ shift
 read_options "$@"
 begin_commit "$units"
 in_archive "$units"
+[ ! -d "$units" ] ||
+  refuse_strangers "$(git ls-files -z --others --exclude-standard -- "$units" | tr '\000' '\n')"
 has_content_of "$units" HEAD || fail "$unsaved"
 refuse_locked "$units"
 run on "$units" rm -q -r || give_up

@@ -7,7 +7,11 @@ units=$1
 shift
 read_options "$@"
 begin_commit "$units"
-[ -d "$units" ] || in_archive "$units"
+if [ -d "$units" ]; then
+  refuse_strangers "$(on "$units" status -un)"
+else
+  in_archive "$units"
+fi
 changed=$(on "$units" status -mard | sed -n '1s/^..//p')
 [ -z "$changed" ] || fail "'$changed' has local changes; check it in, or undo them first."
 run on "$units" remove -q || give_up

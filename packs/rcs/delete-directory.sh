@@ -42,6 +42,10 @@ restore_all() {
 
 set -f
 IFS=$newline
+for file in $(find "$directory" -type f ! -path '*/RCS/*'); do
+  [ -f "$(archived_of "$archive" "$directory" "$file")" ] ||
+    fail "'$file' is not in the archive; add it first, or take it out of the folder."
+done
 undo=
 each may_be_deleted
 each delete_and_note || {

@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "tests/live/Tool.h"
 
 namespace veldra::live {
@@ -75,6 +77,25 @@ TEST_P(RearrangingTest, HistoryFollowsAUnitThatIsRenamedAndMoved) {
   expectAgreement();
 }
 
+TEST_P(RearrangingTest, HistoryFollowsAFileThatIsWrittenAnewAndMovedAtOnce) {
+  m_sandbox.write("model/Flow.puml", "@startuml\nA -> B\n@enduml\n");
+  inModel(0, {"add", "Flow.puml", "-m", "first"});
+  inModel(0, {"checkout", "Flow.puml"});
+  const std::string text = "'" + std::string(200, 'x') + "\nnothing of the old\n";
+  m_sandbox.write("model/Flow.puml", text);
+  inModel(0, {"move", "Flow.puml", "Milk", "-m", "moved"});
+  EXPECT_EQ(m_tool->newestText("Milk/Flow.puml"), text);
+  EXPECT_FALSE(m_sandbox.isWritable("model/Milk/Flow.puml"));
+  expectTrail("Milk/Flow.puml");
+  expectAgreement();
+}
+
+TEST_P(RearrangingTest, WhatIsLostWithAMoveIsTold) {
+  EXPECT_EQ(inModel(0, {"move", "Brewing::Grinder", "Milk"}).out.find("history stays") !=
+                std::string::npos,
+            m_tool->traits().noTrail != nullptr);
+}
+
 TEST_P(RearrangingTest, APackageIsMovedAndRenamedWithEverythingInIt) {
   // What a tool writes into the header may tell of the move.
   const auto body = [this](const std::string& file) {
@@ -83,8 +104,12 @@ TEST_P(RearrangingTest, APackageIsMovedAndRenamedWithEverythingInIt) {
   };
   const std::string pump = body("Brewing/Water Circuit/Pump.vcmp");
   inModel(0, {"move", "Brewing/Water Circuit", "Milk", "-m", "moved"});
-  inModel(0, {"checkout", "Milk"});
+  inModel(0, {"checkout", "Milk", "Milk/Steam Wand.vcmp"});
   inModel(0, {"rename", "Milk", "Crème @ Co", "-m", "renamed"});
+  const std::string wand = "Crème @ Co/Steam Wand.vcmp";
+  EXPECT_TRUE(m_sandbox.isWritable("model/" + wand)) << "it stays checked out";
+  if (m_tool->traits().noLocks == nullptr) EXPECT_EQ(m_tool->holder(wand), "alice");
+  EXPECT_FALSE(m_sandbox.isWritable("model/Crème @ Co/Crème @ Co.vpkg"));
   EXPECT_THAT(m_sandbox.read("model/Crème @ Co/Crème @ Co.vpkg"), HasSubstr("Crème @ Co"));
   EXPECT_EQ(body("Crème @ Co/Water Circuit/Pump.vcmp"), pump);
   expectTrail("Crème @ Co/Water Circuit/Pump.vcmp");
@@ -109,8 +134,12 @@ TEST_P(RearrangingTest, APackageIsDeletedWithEverythingInItUnlessThatIsChanged) 
   EXPECT_EQ(onDisk(), before);
   EXPECT_EQ(m_tool->files(), archived);
   inModel(0, {"undo", "Milk/Steam Wand.vcmp"});
+  m_sandbox.write("model/Milk/Crème/New.puml", "@startuml\n@enduml\n");
+  EXPECT_THAT(inModel(3, {"delete", "-r", "Milk"}).err, HasSubstr("New.puml"));
+  EXPECT_EQ(onDisk().count("Milk/Crème/New.puml"), 1U) << "the archive has nothing of it";
+  std::filesystem::remove(m_sandbox.path("model/Milk/Crème/New.puml"));
   inModel(0, {"delete", "-r", "Milk", "-m", "no milk today"});
-  EXPECT_EQ(onDisk().count("Milk/Milk.vpkg"), 0U);
+  EXPECT_FALSE(std::filesystem::exists(m_sandbox.path("model/Milk")));
   expectAgreement();
 }
 

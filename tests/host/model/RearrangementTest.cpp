@@ -59,7 +59,7 @@ class RearrangementTest : public testing::Test {
     ASSERT_TRUE(plan) << plan.error();
     ASSERT_EQ(plan->prepare(), std::nullopt);
     work();
-    plan->carryOut();
+    plan->carryOut([](const std::string&) { return true; });
     expectThatModelIsDisk();
   }
   void moveOnDisk(const std::string& from, const std::string& to) {
