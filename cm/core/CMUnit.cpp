@@ -4,6 +4,7 @@
 
 #include "cm/core/CMArchive.h"
 #include "cm/core/CMArchiveItem.h"
+#include "cm/core/HybridRule.h"
 #include "cm/core/TextTools.h"
 #include "cm/host/IEnvironment.h"
 #include "cm/host/IModel.h"
@@ -16,7 +17,7 @@ namespace veldra {
 CMUnit::CMUnit(IUnit* unit) : m_unit(unit) {
   if (unit == nullptr) return;
   m_fileName = unit->getFileName();
-  m_dirPath = cutAtLastSeparator(unit->getFullFileName());
+  m_dirPath = cutAtLastSeparator(placeOf(*unit));
 }
 
 CMUnit::CMUnit(CMArchiveItem* item) : m_item(item) {

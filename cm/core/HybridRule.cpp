@@ -16,6 +16,12 @@ bool isPackageWithDirectory(IUnit* unit) {
   return package != nullptr && !package->getPackageDirectory().empty();
 }
 
+std::string placeOf(const IUnit& unit) {
+  std::string file = unit.getFullFileName();
+  if (!file.empty() || !isPackageWithDirectory(const_cast<IUnit*>(&unit))) return file;
+  return joinPath(const_cast<IUnit&>(unit).asSubsystem()->getPackageDirectory(), {});
+}
+
 bool HybridRule::isPossible() {
   return CMProperty::isHybridModePossible() != 0 && isProviderNamed("Vaultrix");
 }

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "cm/host/Export.h"
 #include "cm/host/IUnit.h"
 
 namespace veldra {
@@ -20,6 +21,10 @@ bool appliesToRename(const std::string& oldName, const std::string& newName);
 
 /// Whether the unit is a package whose host record names a directory.
 bool isPackageWithDirectory(IUnit* unit);
+
+/// The unit's file in full; for a package that is a directory without a file that directory, with a
+/// separator at its end. Empty for a unit without any place.
+VELDRA_CM_EXPORT std::string placeOf(const IUnit& unit);
 
 /// Whether the provider's tool name is `name`, without regard to case.
 bool isProviderNamed(const char* name);

@@ -59,7 +59,7 @@ CommandTemplate CMAddMember::templateFor(IUnit& unit, const UnitCallFrame& /*cal
   return {.property = isOwn ? ControlledFile : row().templateProperty};
 }
 
-bool CMAddMember::accepts(IUnit& unit) const {
+bool CMAddMember::accepts(IUnit& unit, const UnitCallFrame& /*call*/) const {
   if (!CMProperty::isPre40Compatible() || unit.asProject() != nullptr) return true;
   const std::string workingDir = CMProperty::getWorkingDir();
   if (unit.getDirectory() == workingDir) return true;

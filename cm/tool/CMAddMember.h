@@ -19,7 +19,7 @@ class CMAddMember : public UnitCommand {
  protected:
   const OperationRow& row() const override;
   CommandTemplate templateFor(IUnit& unit, const UnitCallFrame& call) const override;
-  bool accepts(IUnit& unit) const override;
+  bool accepts(IUnit& unit, const UnitCallFrame& call) const override;
   void after(UnitRun& run) const override;
 };
 

@@ -23,8 +23,8 @@ CommandTemplate CMDeleteMember::templateFor(IUnit& unit, const UnitCallFrame& ca
                               {.property = row().templateProperty});
 }
 
-bool CMDeleteMember::accepts(IUnit& unit) const {
-  return !unit.getFileName().empty();
+bool CMDeleteMember::accepts(IUnit& unit, const UnitCallFrame& call) const {
+  return canBeNamed(unit, {.property = IPN::DeleteDirectory, .providerMetaclass = call.hybrid});
 }
 
 int CMDeleteMember::deleteDirectory(const std::string& directory, ArgumentList& arguments,

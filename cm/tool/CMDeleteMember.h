@@ -20,8 +20,7 @@ class CMDeleteMember : public UnitCommand {
  protected:
   const OperationRow& row() const override;
   CommandTemplate templateFor(IUnit& unit, const UnitCallFrame& call) const override;
-  /// A package without a file has no name that a command could carry.
-  bool accepts(IUnit& unit) const override;
+  bool accepts(IUnit& unit, const UnitCallFrame& call) const override;
 };
 
 }  // namespace veldra

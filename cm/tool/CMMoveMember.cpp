@@ -62,13 +62,17 @@ CommandTemplate CMMoveMember::templateFor(IUnit& unit, const UnitCallFrame& call
 
 std::optional<CMNameChange> CMMoveMember::nameChange(const IUnit& unit,
                                                      const UnitCallFrame& call) const {
-  const std::string file = unit.getFullFileName();
+  const std::string file = placeOf(unit);
   std::string directory = argumentValue(call.arguments, "targetDir");
   // The directory of a package goes along under its own name.
   if (isPackageWithDirectory(const_cast<IUnit*>(&unit))) {
     directory = joinPath(directory, baseName(cutAtLastSeparator(file)));
   }
   return std::optional<CMNameChange>(std::in_place, file, joinPath(directory, baseName(file)));
+}
+
+bool CMMoveMember::accepts(IUnit& unit, const UnitCallFrame& call) const {
+  return canBeNamed(unit, {.property = IPN::MoveDirectory, .providerMetaclass = call.hybrid});
 }
 
 int CMMoveMember::operator()(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics,

@@ -1,5 +1,6 @@
 #include "cm/tool/CMRenameMember.h"
 
+#include "cm/core/HybridRule.h"
 #include "cm/core/TextTools.h"
 #include "cm/host/IPN.h"
 #include "cm/host/IUserMessages.h"
@@ -21,8 +22,7 @@ const OperationRow& CMRenameMember::row() const {
 std::optional<CMNameChange> CMRenameMember::nameChange(const IUnit& unit,
                                                        const UnitCallFrame& call) const {
   const std::string oldName = argumentValue(call.arguments, "oldName");
-  return std::optional<CMNameChange>(std::in_place,
-                                     oldName.empty() ? unit.getFullFileName() : oldName,
+  return std::optional<CMNameChange>(std::in_place, oldName.empty() ? placeOf(unit) : oldName,
                                      argumentValue(call.arguments, "newName"));
 }
 
@@ -32,6 +32,10 @@ CommandTemplate CMRenameMember::templateFor(IUnit& unit, const UnitCallFrame& ca
   if (change->substitute("olddir") == change->substitute("newdir")) return file;
   return templateForDirectory(
       unit, {.property = IPN::RenameDirectory, .providerMetaclass = call.hybrid}, file);
+}
+
+bool CMRenameMember::accepts(IUnit& unit, const UnitCallFrame& call) const {
+  return canBeNamed(unit, {.property = IPN::RenameDirectory, .providerMetaclass = call.hybrid});
 }
 
 int CMRenameMember::operator()(UnitList& units, ArgumentList& arguments,

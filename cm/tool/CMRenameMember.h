@@ -25,6 +25,7 @@ class CMRenameMember : public UnitCommand {
   CommandTemplate templateFor(IUnit& unit, const UnitCallFrame& call) const override;
   std::optional<CMNameChange> nameChange(const IUnit& unit,
                                          const UnitCallFrame& call) const override;
+  bool accepts(IUnit& unit, const UnitCallFrame& call) const override;
 };
 
 }  // namespace veldra

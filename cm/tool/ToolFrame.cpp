@@ -33,6 +33,10 @@ CommandTemplate templateForDirectory(IUnit& unit, const CommandTemplate& forDire
   return isPackageWithDirectory(&unit) && hasValue(forDirectory) ? forDirectory : forFile;
 }
 
+bool canBeNamed(IUnit& unit, const CommandTemplate& forDirectory) {
+  return !unit.getFileName().empty() || (isPackageWithDirectory(&unit) && hasValue(forDirectory));
+}
+
 std::string expandedForm(const CommandTemplate& ordinary, const char* form,
                          ArgumentList& arguments) {
   const std::string property = std::string(ordinary.property) + form;
@@ -60,7 +64,7 @@ bool hasCMTool(CMOperation& operation, DiagnosticList& diagnostics, bool hybrid)
 }
 
 bool refuseUnsafeName(const IUnit& unit, DiagnosticList& diagnostics) {
-  return refuseUnsafeName(&unit, unit.getFullFileName(), diagnostics);
+  return refuseUnsafeName(&unit, placeOf(unit), diagnostics);
 }
 
 bool refuseUnsafeName(const IUnit* unit, const std::string& name, DiagnosticList& diagnostics) {

@@ -57,6 +57,10 @@ bool hasValue(const CommandTemplate& command);
 CommandTemplate templateForDirectory(IUnit& unit, const CommandTemplate& forDirectory,
                                      const CommandTemplate& forFile);
 
+/// False for a package that is a directory without a file, unless the tool has this template for
+/// directories: no other command could name it.
+bool canBeNamed(IUnit& unit, const CommandTemplate& forDirectory);
+
 /// Asks whether a CM tool is configured. When it is not, one diagnostic says why and the answer is
 /// false.
 bool hasCMTool(CMOperation& operation, DiagnosticList& diagnostics, bool hybrid = false);

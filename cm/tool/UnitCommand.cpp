@@ -5,6 +5,7 @@
 #include "cm/core/CMArchive.h"
 #include "cm/core/CMFacade.h"
 #include "cm/core/CMUnit.h"
+#include "cm/core/HybridRule.h"
 #include "cm/host/Host.h"
 #include "cm/templates/CMProperty.h"
 #include "cm/tool/CMToolShellInterface.h"
@@ -21,7 +22,7 @@ std::optional<CMNameChange> UnitCommand::nameChange(const IUnit& /*unit*/,
   return std::nullopt;
 }
 
-bool UnitCommand::accepts(IUnit& /*unit*/) const {
+bool UnitCommand::accepts(IUnit& /*unit*/, const UnitCallFrame& /*call*/) const {
   return true;
 }
 
@@ -63,9 +64,9 @@ void UnitCommand::runBatches(const UnitList& units, const UnitCallFrame& call,
     if (nameChange(*unit, call)) return;  // Names cannot be told by a list of units.
     const CommandTemplate single = templateFor(*unit, call);
     if (!call.batches.offers(single)) continue;
-    const UnitEnd verdict = !asks.allows(*unit) ? UnitEnd::Declined
-                            : !accepts(*unit)   ? UnitEnd::Refused
-                                                : UnitEnd::Done;
+    const UnitEnd verdict = !asks.allows(*unit)     ? UnitEnd::Declined
+                            : !accepts(*unit, call) ? UnitEnd::Refused
+                                                    : UnitEnd::Done;
     verdicts[unit] = {.end = verdict};
     if (verdict == UnitEnd::Done) call.batches.add(*unit, single);
   }
@@ -107,7 +108,7 @@ int UnitCommand::runAll(UnitList& units, const UnitCallFrame& call,
     const bool isGone =
         validator.isUnitMarkedForValidation(run.unit) != 0 && validator.isValidUnit(run.unit) == 0;
     if (run.unit != nullptr && !isGone) {
-      UnitProgress progress(row().name, position, count, run.unit->getFullFileName());
+      UnitProgress progress(row().name, position, count, placeOf(*run.unit));
       const auto verdict = verdicts.find(run.unit);
       if (verdict != verdicts.end() && verdict->second.end != UnitEnd::Done) {
         progress.endsAs(verdict->second.end, verdict->second.words);
@@ -132,7 +133,7 @@ void UnitCommand::runUnit(UnitRun& run, const UnitCallFrame& call, UnitProgress&
   if (row().choosesArchive) chooseArchiveOf(run.unit);
   std::optional<UnitPreparation> preparation = call.batches.takeDone(*run.unit);
   const bool isDone = preparation.has_value();
-  if (!isDone && !accepts(*run.unit)) {
+  if (!isDone && !accepts(*run.unit, call)) {
     progress.endsAs(UnitEnd::Refused);
     return;
   }

@@ -54,7 +54,7 @@ class UnitCommand : public CMWorkspaceOperation {
   virtual std::optional<CMNameChange> nameChange(const IUnit& unit,
                                                  const UnitCallFrame& call) const;
   /// False for a unit that cannot take part; the operation has then told the user why.
-  virtual bool accepts(IUnit& unit) const;
+  virtual bool accepts(IUnit& unit, const UnitCallFrame& call) const;
   /// Before the command; makes the comparison for operations that reload by it.
   virtual std::unique_ptr<CCMFileCompare> snapshot(IUnit& unit) const;
   /// After a command that could be run.

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "cm/host/Host.h"
+#include "cm/templates/CMProperty.h"
 #include "host/cli/ArchiveContent.h"
 #include "host/cli/printing/BytesAsText.h"
 #include "host/model/PathNames.h"
@@ -11,6 +12,11 @@
 namespace veldra::host::cli {
 
 namespace {
+
+std::string_view withoutSeparator(std::string_view path) {
+  if (path.ends_with(HostSeparator)) path.remove_suffix(1);
+  return path;
+}
 
 /// What a tool leaves where it deletes may never have been in the archive.
 bool keepCopyOf(const std::string& file) {
@@ -21,13 +27,25 @@ bool keepCopyOf(const std::string& file) {
 
 }  // namespace
 
+std::optional<std::string> obstacleToFolder(const UnitCore& unit, const char* forDirectories) {
+  if (unit.hasFile()) return std::nullopt;
+  std::string command;
+  if (CMProperty::useSccCompliantTool() == 0 &&
+      CMProperty::getToolPropertyValue(forDirectories, command) && !command.empty()) {
+    return std::nullopt;
+  }
+  return "It is a folder without a file of its own, which the tool cannot take as a whole. Name "
+         "the "
+         "units in it.";
+}
+
 std::optional<std::string> Rearranging::admit(UnitCore& unit) {
   Result<Rearrangement> planned = m_plan(unit);
   if (!planned) return planned.error();
-  const std::string file = unit.fullFileName();
+  const std::string file = planned->oldFile();
   for (const auto& [otherFile, other] : m_planned) {
     if (other.takesAlong(file) || planned->takesAlong(otherFile)) {
-      return "\"" + textForPeople(baseName(otherFile)) +
+      return "\"" + textForPeople(baseName(withoutSeparator(otherFile))) +
              "\", which is named, too, goes the same way. Name only the package.";
     }
   }
@@ -72,8 +90,9 @@ std::string archiveState(Session& session, const std::string& oldFile, const std
   std::string held;
   for (const std::string& file : {oldFile, newFile}) {
     const std::string name = file.empty() ? file : relative(file);
+    const bool isFolder = name.ends_with('/');
     const bool isHeld = !name.empty() && std::ranges::any_of(content.files, [&](const auto& one) {
-      return one.path == name;
+      return isFolder ? one.path.starts_with(name) : one.path == name;
     });
     if (isHeld) held += (held.empty() ? "" : " and ") + textForPeople(name);
   }

@@ -12,6 +12,10 @@
 
 namespace veldra::host::cli {
 
+/// Why a package that is a folder without a file cannot go as a whole: a provider knows files
+/// alone, and a tool needs a template for directories. Nothing for every other unit.
+std::optional<std::string> obstacleToFolder(const UnitCore& unit, const char* forDirectories);
+
 /// The units that one command takes from their places: prepared before the tool works, and then
 /// followed by the model as far as the tool did.
 class Rearranging {

@@ -7,6 +7,7 @@
 #include <unordered_set>
 
 #include "cm/core/CMAskOnCheckoutGuard.h"
+#include "cm/core/HybridRule.h"
 #include "cm/templates/CMProperty.h"
 #include "cm/tool/CommandText.h"
 #include "cm/ui/logic/OptionRules.h"
@@ -69,7 +70,8 @@ class UnitBatch {
   void select() {
     const Options& options = m_session.options();
     m_selection = options.all ? selectAll(m_operation.all)
-                              : selectByName(m_session.project(), options.units, options.recursive);
+                              : selectByName(m_session.project(), options.units,
+                                             options.recursive || m_operation.plan != nullptr);
     if (options.recursive) addContents();
     if (options.all && !options.dryRun) filterByArchive(m_selection.units);
     for (IUnit* unit : m_selection.units) addRecord(*unit);
@@ -124,7 +126,7 @@ class UnitBatch {
 
  private:
   void addRecord(IUnit& unit) {
-    m_indexOf.emplace(unit.getFullFileName(), m_records.size());
+    m_indexOf.emplace(placeOf(unit), m_records.size());
     m_records.push_back({.path = projectPath(unit)});
   }
 
@@ -165,7 +167,7 @@ class UnitBatch {
 
   void planAll() {
     for (const IUnit* unit : m_selection.units) {
-      const std::string file = unit->getFullFileName();
+      const std::string file = placeOf(*unit);
       const std::size_t index = m_indexOf.at(file);
       m_reached.insert(index);
       makePlan({.file = file}, m_operation.lock, m_records[index]);
@@ -175,7 +177,7 @@ class UnitBatch {
   bool admit(IUnit& unit) {
     const std::optional<std::string> reason = m_rearranging.admit(*UnitCore::of(&unit));
     if (!reason) return true;
-    const std::size_t index = m_indexOf.at(unit.getFullFileName());
+    const std::size_t index = m_indexOf.at(placeOf(unit));
     m_records[index].result = UnitResult::Refused;
     m_records[index].message = *reason;
     m_reached.insert(index);

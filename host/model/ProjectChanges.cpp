@@ -138,7 +138,7 @@ void Project::moveFolderOf(UnitCore& unit, const std::string& relative,
   const std::string formerFile = unit.relativeFileName();
   unit.setFile(folder, unit.record().fileName);
   if (former.owner == &unit) folder.owner = std::exchange(former.owner, nullptr);
-  if (!unit.hasFile()) return;
+  if (!unit.hasFile()) return unit.takeFolderName();
   m_index.remove(formerFile);
   m_index.put(unit.relativeFileName(), &unit);
   unit.takeFile();

@@ -56,7 +56,9 @@ bool isPlainName(const std::string& name) {
 }  // namespace
 
 Rearrangement::Rearrangement(UnitCore& unit)
-    : m_unit(&unit), m_oldFile(unit.fullFileName()), m_oldName(unit.record().name) {}
+    : m_unit(&unit),
+      m_oldFile(joinPath(unit.record().folder->path, unit.record().fileName)),
+      m_oldName(unit.record().name) {}
 
 std::optional<std::string> Rearrangement::obstacle() const {
   const UnitRecord& record = m_unit->record();
@@ -64,6 +66,9 @@ std::optional<std::string> Rearrangement::obstacle() const {
   if (m_unit == &project) return "The project itself cannot be deleted, moved or renamed.";
   if (m_unit->isExternal()) return "It belongs to another project. Open that project.";
   if (record.stub) return "The unit is not loaded. Load it first.";
+  if (!m_unit->hasFile() && m_unit->children().empty()) {
+    return "No unit of the project lies in that folder.";
+  }
   const std::string relative = m_wholeFolder ? record.folder->relative : m_unit->relativeFileName();
   if (project.mode() == FileMode::ReadOnly && project.lists(relative)) {
     return "The project file names it in a list. Check the project file out first.";
@@ -137,11 +142,14 @@ Planned Rearrangement::planRename(UnitCore& unit, const std::string& name) {
         "The name is part of the file, which is read-only. Check it out first.");
   }
   std::string fileName = isOwn ? unit.computedFileName(name) : fileNameOf(record, name);
+  if (!unit.hasFile()) fileName = name;
   if (!isPlainName(name.empty() ? name : fileName)) {
     return Planned::failure("\"" + name + "\" cannot be a file's name. Choose another one.");
   }
   std::string folder = record.folder->path;
-  if (plan.m_wholeFolder) {
+  if (!unit.hasFile()) {
+    folder = joinPath(parentPath(folder), std::exchange(fileName, {}));
+  } else if (plan.m_wholeFolder) {
     folder = joinPath(parentPath(folder), stemOf(fileName));
     if (record.type->directoryUnit != "*") fileName = record.fileName;
   }
@@ -170,7 +178,8 @@ void Rearrangement::moveOnDisk() const {
   m_kept->moveOriginals(m_wholeFolder ? std::string(parentPath(m_newFile)) : m_newFile);
   const std::string moved = joinPath(parentPath(m_newFile), baseName(m_oldFile));
   std::error_code failed;
-  if (m_wholeFolder && !exists(m_newFile)) fs::rename(moved, m_newFile, failed);
+  if (m_unit->hasFile() && m_wholeFolder && !exists(m_newFile))
+    fs::rename(moved, m_newFile, failed);
 }
 
 void Rearrangement::removeFromModel() {
@@ -183,6 +192,7 @@ void Rearrangement::removeFromModel() {
     if (isHere && isInside(folder, unit->record().folder->relative)) inside.push_back(unit);
   }
   for (auto unit = inside.rbegin(); unit != inside.rend(); ++unit) project.remove(**unit);
+  if (!m_unit->hasFile()) project.remove(*m_unit);
 }
 
 void Rearrangement::carryOut(const Farewell& mayGo) {
@@ -197,7 +207,7 @@ void Rearrangement::carryOut(const Farewell& mayGo) {
     project.moveFolder(m_unit->record().folder->relative,
                        relativeTo(project, std::string(parentPath(m_newFile))));
   }
-  if (m_unit->fullFileName() != m_newFile) {
+  if (m_unit->hasFile() && m_unit->fullFileName() != m_newFile) {
     project.moveFile(*m_unit, relativeTo(project, m_newFile));
   }
 }
@@ -207,7 +217,7 @@ std::optional<std::string> Rearrangement::takeBack() {
   if (!m_newFile.empty()) {
     other = m_wholeFolder ? std::string(parentPath(m_newFile)) : m_newFile;
     std::error_code failed;
-    removeEntry(m_newFile, failed);
+    if (m_unit->hasFile()) removeEntry(m_newFile, failed);
   }
   std::optional<std::string> failure = m_kept->restore(other);
   if (!m_newName.empty()) m_unit->forgetContent(m_oldName);

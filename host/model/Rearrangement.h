@@ -29,7 +29,8 @@ class Rearrangement {
   static Result<Rearrangement> planRename(UnitCore& unit, const std::string& name);
 
   UnitCore& unit() const { return *m_unit; }
-  /// The unit's file in full, before and after; empty after a deletion.
+  /// The unit's file in full, before and after; empty after a deletion. For a package that is a
+  /// folder without a file it is that folder, with a separator at its end.
   const std::string& oldFile() const { return m_oldFile; }
   const std::string& newFile() const { return m_newFile; }
 

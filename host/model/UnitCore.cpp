@@ -131,6 +131,10 @@ void UnitCore::takeFile() {
                                                      : std::string_view(m_record.fileName));
 }
 
+void UnitCore::takeFolderName() {
+  m_record.name = std::string(baseName(m_record.folder->path));
+}
+
 void UnitCore::setFileName(const std::string& fileName) {
   const std::string former = fullFileName();
   m_record.fileName = fileName;

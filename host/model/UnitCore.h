@@ -104,6 +104,8 @@ class UnitCore {
   FileMode mode() const { return m_record.mode; }
   /// The unit's file is that one from now on; the project tells it so.
   void setFile(Folder& folder, const std::string& fileName);
+  /// A package that is a folder without a file has the name of that.
+  void takeFolderName();
   /// Looks at the file anew after it has come to another place or changed its name.
   void takeFile();
   /// The unit now stands for what the head says; used after its file has changed.

@@ -54,7 +54,7 @@ check_move
 refuse_locked "$old_place"
 move_there || give_up
 if run commit_move && tag_and_push; then
-  chmod a-w -- "$new_file"
+  [ ! -f "$new_file" ] || chmod a-w -- "$new_file"
   move_locks
   exit
 fi

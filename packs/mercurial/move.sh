@@ -21,7 +21,7 @@ check_move
 move_there || give_up
 printf '%s\n' "$old_place" "$new_place" >"$work/both"
 if commit "@$work/both" "$comment" && tag_and_push; then
-  chmod a-w -- "$new_file"
+  [ ! -f "$new_file" ] || chmod a-w -- "$new_file"
   exit
 fi
 reason=$answer

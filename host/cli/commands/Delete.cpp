@@ -12,7 +12,7 @@ namespace {
 bool goesWithFolder(const UnitCore& unit) {
   if (&unit == &static_cast<const UnitCore&>(unit.project())) return true;
   std::string command;
-  return unit.record().directoryUnit && unit.hasFile() &&
+  return unit.record().directoryUnit && !obstacleToFolder(unit, IPN::DeleteDirectory) &&
          CMProperty::getToolPropertyValue(IPN::DeleteDirectory, command) && !command.empty();
 }
 

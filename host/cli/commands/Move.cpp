@@ -56,6 +56,9 @@ ExitCode runMove(const Invocation& invocation) {
           return Result<Rearrangement>::failure("There is no single package \"" +
                                                 textForPeople(targetName) + "\" to move it to.");
         }
+        if (const auto reason = obstacleToFolder(unit, IPN::MoveDirectory)) {
+          return Result<Rearrangement>::failure(*reason);
+        }
         if (!canGoWhole(unit)) {
           return Result<Rearrangement>::failure(
               "The tool cannot move a package as a whole. Move its units one by one.");

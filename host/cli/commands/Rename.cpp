@@ -1,4 +1,5 @@
 #include "cm/core/CMFacade.h"
+#include "cm/core/HybridRule.h"
 #include "cm/host/IPN.h"
 #include "host/cli/UnitOperation.h"
 
@@ -11,7 +12,7 @@ ExitCode runRename(const Invocation& invocation) {
   const UnitOperation operation{
       .run =
           [&newFile](UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics) {
-            return CMFacade::RenameMember(units.front(), units.front()->getFullFileName(), newFile,
+            return CMFacade::RenameMember(units.front(), placeOf(*units.front()), newFile,
                                           arguments, diagnostics);
           },
       .templateProperty = IPN::Rename,
@@ -21,6 +22,9 @@ ExitCode runRename(const Invocation& invocation) {
       .all = AllUnits::Every,
       .lock = "given back",
       .plan = [&](UnitCore& unit) -> Result<Rearrangement> {
+        if (const auto reason = obstacleToFolder(unit, IPN::RenameDirectory)) {
+          return Result<Rearrangement>::failure(*reason);
+        }
         Result<Rearrangement> planned = Rearrangement::planRename(unit, *options.name);
         if (planned) newFile = planned->newFile();
         return planned;
