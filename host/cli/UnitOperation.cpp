@@ -127,7 +127,8 @@ class UnitBatch {
  private:
   void addRecord(IUnit& unit) {
     m_indexOf.emplace(placeOf(unit), m_records.size());
-    m_records.push_back({.path = projectPath(unit)});
+    m_records.push_back(
+        {.path = projectPath(unit), .name = unit.getName(), .type = unit.getTypeName()});
   }
 
   /// Packages get their content behind them, unless the tool does it with the package at once.

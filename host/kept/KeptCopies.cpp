@@ -14,6 +14,7 @@
 #include "host/model/PathNames.h"
 #include "host/platform/AtomicFile.h"
 #include "host/platform/Clock.h"
+#include "host/platform/FileReplacement.h"
 #include "host/platform/Program.h"
 #include "host/platform/RemoveTree.h"
 
@@ -171,6 +172,19 @@ std::string KeptCopies::fileOf(const KeptCopy& copy) const {
 std::string KeptCopies::originalOf(const KeptCopy& copy) const {
   const bool isComplete = std::filesystem::path(copy.path).is_absolute();
   return isComplete ? copy.path : joinPath(m_projectFolder(), copy.path);
+}
+
+std::optional<std::string> KeptCopies::objectionTo(const KeptCopy& copy, bool force) const {
+  const std::string file = originalOf(copy);
+  std::error_code unknown;
+  const fs::file_status status = fs::status(file, unknown);
+  if (!fs::exists(status)) return std::nullopt;
+  return objection(
+      file,
+      {.isDirectory = fs::is_directory(status),
+       .isRegular = fs::is_regular_file(status),
+       .isReadOnly = (status.permissions() & fs::perms::owner_write) == fs::perms::none},
+      force ? ReadOnlyFile::Replace : ReadOnlyFile::Refuse);
 }
 
 std::optional<std::string> KeptCopies::restore(const KeptCopy& copy, bool force) {

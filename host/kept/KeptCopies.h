@@ -50,6 +50,8 @@ class KeptCopies : public IKeptCopies {
   std::string fileOf(const KeptCopy& copy) const;
   /// The file that it is a copy of, in full.
   std::string originalOf(const KeptCopy& copy) const;
+  /// Why the file could not be put back now, or nothing; see `restore`.
+  std::optional<std::string> objectionTo(const KeptCopy& copy, bool force) const;
   /// Puts the file back as it was; what is there now is kept first. Nothing on success, otherwise a
   /// sentence that says why not; a file that is read-only is replaced only with `force`.
   [[nodiscard]] std::optional<std::string> restore(const KeptCopy& copy, bool force);

@@ -85,8 +85,7 @@ TEST_P(FailureAdviceTest, AnArchiveThatIsGone) {
   m_sandbox.write("model/" + m_unit, mine);
   m_sandbox.write("model/" + m_other, m_sandbox.read("model/" + m_other) + "\n");
   std::filesystem::rename(m_sandbox.path("archive"), m_sandbox.path("away"));
-  expectAdvice({"ls"},
-               "archive's address");
+  expectAdvice({"ls"}, "archive's address");
   for (const std::vector<std::string>& command :
        {std::vector<std::string>{"checkin", m_unit, m_other, "-m", "lost"},
         {"add", "Product/Product.vpkg", "Control/Control.vpkg"},

@@ -52,6 +52,8 @@ struct Blow {
 
 constexpr char ToolKilled[] = "kill -KILL $(cat io/real)";
 constexpr char ProgramKilled[] = "kill -KILL $(cat io/cm)";
+/// The pack's helper, with everything that it has started.
+constexpr char HelperKilled[] = "kill -KILL -- -$(cat io/group)";
 constexpr char BothKilled[] = "kill -KILL $(cat io/cm) $(cat io/real)";
 
 /// Stands in for the tool's program; goes on after what says when the blow falls, and what it is.
@@ -229,6 +231,35 @@ TEST_P(InterruptionTest, ACheckInIsFinishedByTheNext) {
     EXPECT_EQ(again.code, 0) << again.err.substr(0, 2000);
     EXPECT_EQ(states()["checked in"], Count);
     for (int i = 0; i < Count; i += 7) EXPECT_EQ(m_tool->newestText(unit(i)), text(i, blow.name));
+    EXPECT_EQ(m_tool->holder(unit(3)), "");
+  }
+  EXPECT_EQ(leftInTemp(), "");
+}
+
+TEST_P(InterruptionTest, WhatAKilledToolLeavesIsFinishedByTheNext) {
+  ASSERT_EQ(cm({"property", "set", "--user", "Subversion.CheckOutBatch", ""}).code, 0);
+  constexpr int Few = 6;
+  std::string units;
+  for (int i = 0; i < Few; ++i) units += ' ' + unit(i);
+  constexpr Blow Blows[] = {{"tool", ToolKilled, false, 2}, {"helper", HelperKilled, false, 2}};
+  for (const Blow& blow : Blows) {
+    SCOPED_TRACE(blow.name);
+    const bool isMet = GetParam().checkOut.program != std::string("chmod");
+    if (isMet || blow.command == HelperKilled) {
+      runInto(GetParam().checkOut, blow, "checkout" + units);
+      states();
+    }
+    const Ended out = cm({"checkout", "-r", "parts"});
+    EXPECT_EQ(out.code, 0) << out.err.substr(0, 2000);
+    m_words.push_back(blow.name);
+    for (int i = 0; i < Few; ++i) m_sandbox.write("model/" + unit(i), text(i, blow.name));
+    holdUpInHook();
+    runInto(GetParam().checkIn, blow, "checkin -m changed" + units);
+    states();
+    const Ended in = cm({"checkin", "--all", "-m", "changed"});
+    EXPECT_EQ(in.code, 0) << in.err.substr(0, 2000);
+    EXPECT_EQ(states()["checked in"], Count);
+    for (int i = 0; i < Few; ++i) EXPECT_EQ(m_tool->newestText(unit(i)), text(i, blow.name));
     EXPECT_EQ(m_tool->holder(unit(3)), "");
   }
   EXPECT_EQ(leftInTemp(), "");

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <nlohmann/json.hpp>
 
 #include "tests/live/Tool.h"
@@ -53,6 +54,7 @@ TEST_P(KeptTest, GivenUpChangesComeBack) {
   EXPECT_TRUE(cm({"kept", "show", m_unit}).out == mine);
 
   EXPECT_EQ(cm({"kept", "restore", m_unit}).code, 3) << "it is not checked out";
+  EXPECT_EQ(cm({"--dry-run", "kept", "restore", m_unit}).code, 3) << "the plan knows that";
   EXPECT_EQ(m_sandbox.read("model/" + m_unit), m_archived);
   ASSERT_EQ(cm({"checkout", m_unit}).code, 0);
   ASSERT_EQ(cm({"kept", "restore", m_unit}).code, 0);
@@ -75,6 +77,16 @@ TEST_P(KeptTest, NothingIsKeptWhereNothingChanges) {
   for (const auto& [name, state] : m_sandbox.files("model/.veldra")) {
     EXPECT_EQ(name, ".gitignore");
   }
+}
+
+TEST_P(KeptTest, WhatAToolLeavesOfADeletedPackageIsKept) {
+  ASSERT_EQ(
+      cm({"property", "set", "--user", std::string(GetParam()) + ".DeleteDirectory", "true"}).code,
+      0);
+  m_sandbox.write("model/Milk/never-added.puml", "mine");
+  ASSERT_EQ(cm({"delete", "-r", "Milk", "-m", "no milk"}).code, 0);
+  EXPECT_FALSE(std::filesystem::exists(m_sandbox.path("model/Milk")));
+  EXPECT_EQ(cm({"kept", "show", "Milk/never-added.puml"}).out, "mine");
 }
 
 TEST_P(KeptTest, AFileThatCannotBeKeptIsLeftAlone) {

@@ -115,6 +115,20 @@ TEST_F(ProviderCommandTest, AComparisonWithANewerVersionLeavesTheFileAsItIs) {
   EXPECT_EQ(m_sandbox.shell("svn status -q model").out, "") << "hers would be undone by a check-in";
 }
 
+TEST_F(ProviderCommandTest, TheDoctorLooksAtTheProvider) {
+  connectSample();
+  const Ended well = in("model", {"doctor"});
+  EXPECT_EQ(well.code, 0) << well.out;
+  EXPECT_THAT(well.out, AllOf(HasSubstr("ok    library: "), HasSubstr("can be listed")));
+  std::string registry = m_sandbox.read("user.toml");
+  const std::string library = VELDRA_SUBVERSION_PROVIDER;
+  registry.replace(registry.find(library), library.size(), "/no/such/library.so");
+  m_sandbox.write("user.toml", registry);
+  const Ended ill = in("model", {"doctor"});
+  EXPECT_EQ(ill.code, 1);
+  EXPECT_THAT(ill.out, AllOf(HasSubstr("FAIL  library: "), HasSubstr("provider install")));
+}
+
 TEST_F(ProviderCommandTest, AnInterruptEndsACallThatHangs) {
   m_sandbox.copySample("model");
   makeProject();

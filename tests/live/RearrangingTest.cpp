@@ -116,6 +116,29 @@ TEST_P(RearrangingTest, APackageIsMovedAndRenamedWithEverythingInIt) {
   expectAgreement();
 }
 
+TEST_P(RearrangingTest, AFolderWithoutAFileOfItsOwnIsAPackageLikeAnyOther) {
+  m_sandbox.write("model/Plans 1.0/deep/A.puml", "@startuml\nA -> B\n@enduml\n");
+  m_sandbox.write("model/Plans 1.0/B.puml", "@startuml\nC -> D\n@enduml\n");
+  inModel(0, {"add", "-r", "Plans 1.0", "-m", "first"});
+  inModel(0, {"checkout", "Plans 1.0/B.puml"});
+  EXPECT_THAT(inModel(3, {"move", "Plans 1.0", "Plans 1.0/deep"}).err, HasSubstr("into itself"));
+  inModel(0, {"--dry-run", "move", "Plans 1.0", "Milk"});
+  inModel(0, {"move", "Plans 1.0", "Milk", "-m", "moved"});
+  inModel(0, {"rename", "Milk::Plans 1.0", "Plans; 2.0", "-m", "renamed"});
+  EXPECT_TRUE(m_sandbox.isWritable("model/Milk/Plans; 2.0/B.puml"));
+  expectTrail("Milk::Plans; 2.0::deep::A");
+  expectAgreement();
+  inModel(0, {"undo", "Milk/Plans; 2.0/B.puml"});
+  inModel(3, {"delete", "Milk/Plans; 2.0"});
+  inModel(0, {"delete", "-r", "Milk/Plans; 2.0", "-m", "no plans"});
+  EXPECT_FALSE(std::filesystem::exists(m_sandbox.path("model/Milk/Plans; 2.0")));
+  expectAgreement();
+  // What the project does not know is no package of it.
+  m_sandbox.write("model/.hidden/x", "x");
+  inModel(3, {"delete", "-r", ".hidden"});
+  EXPECT_EQ(m_sandbox.read("model/.hidden/x"), "x");
+}
+
 TEST_P(RearrangingTest, DeletedUnitsLeaveTheArchiveTheModelAndTheDisk) {
   inModel(0, {"delete", "Brewing/Grinder.vcmp", "-m", "no longer"});
   inModel(3, {"delete", "Milk"});

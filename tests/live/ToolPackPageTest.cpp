@@ -115,5 +115,56 @@ TEST(Doctor, EveryFailingLineSaysWhatToDo) {
   EXPECT_EQ(sandbox.cm({"doctor"}).code, 3) << "no tool";
 }
 
+class DoctorOfAProject : public testing::Test {
+ protected:
+  void SetUp() override {
+    if (!isInstalled("ci")) GTEST_SKIP() << "RCS is not installed";
+    m_sandbox.write("model/Flow.puml", "@startuml\n@enduml\n");
+    ASSERT_EQ(
+        m_sandbox.cm({"init", "model", "--name", "M", "--tool", "RCS", "--archive", "archive"})
+            .code,
+        0);
+  }
+  /// The checks by name.
+  std::map<std::string, nlohmann::json> checks(std::vector<std::string> options = {}) {
+    options.insert(options.end(), {"-p", "model", "--json", "doctor"});
+    std::map<std::string, nlohmann::json> checks;
+    const auto document = nlohmann::json::parse(m_sandbox.cm(options).out);
+    for (const auto& check : document["checks"]) checks[check["name"]] = check;
+    return checks;
+  }
+  Sandbox m_sandbox;
+};
+
+TEST_F(DoctorOfAProject, ADryRunAsksNobodyAndFindsNothingWrong) {
+  const auto found = checks({"--dry-run"});
+  for (const char* name : {"version", "archive"}) {
+    EXPECT_EQ(found.at(name)["ok"], true);
+    EXPECT_THAT(found.at(name)["finding"], HasSubstr("not asked in a dry run"));
+  }
+  EXPECT_EQ(found.count("round trip: init"), 0U);
+}
+
+TEST_F(DoctorOfAProject, TellsOnceWhatToDoAboutAnArchiveThatIsAway) {
+  m_sandbox.shell("mv archive away");
+  const auto found = checks();
+  EXPECT_EQ(found.at("archive")["ok"], false);
+  EXPECT_THAT(found.at("archive")["advice"], HasSubstr("property get Archive"));
+  EXPECT_THAT(found.at("archive")["finding"], Not(HasSubstr("advice:")));
+  EXPECT_EQ(found.count("rights"), 0U);
+  EXPECT_EQ(found.at("round trip: delete")["ok"], true);
+}
+
+TEST_F(DoctorOfAProject, StartsNothingForAProjectThatIsNotTrusted) {
+  std::string project = m_sandbox.read("model/M.vdy");
+  const std::string archive = "\"Archive\":";
+  project.insert(project.find(archive), "\"VersionCommand\": \"touch ran\", ");
+  m_sandbox.write("model/M.vdy", project);
+  const auto found = checks();
+  EXPECT_EQ(found.at("trust")["ok"], false);
+  EXPECT_THAT(found.at("version")["finding"], HasSubstr("trusted"));
+  EXPECT_EQ(found.at("version")["ok"], true);
+}
+
 }  // namespace
 }  // namespace veldra::live

@@ -62,11 +62,9 @@ void show(const Invocation& invocation, const KeptCopies& kept, const KeptCopy& 
 
 void restore(const Invocation& invocation, KeptCopies& kept, const KeptCopy& copy) {
   const std::string file = kept.originalOf(copy);
-  if (!invocation.options.dryRun) {
-    if (const auto failure = kept.restore(copy, invocation.options.force)) {
-      throw CommandError(ExitCode::NothingDone, *failure);
-    }
-  }
+  const auto failure = invocation.options.dryRun ? kept.objectionTo(copy, invocation.options.force)
+                                                 : kept.restore(copy, invocation.options.force);
+  if (failure) throw CommandError(ExitCode::NothingDone, *failure);
   if (invocation.options.json) {
     printCopies(invocation, {copy});
   } else {
