@@ -242,6 +242,7 @@ TEST_P(InterruptionTest, WhatAKilledToolLeavesIsFinishedByTheNext) {
   std::string units;
   for (int i = 0; i < Few; ++i) units += ' ' + unit(i);
   constexpr Blow Blows[] = {{"tool", ToolKilled, false, 2}, {"helper", HelperKilled, false, 2}};
+  holdUpInHook();
   for (const Blow& blow : Blows) {
     SCOPED_TRACE(blow.name);
     const bool isMet = GetParam().checkOut.program != std::string("chmod");
@@ -253,7 +254,6 @@ TEST_P(InterruptionTest, WhatAKilledToolLeavesIsFinishedByTheNext) {
     EXPECT_EQ(out.code, 0) << out.err.substr(0, 2000);
     m_words.push_back(blow.name);
     for (int i = 0; i < Few; ++i) m_sandbox.write("model/" + unit(i), text(i, blow.name));
-    holdUpInHook();
     runInto(GetParam().checkIn, blow, "checkin -m changed" + units);
     states();
     const Ended in = cm({"checkin", "--all", "-m", "changed"});

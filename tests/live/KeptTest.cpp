@@ -85,7 +85,7 @@ TEST_P(KeptTest, WhatAToolLeavesOfADeletedPackageIsKept) {
       0);
   m_sandbox.write("model/Milk/never-added.puml", "mine");
   ASSERT_EQ(cm({"delete", "-r", "Milk", "-m", "no milk"}).code, 0);
-  EXPECT_FALSE(std::filesystem::exists(m_sandbox.path("model/Milk")));
+  EXPECT_FALSE(std::filesystem::exists(m_sandbox.path("model/Milk/never-added.puml")));
   EXPECT_EQ(cm({"kept", "show", "Milk/never-added.puml"}).out, "mine");
 }
 

@@ -150,7 +150,7 @@ TEST_F(DoctorOfAProject, TellsOnceWhatToDoAboutAnArchiveThatIsAway) {
   const auto found = checks();
   EXPECT_EQ(found.at("archive")["ok"], false);
   EXPECT_THAT(found.at("archive")["advice"], HasSubstr("property get Archive"));
-  EXPECT_THAT(found.at("archive")["finding"], Not(HasSubstr("advice:")));
+  EXPECT_THAT(found.at("archive")["finding"], testing::Not(HasSubstr("advice:")));
   EXPECT_EQ(found.count("rights"), 0U);
   EXPECT_EQ(found.at("round trip: delete")["ok"], true);
 }
