@@ -59,12 +59,27 @@ TEST_F(DeleteMoveRenameTest, APackageWithADirectoryIsDeletedWithIt) {
   EXPECT_THAT(commands()[1], "rm /plan/pkg/pkg.vpk");
 }
 
-TEST_F(DeleteMoveRenameTest, APackageWithoutAFileIsNotDeletedByTheDirectoryTemplate) {
+TEST_F(DeleteMoveRenameTest, APackageWithoutAFileIsNamedByItsDirectoryOrNotAtAll) {
   package.record.fileName.clear();
+  inFile.record.fileName.clear();
+  m_units = {&package, &inFile};
+  callOnUnits<CMDeleteMember>();
+  EXPECT_THAT(commands(), ElementsAre("rmdir /opt/veldra /plan/pkg"));
+  EXPECT_EQ(m_host.memoryProgress.ended.back().end, UnitEnd::Refused) << "it has no place at all";
+  forgetEvents();
   m_units = {&package};
-  EXPECT_EQ(callOnUnits<CMDeleteMember>(), 0);
+  EXPECT_EQ(move("/plan/to"), 1);
+  EXPECT_EQ(rename(&package, "/plan/pkg/", "/plan/other/"), 1);
+  EXPECT_THAT(commands(), ElementsAre("to /plan/pkg /plan/to/pkg ",
+                                      "mvdir /plan/pkg /plan/other /plan/pkg/ /plan/other/"));
+  forgetEvents();
+  for (const char* name : {IPN::DeleteDirectory, IPN::MoveDirectory, IPN::RenameDirectory}) {
+    unset(name);
+  }
+  callOnUnits<CMDeleteMember>();
+  move("/plan/to");
+  rename(&package, "/plan/pkg/", "/plan/other/");
   EXPECT_THAT(commands(), IsEmpty());
-  EXPECT_EQ(m_host.memoryProgress.ended.back().end, UnitEnd::Refused);
 }
 
 TEST_F(DeleteMoveRenameTest, ADirectoryIsDeletedByPlainReplacement) {

@@ -94,6 +94,21 @@ TEST_F(RearrangementTest, whatATtoolLeavesLyingFollowsByItself) {
   EXPECT_FALSE(fs::exists(model.path("A")));
 }
 
+TEST_F(RearrangementTest, whatTheToolLeavesOfADeletedFolderGoesOnlyWithLeave) {
+  Result<Rearrangement> plan = Rearrangement::planDelete(unit("A/A.vpkg"), true);
+  ASSERT_TRUE(plan && plan->prepare() == std::nullopt);
+  fs::remove(model.path("A/x.vcmp"));
+  std::vector<std::string> asked;
+  plan->carryOut([&asked](const std::string& file) {
+    asked.push_back(file);
+    return !file.ends_with("notes.txt");
+  });
+  EXPECT_THAT(asked, testing::Contains(model.path("A/B/notes.txt")));
+  EXPECT_THAT(asked, testing::Not(testing::Contains(model.path("A/x.vcmp"))));
+  EXPECT_EQ(model.read("A/B/notes.txt"), "notes");
+  EXPECT_FALSE(fs::exists(model.path("A/A.vpkg")));
+}
+
 TEST_F(RearrangementTest, aRenamedPackageRenamesItsFolderAndItsName) {
   carryOut(Rearrangement::planRename(unit("A/A.vpkg"), "New: Name"), [this] {
     moveOnDisk("A", "New_ Name");
