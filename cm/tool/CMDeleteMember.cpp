@@ -13,7 +13,8 @@ const OperationRow& CMDeleteMember::row() const {
       .templateProperty = IPN::Delete,
       .traceBefore = "Executing the following command to delete the file: ",
       .traceAfter = "Delete file command returned the following: ",
-      .isHybrid = true};
+      .isHybrid = true,
+      .tellsNotes = true};
   return row;
 }
 

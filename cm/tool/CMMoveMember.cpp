@@ -19,7 +19,8 @@ constexpr OperationRow MoveRow{
     .traceBefore = "Executing the following command to move the file(s): ",
     .traceAfter = "Move command returned the following: ",
     .keeps = KeepRule::WritableFiles,
-    .isHybrid = true};
+    .isHybrid = true,
+    .tellsNotes = true};
 
 /// Moves what lies below one path to another path.
 class ContentMove : public UnitCommand {

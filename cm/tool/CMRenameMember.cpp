@@ -15,7 +15,8 @@ const OperationRow& CMRenameMember::row() const {
       .traceBefore = "Executing the following command to rename the file: ",
       .traceAfter = "Rename command returned the following: ",
       .keeps = KeepRule::WritableFiles,
-      .isHybrid = true};
+      .isHybrid = true,
+      .tellsNotes = true};
   return row;
 }
 

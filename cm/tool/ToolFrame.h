@@ -28,6 +28,7 @@ struct OperationRow {
   bool isHybrid = false;               ///< Serves projects that select the provider, too.
   bool tellsUnchanged = false;  ///< Its commands may find that there was nothing to do: they print
                                 ///< a line "unchanged: " with the unit's full name.
+  bool tellsNotes = false;      ///< Lines "note: " of its commands are for the user.
 };
 
 /// The template of a command, and where it is looked up when a provider is selected.

@@ -159,6 +159,7 @@ void UnitCommand::tellRemark(const ToolAnswer& answer, const std::string& file,
   if (row().tellsUnchanged && answer.files(UnchangedMark).contains(file)) {
     return progress.endsAsUnchanged(file);
   }
+  if (!row().tellsNotes) return;
   std::string notes;
   for (const std::string_view note : answer.marked(NoteMark)) {
     notes.append(notes.empty() ? "" : "\n").append(note);
