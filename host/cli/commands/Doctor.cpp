@@ -72,7 +72,7 @@ ExitCode runDoctor(const Invocation& invocation) {
     const bool hasProject = session.openProjectIfAny();
     if (isAboutProvider(session, hasProject)) {
       checks = checkProvider(session);
-      print(invocation, checks.front().finding, checks);
+      print(invocation, "source-control provider", checks);
       return exitCodeOf(checks);
     }
     tool = toolOf(session);

@@ -47,7 +47,7 @@ DoctorChecks checkProvider(Session& session) {
     return {{.name = "provider",
              .isFine = false,
              .finding = "No provider is installed.",
-             .advice = "Give \"veldra-cm provider install LIBRARY\"."}};
+             .advice = "Give \"veldra-cm provider install [LIBRARY]\"."}};
   }
   DoctorChecks checks = {{.name = "provider", .finding = provider->name}};
   checks.push_back(libraryCheck(provider->library));
