@@ -126,7 +126,7 @@ void CCMDialog::showView() {
   if (ViewState::isFlat() && std::exchange(m_isFitDue, false)) fitColumns(*m_list, width());
   updateState();
   m_panel->setCommandsEnabled(true);
-  visibleView()->setFocus();
+  giveFocus(*visibleView());
 }
 
 LineView* CCMDialog::visibleView() const {

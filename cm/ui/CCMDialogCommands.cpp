@@ -149,9 +149,7 @@ void CCMDialog::afterCommand() {
   // A fault may have ended the command anywhere.
   dropGoneUnits();
   m_panel->refresh();
-  if (!m_isRefreshDue) return;
-  m_isRefreshDue = false;
-  refresh40001();
+  if (m_isRefreshDue) refresh40001();
 }
 
 const BatchResults* CCMDialog::results() const {

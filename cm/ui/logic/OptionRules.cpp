@@ -39,6 +39,11 @@ std::string forbiddenCharacters() {
   return std::string(trimmed(characters));
 }
 
+/// Whether a command of a provider is told the mode.
+bool takesMode(DialogCommand command) {
+  return command == DialogCommand::CheckOut || command == DialogCommand::CheckIn;
+}
+
 /// The commands that have a longer name, in the order of these texts.
 constexpr DialogCommand Titled[] = {DialogCommand::Fetch, DialogCommand::CheckOut,
                                     DialogCommand::UndoCheckOut, DialogCommand::CheckIn,
@@ -66,7 +71,10 @@ OptionPresets OptionRules::presets(const CommandRow& row, const UnitList& units)
   const bool isAdd = row.command == DialogCommand::AddToArchive;
   presets.offersDescendants =
       !isAdd && offersDescendants(CheckForDescendentsInSelectedItems(units));
-  if (presets.window == OptionWindow::Provider) presets.takesComment = takesComment(row.command);
+  if (presets.window == OptionWindow::Provider) {
+    presets.takesComment = takesComment(row.command);
+    presets.takesMode = takesMode(row.command);
+  }
   if (row.command == DialogCommand::CheckOut) {
     // Who checks out wants to write, unless the settings say otherwise.
     presets.mode = CMProperty::getProjectBool(IPN::General, "DefaultLockReserveOnCheckOut", true);

@@ -265,6 +265,16 @@ TEST_F(BadInputTest, ASecondDialogWaitsForTheCommandOfTheFirst) {
   expectUsable(second);
 }
 
+TEST_F(BadInputTest, ATipShowsTheSignsOfMarkupThatANameHas) {
+  m_class.record.fileName = "R&D \"a\".vcl";
+  CCMDialog dialog;
+  open(dialog, m_class);
+  const QString tip =
+      listOf(dialog).model()->index(rowOf(dialog, m_class), 0).data(Qt::ToolTipRole).toString();
+  EXPECT_TRUE(Qt::mightBeRichText(tip)) << "otherwise the entities would be seen";
+  EXPECT_TRUE(tip.contains(QStringLiteral("R&amp;D")));
+}
+
 TEST_F(BadInputTest, NoNameForgesWhatIsShownOrBreaksACommand) {
   set("CheckOut", "checkout");
   const std::string names[] = {"<b>bold</b>&amp;<img src=x>",
@@ -274,6 +284,7 @@ TEST_F(BadInputTest, NoNameForgesWhatIsShownOrBreaksACommand) {
                                "\xD7\x90\xD7\x91\xD7\x92",
                                std::string(500, 'n'),
                                "%1 %2 %n",
+                               "two\xE2\x80\xA8lines\xE2\x80\xA9here",
                                "\xFF\xFE broken"};
   const std::string file = m_class.getFullFileName();
   for (const std::string& name : names) {
@@ -287,6 +298,7 @@ TEST_F(BadInputTest, NoNameForgesWhatIsShownOrBreaksACommand) {
     for (const QChar sign : text) {
       EXPECT_NE(sign.category(), QChar::Other_Control) << name;
       EXPECT_NE(sign.category(), QChar::Other_Format) << name;
+      EXPECT_NE(sign.category(), QChar::Separator_Line) << name;
     }
     acceptNextWindow();
     EXPECT_TRUE(dialog.runCommand(ControlId::CheckOut));

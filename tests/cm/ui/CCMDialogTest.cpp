@@ -4,6 +4,8 @@
 #include <QPushButton>
 #include <QTreeView>
 
+#include "cm/core/CMTraitFacade.h"
+#include "cm/templates/CMProperty.h"
 #include "cm/ui/logic/ButtonRules.h"
 #include "cm/ui/logic/ViewState.h"
 #include "tests/cm/ui/DialogTest.h"
@@ -108,6 +110,75 @@ TEST_F(CCMDialogTest, ARefreshSelectsTheSameRowsAgain) {
   }
 }
 
+TEST_F(CCMDialogTest, ARefreshThatComesDuringACommandLeavesTheListSortedAndSelected) {
+  ownNothing();
+  set("CheckOut", "checkout $unit");
+  m_dialog.setView(true);
+  m_dialog.show();
+  select(0);
+  Reply reply;
+  reply.effect = [&] {
+    QCoreApplication::postEvent(&m_dialog, new QEvent(static_cast<QEvent::Type>(RefreshMessage)));
+    CCMDialog::keepPainting();
+  };
+  m_host.scriptedProcesses.answer("checkout", reply);
+  acceptNextWindow();
+  m_dialog.runCommand(ControlId::CheckOut);
+  QTest::qWait(100);
+  EXPECT_EQ(cell(0, 1), QStringLiteral("Boiler"));
+  EXPECT_EQ(m_dialog.GetSelectedCount(), 1U);
+}
+
+TEST_F(CCMDialogTest, ARefreshIsTakenBehindAnOpenWindow) {
+  m_dialog.setView(true);
+  m_dialog.show();
+  select(0);
+  onNextWindow([this](QDialog& window) {
+    m_model.addUnit("New.vcl");
+    QCoreApplication::postEvent(&m_dialog, new QEvent(static_cast<QEvent::Type>(RefreshMessage)));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(list().model()->rowCount(), 5);
+    window.reject();
+  });
+  m_dialog.runCommand(ControlId::CheckOut);
+}
+
+TEST_F(CCMDialogTest, TheViewHasTheFocusAfterACommandAndWhenItIsChosen) {
+  ownNothing();
+  set("CheckOut", "out $unit");
+  m_dialog.show();
+  m_dialog.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&m_dialog));
+  tree().setFocus();
+  QTest::keyClick(&tree(), Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+  // A shortcut shows the button pressed for a moment first.
+  ASSERT_TRUE(QTest::qWaitFor([this] { return list().isVisible(); }));
+  EXPECT_EQ(m_dialog.focusWidget(), &list());
+  select(0);
+  at(m_dialog, ControlId::CheckOut).setFocus();
+  acceptNextWindow();
+  m_dialog.runCommand(ControlId::CheckOut);
+  EXPECT_EQ(m_dialog.focusWidget(), &list());
+  at(m_dialog, ControlId::CheckOut).setFocus();
+  rejectNextWindow();
+  m_dialog.runCommand(ControlId::CheckOut);
+  EXPECT_EQ(m_dialog.focusWidget(), &at(m_dialog, ControlId::CheckOut)) << "it was not given away";
+}
+
+TEST_F(CCMDialogTest, TheProvidersColumnsAreFilledAsSoonAsItIsConnected) {
+  useProvider("Any");
+  m_project.showsStatus = true;
+  m_class.record.state = CMState::Controlled;
+  CCMDialog dialog;
+  dialog.setView(true);
+  const QAbstractItemModel& model = *at<QTreeView>(dialog, ControlId::FlatList).model();
+  ASSERT_EQ(model.columnCount(), 6);
+  EXPECT_EQ(model.index(0, 4).data().toString(), QString());
+  CMProperty::setIsConnected(true);
+  dialog.CmFillCI();
+  EXPECT_NE(model.index(0, 4).data().toString(), QString());
+}
+
 TEST_F(CCMDialogTest, CheckOutAndCheckInByKeyboardAlone) {
   ownNothing();
   set("CheckOut", "out $unit");
@@ -186,6 +257,31 @@ TEST_F(CCMDialogTest, WithoutAProjectItSaysWhatToDoFirst) {
   const CCMDialog dialog;
   EXPECT_FALSE(at(dialog, ControlId::EmptyState).isHidden());
   EXPECT_TRUE(at(dialog, ControlId::FlatList).isHidden());
+}
+
+TEST_F(CCMDialogTest, NoKindOfInputGetsThroughWhileACommandRuns) {
+  ownNothing();
+  set("CheckOut", "checkout $unit");
+  m_dialog.setView(true);
+  m_dialog.show();
+  select(0);
+  auto& filter = at<QLineEdit>(m_dialog, ControlId::Filter);
+  bool isHeld = false;
+  Reply reply;
+  reply.effect = [&] {
+    QInputMethodEvent composed(QString(), {});
+    composed.setCommitString(QStringLiteral("Boil"));
+    QCoreApplication::sendEvent(&filter, &composed);
+    const QPointF below = list().visualRect(list().model()->index(2, 0)).center();
+    QMouseEvent drawn(QEvent::MouseMove, below, below, Qt::NoButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(list().viewport(), &drawn);
+    isHeld = filter.text().isEmpty() && m_dialog.GetSelectedCount() == 1;
+  };
+  m_host.scriptedProcesses.answer("checkout", reply);
+  acceptNextWindow();
+  m_dialog.runCommand(ControlId::CheckOut);
+  EXPECT_TRUE(isHeld);
 }
 
 TEST_F(CCMDialogTest, ItCannotBeClosedWhileACommandRuns) {
