@@ -19,7 +19,6 @@ namespace {
 
 constexpr char BlockStart[] = "\"ARG=";
 
-
 std::string archiveOf(const IUnit& unit) {
   std::string project;
   std::string auxPath;

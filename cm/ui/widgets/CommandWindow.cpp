@@ -64,9 +64,8 @@ void CommandWindow::keepPainting() {
 
 bool CommandWindow::isOneAtWork() {
   const std::vector<CommandWindow*>& windows = openWindows();
-  return std::any_of(windows.begin(), windows.end(), [](const CommandWindow* window) {
-    return window->m_heldInput != nullptr;
-  });
+  return std::any_of(windows.begin(), windows.end(),
+                     [](const CommandWindow* window) { return window->m_heldInput != nullptr; });
 }
 
 bool CommandWindow::allowsAnother() {
