@@ -79,6 +79,7 @@ void CCMDialog::runUserCommand(DialogCommand command) {
 }
 
 void CCMDialog::RunUserDefCommandFromBrowser(const std::string& command, IUnit* unit) {
+  if (!allowsAnother()) return;
   NewCmSelectedItem(unit);
   UserDefinedCommand::RunUserDefCommand(command, m_selection.alive());
   dropGoneUnits();

@@ -3,7 +3,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScopedValueRollback>
-#include <QTimer>
 #include <QTreeView>
 #include <unordered_set>
 
@@ -20,11 +19,6 @@
 #include "cm/ui/widgets/UnitTreeModel.h"
 
 namespace veldra {
-
-namespace {
-/// How soon a refresh is tried again that came while a command was at work.
-constexpr int RetryMilliseconds = 50;
-}  // namespace
 
 void CCMDialog::updateList() {
   const RefillScope once(*this);
@@ -141,12 +135,7 @@ void CCMDialog::DoAfterOpRefresh() {
 void CCMDialog::refresh40001() {
   // A window that a command has opened above this one lets it list anew; work does not.
   m_isRefreshDue = isRunning() && isOneAtWork();
-  if (m_isRefreshDue) {
-    QTimer::singleShot(RetryMilliseconds, this, [this] {
-      if (m_isRefreshDue) refresh40001();
-    });
-    return;
-  }
+  if (m_isRefreshDue) return m_retry.start();
   m_selection.clear();
   const RefillScope once(*this);
   updateList();

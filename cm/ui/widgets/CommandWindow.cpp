@@ -140,6 +140,10 @@ void CommandWindow::layOutFoot(QVBoxLayout& column) {
   foot->addWidget(close);
   column.addWidget(m_failures);
   column.addLayout(foot);
+  // It was made before all others, and stands above Close.
+  auto* const select = findControl<QPushButton>(*m_failures, ControlId::SelectFailed);
+  setTabOrder(close, select);
+  setTabOrder(select, close);
 }
 
 void CommandWindow::restorePlace(const QSize& firstSize) {

@@ -94,6 +94,7 @@ void MainWindow::afterWork() {
   // What others did meanwhile comes in with it.
   Project* project = m_session.project();
   apply(project ? m_disk.look(*project) : DiskChange());
+  m_session.work().discardInput();
 }
 
 void MainWindow::tellReport(const CommandReport& report, const QString& operation) {
