@@ -108,17 +108,19 @@ bool CommandRun::askFirst(const CommandRow& row, CommandOptions& options) {
   if (window == OptionWindow::Question) return askUndo(options);
   if (row.command == DialogCommand::Fetch && skipsFetchWindow()) return true;
   if (row.command == DialogCommand::AddToArchive && !askSubUnits(options)) return false;
-  const bool subUnits = options.withDescendants;
-  if (!askWindow(row, options)) return false;
-  options.withDescendants = options.withDescendants || subUnits;
-  return true;
+  return askWindow(row, options);
 }
 
 bool CommandRun::askWindow(const CommandRow& row, CommandOptions& options) {
-  const std::optional<CommandOptions> chosen =
-      m_view.askOptions(OptionRules::presets(row, m_selection.alive()));
-  if (chosen) options = *chosen;
-  return chosen.has_value();
+  OptionPresets presets = OptionRules::presets(row, m_selection.alive());
+  presets.withDescendants = options.withDescendants;
+  const std::optional<CommandOptions> chosen = m_view.askOptions(presets);
+  if (!chosen) return false;
+  // An answer that the window did not show still holds.
+  const bool isAnswered = presets.withDescendants && !presets.offersDescendants;
+  options = *chosen;
+  options.withDescendants = chosen->withDescendants || isAnswered;
+  return true;
 }
 
 bool CommandRun::askUndo(CommandOptions& options) {
@@ -135,7 +137,7 @@ bool CommandRun::askUndo(CommandOptions& options) {
 }
 
 bool CommandRun::askSubUnits(CommandOptions& options) {
-  if (!CMProperty::getProjectBool(IPN::General, "AddArchiveWithSubUnits", false)) return true;
+  if (!OptionRules::addsSubUnits()) return true;
   const std::optional<bool> take = askYesNo(MessageId::AddSubUnits);
   options.withDescendants = take.value_or(false);
   return take.has_value();

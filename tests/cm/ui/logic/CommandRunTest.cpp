@@ -296,6 +296,8 @@ TEST_F(CommandRunTest, AddAsksAboutSubUnitsOnlyWhenTheSettingWantsIt) {
   EXPECT_FALSE(run(DialogCommand::AddToArchive));
   m_host.memoryMessages.answer = MessageBox::AnswerYes;
   EXPECT_TRUE(run(DialogCommand::AddToArchive));
+  EXPECT_TRUE(m_view.asked.back().offersDescendants);
+  EXPECT_TRUE(m_view.asked.back().withDescendants) << "the window shows the answer";
   EXPECT_EQ(m_backEnds.calls, (Lines{"tool.addMember", "tool.addMember"}));
 }
 
