@@ -73,8 +73,8 @@ OptionPresets OptionRules::presets(const CommandRow& row, const UnitList& units)
       presets.offersInformationFiles &&
       InformationFiles::shouldSetInformationFilesCheckBoxForUnitsList2(units);
   const bool isAdd = row.command == DialogCommand::AddToArchive;
-  presets.offersDescendants = (!isAdd || addsSubUnits()) &&
-                              offersDescendants(CheckForDescendentsInSelectedItems(units));
+  presets.offersDescendants =
+      (!isAdd || addsSubUnits()) && offersDescendants(CheckForDescendentsInSelectedItems(units));
   if (presets.window == OptionWindow::Provider) {
     presets.takesComment = takesComment(row.command);
     presets.takesMode = takesMode(row.command);

@@ -12,30 +12,10 @@
 #include "cm/ui/logic/ButtonRules.h"
 #include "tests/cm/ui/DialogTest.h"
 #include "tests/host/platform/Faults.h"
-
-#if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/lsan_interface.h>
-#endif
+#include "tests/support/LeaksAreExpected.h"
 
 namespace veldra::test {
 namespace {
-
-/// What a fault jumps over is never freed; the leak checker is not to tell of that.
-class LeaksAreExpected {
- public:
-#if defined(__SANITIZE_ADDRESS__)
-  LeaksAreExpected() {
-    __lsan_disable();
-  }
-  ~LeaksAreExpected() {
-    __lsan_enable();
-  }
-#else
-  LeaksAreExpected() {}
-#endif
-  LeaksAreExpected(const LeaksAreExpected&) = delete;
-  LeaksAreExpected& operator=(const LeaksAreExpected&) = delete;
-};
 
 /// A user who says yes to every window that comes up, and counts them.
 class Yes : public QObject {

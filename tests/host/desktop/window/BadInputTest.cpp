@@ -25,6 +25,7 @@
 #include "tests/host/desktop/SampleProject.h"
 #include "tests/host/desktop/ScriptedQuestions.h"
 #include "tests/host/platform/Faults.h"
+#include "tests/support/LeaksAreExpected.h"
 
 namespace veldra::host::desktop {
 namespace {
@@ -149,7 +150,10 @@ TEST_F(DesktopBadInputTest, ACommandThatCrashesOrThrowsInsideTheHostIsTold) {
   for (const auto& fault : faults) {
     m_questions.asked.clear();
     CMFacade::saveCallbackFunc() = fault;
-    EXPECT_FALSE(runCommandOn(ControlId::UserCommand1, {}, &m_window));
+    {
+      const test::LeaksAreExpected leaks;
+      EXPECT_FALSE(runCommandOn(ControlId::UserCommand1, {}, &m_window));
+    }
     EXPECT_THAT(asked(), Not(IsEmpty()));
     CMFacade::saveCallbackFunc() = {};
     m_window.lookAtDisk();
