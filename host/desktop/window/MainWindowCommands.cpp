@@ -41,7 +41,7 @@ void MainWindow::runCommand(const WindowCommand& row) {
   BatchResults& results = m_session.work().results();
   const bool isDone = runCommandOn(controlIdOf(row.command), selectedUnits(false), this, &results);
   tellEnd(row, isDone);
-  rememberOwnWork();
+  if (row.changesArchive) rememberOwnWork();
   if (m_archive.isKnown() && row.changesArchive) listArchive();
   afterWork();
 }
