@@ -1,40 +1,17 @@
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <QTreeView>
 
 #include "cm/core/CMTraitFacade.h"
 #include "cm/templates/CMProperty.h"
 #include "cm/ui/logic/ButtonRules.h"
 #include "cm/ui/logic/ViewState.h"
-#include "tests/cm/ui/DialogTest.h"
+#include "tests/cm/ui/MainDialogTest.h"
 
 namespace veldra::test {
 namespace {
 
-class CCMDialogTest : public DialogTest {
- protected:
-  QTreeView& list() { return at<QTreeView>(m_dialog, ControlId::FlatList); }
-  QTreeView& tree() { return at<QTreeView>(m_dialog, ControlId::UnitTree); }
-  QString cell(int row, int column) { return list().model()->index(row, column).data().toString(); }
-  void select(int row) {
-    list().selectionModel()->select(list().model()->index(row, 0),
-                                    QItemSelectionModel::Select | QItemSelectionModel::Rows);
-  }
-  /// Reloads put new units in the place of the old ones, which the owners here would not notice.
-  void ownNothing() {
-    m_project.record.aggregates.clear();
-    m_package.record.aggregates.clear();
-    m_dialog.DoAfterOpRefresh();
-  }
-  std::string lastMessage() const {
-    const auto& asked = m_host.memoryMessages.asked;
-    return asked.empty() ? "" : asked.back().text.substr(0, 5);
-  }
-
-  CCMDialog m_dialog;
-};
+using CCMDialogTest = MainDialogTest;
 
 TEST_F(CCMDialogTest, EveryControlIsFoundByItsNumberAndSaysItsName) {
   std::vector<int> ids{ControlId::UnitTree, ControlId::FlatList, ControlId::Filter,
@@ -110,61 +87,6 @@ TEST_F(CCMDialogTest, ARefreshSelectsTheSameRowsAgain) {
   }
 }
 
-TEST_F(CCMDialogTest, ARefreshThatComesDuringACommandLeavesTheListSortedAndSelected) {
-  ownNothing();
-  set("CheckOut", "checkout $unit");
-  m_dialog.setView(true);
-  m_dialog.show();
-  select(0);
-  Reply reply;
-  reply.effect = [&] {
-    QCoreApplication::postEvent(&m_dialog, new QEvent(static_cast<QEvent::Type>(RefreshMessage)));
-    CCMDialog::keepPainting();
-  };
-  m_host.scriptedProcesses.answer("checkout", reply);
-  acceptNextWindow();
-  m_dialog.runCommand(ControlId::CheckOut);
-  QTest::qWait(100);
-  EXPECT_EQ(cell(0, 1), QStringLiteral("Boiler"));
-  EXPECT_EQ(m_dialog.GetSelectedCount(), 1U);
-}
-
-TEST_F(CCMDialogTest, ARefreshIsTakenBehindAnOpenWindow) {
-  m_dialog.setView(true);
-  m_dialog.show();
-  select(0);
-  onNextWindow([this](QDialog& window) {
-    m_model.addUnit("New.vcl");
-    QCoreApplication::postEvent(&m_dialog, new QEvent(static_cast<QEvent::Type>(RefreshMessage)));
-    QCoreApplication::processEvents();
-    EXPECT_EQ(list().model()->rowCount(), 5);
-    window.reject();
-  });
-  m_dialog.runCommand(ControlId::CheckOut);
-}
-
-TEST_F(CCMDialogTest, TheViewHasTheFocusAfterACommandAndWhenItIsChosen) {
-  ownNothing();
-  set("CheckOut", "out $unit");
-  m_dialog.show();
-  m_dialog.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&m_dialog));
-  tree().setFocus();
-  QTest::keyClick(&tree(), Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
-  // A shortcut shows the button pressed for a moment first.
-  ASSERT_TRUE(QTest::qWaitFor([this] { return list().isVisible(); }));
-  EXPECT_EQ(m_dialog.focusWidget(), &list());
-  select(0);
-  at(m_dialog, ControlId::CheckOut).setFocus();
-  acceptNextWindow();
-  m_dialog.runCommand(ControlId::CheckOut);
-  EXPECT_EQ(m_dialog.focusWidget(), &list());
-  at(m_dialog, ControlId::CheckOut).setFocus();
-  rejectNextWindow();
-  m_dialog.runCommand(ControlId::CheckOut);
-  EXPECT_EQ(m_dialog.focusWidget(), &at(m_dialog, ControlId::CheckOut)) << "it was not given away";
-}
-
 TEST_F(CCMDialogTest, TheProvidersColumnsAreFilledAsSoonAsItIsConnected) {
   useProvider("Any");
   m_project.showsStatus = true;
@@ -177,42 +99,6 @@ TEST_F(CCMDialogTest, TheProvidersColumnsAreFilledAsSoonAsItIsConnected) {
   CMProperty::setIsConnected(true);
   dialog.CmFillCI();
   EXPECT_NE(model.index(0, 4).data().toString(), QString());
-}
-
-TEST_F(CCMDialogTest, CheckOutAndCheckInByKeyboardAlone) {
-  ownNothing();
-  set("CheckOut", "out $unit");
-  set("CheckIn", "in $unit $log");
-  m_dialog.setView(true);
-  m_dialog.show();
-  list().setCurrentIndex(list().model()->index(0, 0));
-  QTest::keyClick(&list(), Qt::Key_Down, Qt::ShiftModifier);
-  EXPECT_EQ(m_dialog.GetSelectedCount(), 2U);
-  onNextWindow([](QDialog& window) { QTest::keyClick(&window, Qt::Key_Return); });
-  QTest::keyClick(&at(m_dialog, ControlId::CheckOut), Qt::Key_Space);
-  onNextWindow([](QDialog& window) {
-    QTest::keyClicks(&at(window, ControlId::CheckInComment), QStringLiteral("finer"));
-    QTest::keyClick(&at(window, ControlId::CheckInLabel), Qt::Key_Return);
-  });
-  QTest::keyClick(&at(m_dialog, ControlId::CheckIn), Qt::Key_Space);
-  ASSERT_EQ(commands().size(), 4U);
-  EXPECT_EQ(commands().front(), "out Boiler.vcl");
-  EXPECT_EQ(commands().back(), "in Brewing.vpk finer");
-}
-
-TEST_F(CCMDialogTest, AForbiddenCommentKeepsTheWindowOpen) {
-  set("InValidCharactersInRevisionDescription", " ; ");
-  m_dialog.setView(true);
-  select(0);
-  onNextWindow([this](QDialog& window) {
-    at<QPlainTextEdit>(window, ControlId::CheckInComment).setPlainText(QStringLiteral("a;b"));
-    window.accept();
-    EXPECT_TRUE(window.isVisible());
-    EXPECT_EQ(lastMessage(), "60405");
-    window.reject();
-  });
-  m_dialog.runCommand(ControlId::CheckIn);
-  EXPECT_TRUE(commands().empty());
 }
 
 TEST_F(CCMDialogTest, UnitsThatDieBehindTheDialogLeaveAnEmptyLine) {
@@ -257,52 +143,6 @@ TEST_F(CCMDialogTest, WithoutAProjectItSaysWhatToDoFirst) {
   const CCMDialog dialog;
   EXPECT_FALSE(at(dialog, ControlId::EmptyState).isHidden());
   EXPECT_TRUE(at(dialog, ControlId::FlatList).isHidden());
-}
-
-TEST_F(CCMDialogTest, NoKindOfInputGetsThroughWhileACommandRuns) {
-  ownNothing();
-  set("CheckOut", "checkout $unit");
-  m_dialog.setView(true);
-  m_dialog.show();
-  select(0);
-  auto& filter = at<QLineEdit>(m_dialog, ControlId::Filter);
-  bool isHeld = false;
-  Reply reply;
-  reply.effect = [&] {
-    QInputMethodEvent composed(QString(), {});
-    composed.setCommitString(QStringLiteral("Boil"));
-    QCoreApplication::sendEvent(&filter, &composed);
-    const QPointF below = list().visualRect(list().model()->index(2, 0)).center();
-    QMouseEvent drawn(QEvent::MouseMove, below, below, Qt::NoButton, Qt::LeftButton,
-                      Qt::NoModifier);
-    QCoreApplication::sendEvent(list().viewport(), &drawn);
-    isHeld = filter.text().isEmpty() && m_dialog.GetSelectedCount() == 1;
-  };
-  m_host.scriptedProcesses.answer("checkout", reply);
-  acceptNextWindow();
-  m_dialog.runCommand(ControlId::CheckOut);
-  EXPECT_TRUE(isHeld);
-}
-
-TEST_F(CCMDialogTest, ItCannotBeClosedWhileACommandRuns) {
-  ownNothing();
-  m_dialog.setView(true);
-  m_dialog.show();
-  select(0);
-  bool stayed = false;
-  Reply reply;
-  reply.effect = [&] {
-    m_dialog.close();
-    m_dialog.reject();
-    stayed = m_dialog.isVisible();
-  };
-  m_host.scriptedProcesses.answer("checkout", reply);
-  set("CheckOut", "checkout $unit");
-  acceptNextWindow();
-  m_dialog.runCommand(ControlId::CheckOut);
-  EXPECT_TRUE(stayed);
-  m_dialog.close();
-  EXPECT_FALSE(m_dialog.isVisible());
 }
 
 }  // namespace
