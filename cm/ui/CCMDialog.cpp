@@ -26,6 +26,10 @@
 
 namespace veldra {
 
+namespace {
+constexpr int RetryMilliseconds = 50;
+}  // namespace
+
 CCMDialog::CCMDialog(QWidget* parent)
     : CommandWindow(QStringLiteral("main"), parent),
       m_data(std::make_unique<WorkspaceData>()),
@@ -79,6 +83,11 @@ void CCMDialog::layOutControls() {
 }
 
 void CCMDialog::connectControls() {
+  m_retry.setSingleShot(true);
+  m_retry.setInterval(RetryMilliseconds);
+  connect(&m_retry, &QTimer::timeout, this, [this] {
+    if (m_isRefreshDue) refresh40001();
+  });
   connect(m_panel, &ButtonPanel::pressed, this, &CCMDialog::press);
   connect(m_filter, &QLineEdit::textChanged, this, &CCMDialog::applyFilter);
   connect(m_list->header(), &QHeaderView::sectionClicked, this, &CCMDialog::OnColumnclickFlatlist);
@@ -126,7 +135,7 @@ void CCMDialog::showView() {
   if (ViewState::isFlat() && std::exchange(m_isFitDue, false)) fitColumns(*m_list, width());
   updateState();
   m_panel->setCommandsEnabled(true);
-  visibleView()->setFocus();
+  giveFocus(*visibleView());
 }
 
 LineView* CCMDialog::visibleView() const {

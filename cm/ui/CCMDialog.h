@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <functional>
 #include <string>
 #include <vector>
@@ -144,6 +145,7 @@ class VELDRA_CM_UI_EXPORT CCMDialog : public CommandWindow, private CommandView 
   bool m_isOrderDue = false;
   bool m_isFitDue = true;
   bool m_isRefreshDue = false;
+  QTimer m_retry;  ///< Of a refresh that came while a command was at work.
 };
 
 }  // namespace veldra

@@ -79,6 +79,7 @@ void CCMDialog::runUserCommand(DialogCommand command) {
 }
 
 void CCMDialog::RunUserDefCommandFromBrowser(const std::string& command, IUnit* unit) {
+  if (!allowsAnother()) return;
   NewCmSelectedItem(unit);
   UserDefinedCommand::RunUserDefCommand(command, m_selection.alive());
   dropGoneUnits();
@@ -149,9 +150,7 @@ void CCMDialog::afterCommand() {
   // A fault may have ended the command anywhere.
   dropGoneUnits();
   m_panel->refresh();
-  if (!m_isRefreshDue) return;
-  m_isRefreshDue = false;
-  refresh40001();
+  if (m_isRefreshDue) refresh40001();
 }
 
 const BatchResults* CCMDialog::results() const {

@@ -50,6 +50,8 @@ void CCMDialog::CmFillCI() {
 
 void CCMDialog::fillViews() {
   m_isRefillDue = false;
+  // A command may have opened the context that the provider's columns wait for.
+  if (m_data->texts) m_data->texts.emplace();
   fillVisibleView();
   showRowsAnew();
   applyFilter(m_filter->text());
@@ -75,6 +77,7 @@ bool CCMDialog::fillVisibleView() {
 }
 
 void CCMDialog::showRowsAnew() {
+  m_tree->viewport()->update();
   // A view that is told which rows have changed looks for the place of each; it has to paint no
   // more than it shows. A filter has to look at all of them.
   if (m_list->model() == m_listModel) return m_list->viewport()->update();
@@ -116,6 +119,7 @@ void CCMDialog::OnColumnclickFlatlist(int column) {
 }
 
 void CCMDialog::DoAfterOpRefresh() {
+  m_isRefreshDue = false;
   {
     const RefillScope once(*this);
     // The same rows are selected again in the end.
@@ -129,10 +133,9 @@ void CCMDialog::DoAfterOpRefresh() {
 }
 
 void CCMDialog::refresh40001() {
-  if (isRunning()) {
-    m_isRefreshDue = true;
-    return;
-  }
+  // A window that a command has opened above this one lets it list anew; work does not.
+  m_isRefreshDue = isRunning() && isOneAtWork();
+  if (m_isRefreshDue) return m_retry.start();
   m_selection.clear();
   const RefillScope once(*this);
   updateList();
@@ -212,7 +215,7 @@ void CCMDialog::CmSelectTheItems() {
     selectRows(*m_list, *m_listFilter, *m_listModel, m_selectedRows);
     m_selectedSince = m_list->selectionChanges();
   }
-  m_list->setFocus();
+  giveFocus(*m_list);
   m_list->viewport()->update();
 }
 
@@ -220,7 +223,7 @@ void CCMDialog::restoreTreeSelection() {
   const std::unordered_set<std::string> files(m_selectedFiles.begin(), m_selectedFiles.end());
   if (!files.empty())
     selectFiles([&files](const std::string& file) { return files.contains(file); });
-  m_tree->setFocus();
+  giveFocus(*m_tree);
 }
 
 void CCMDialog::selectFiles(const std::function<bool(const std::string&)>& isMeant) {

@@ -1,8 +1,13 @@
 #include "cm/ui/CommandDoor.h"
 
+#include <algorithm>
+
+#include "cm/host/MessageIds.h"
 #include "cm/ui/OptionWindows.h"
 #include "cm/ui/logic/ButtonRules.h"
 #include "cm/ui/logic/CommandRun.h"
+#include "cm/ui/logic/GuardedCall.h"
+#include "cm/ui/logic/HostTexts.h"
 #include "cm/ui/logic/SelectionRules.h"
 #include "cm/ui/logic/UserDefinedCommand.h"
 #include "cm/ui/logic/compare/UnitComparison.h"
@@ -40,23 +45,31 @@ class GivenUnits : public CommandView {
   const BatchResults* m_results;
 };
 
+bool runOn(DialogCommand command, GivenUnits& view, const UnitList& units) {
+  if (UserDefinedCommand::isBehind(command)) return UserDefinedCommand::run(command, units);
+  if (command == DialogCommand::Compare) return UnitComparison(view).OnVddiff();
+  const CommandRow* const row = commandRow(command);
+  return row != nullptr && CommandRun(view).run(*row);
+}
+
 }  // namespace
 
 bool runCommandOn(int controlId, const UnitList& units, QWidget* parent, BatchResults* results) {
-  for (const ButtonRow& button : buttonTable()) {
-    if (button.controlId != controlId) continue;
-    if (!allowsCommands() || !CommandWindow::allowsAnother()) return false;
-    if (UserDefinedCommand::isBehind(button.command)) {
-      return UserDefinedCommand::run(button.command, units);
-    }
+  const auto rows = buttonTable();
+  const auto button = std::ranges::find(rows, controlId, &ButtonRow::controlId);
+  if (button == rows.end()) return false;
+  const DialogCommand command = button->command;
+  bool isDone = false;
+  const std::optional<std::string> fault = thrownBy([&] {
+    if (!allowsCommands() || !CommandWindow::allowsAnother()) return;
     if (results != nullptr) results->start();
     GivenUnits view(units, parent, results);
-    if (button.command == DialogCommand::Compare) return UnitComparison(view).OnVddiff();
-    const CommandRow* const row = commandRow(button.command);
-    if (row == nullptr) return false;
-    return CommandRun(view).run(*row);
+    isDone = runOn(command, view, units);
+  });
+  if (fault) {
+    dialogError(dialogText(MessageId::InternalError, {ButtonRules::caption(command), *fault}));
   }
-  return false;
+  return isDone && !fault;
 }
 
 }  // namespace veldra

@@ -127,7 +127,7 @@ CMArchiveItemList ItemWindow::CmSelectedItems() {
 
 void ItemWindow::CmSelectTheItems() {
   selectRows(*m_list, *m_unitFilter, *m_model, m_selectedRows);
-  m_list->setFocus();
+  giveFocus(*m_list);
 }
 
 void ItemWindow::applyFilter(const QString& text) {

@@ -37,11 +37,24 @@ bool speaksOf(const CMDiagnostic& diagnostic, const UnitResult& result) {
   return isSameText || message.find(result.file) != std::string::npos;
 }
 
-bool isTold(const UnitResult& result, const DiagnosticList& diagnostics) {
-  return std::any_of(
-      diagnostics.begin(), diagnostics.end(),
-      [&result](const CMDiagnostic& diagnostic) { return speaksOf(diagnostic, result); });
-}
+/// Which units the diagnostics speak of already. Most are told word for word; only the others need
+/// a search.
+class Told {
+ public:
+  explicit Told(const DiagnosticList& diagnostics) : m_diagnostics(diagnostics) {
+    for (const CMDiagnostic& diagnostic : diagnostics) m_messages.insert(diagnostic.getMessage());
+  }
+  bool contains(const UnitResult& result) const {
+    if (!result.words.empty() && m_messages.contains(result.words)) return true;
+    return std::ranges::any_of(m_diagnostics, [&result](const CMDiagnostic& diagnostic) {
+      return speaksOf(diagnostic, result);
+    });
+  }
+
+ private:
+  const DiagnosticList& m_diagnostics;
+  std::unordered_set<std::string_view> m_messages;
+};
 
 }  // namespace
 
@@ -113,10 +126,11 @@ std::string BatchResults::remarks() const {
 }
 
 void BatchResults::addFailures(DiagnosticList& diagnostics) const {
+  const Told told(diagnostics);
   DiagnosticList untold;
   for (const UnitResult& result : m_results) {
     const bool isFine = result.end == UnitEnd::Done || result.end == UnitEnd::Declined;
-    if (isFine || isTold(result, diagnostics)) continue;
+    if (isFine || told.contains(result)) continue;
     untold.emplace_back(CMDiagnostic::Failed, shortPathOf(result.file) + ": " + reasonOf(result),
                         nullptr);
   }

@@ -1,5 +1,7 @@
 #include "cm/ui/logic/CommandRun.h"
 
+#include <algorithm>
+
 #include "cm/core/CMArchive.h"
 #include "cm/core/CMAskOnCheckoutGuard.h"
 #include "cm/core/CMCoCiDisplayStatus.h"
@@ -91,8 +93,7 @@ bool CommandRun::runInside(const CommandRow& row) {
   if (!askFirst(row, options)) return false;
   const bool recursive = options.withDescendants && row.recursive != nullptr;
   const bool succeeded = recursive ? runRecursive(row, options) : runPlain(row, options);
-  finish(row, options, succeeded);
-  return succeeded;
+  return finish(row, options, succeeded);
 }
 
 bool CommandRun::askFirst(const CommandRow& row, CommandOptions& options) {
@@ -107,17 +108,19 @@ bool CommandRun::askFirst(const CommandRow& row, CommandOptions& options) {
   if (window == OptionWindow::Question) return askUndo(options);
   if (row.command == DialogCommand::Fetch && skipsFetchWindow()) return true;
   if (row.command == DialogCommand::AddToArchive && !askSubUnits(options)) return false;
-  const bool subUnits = options.withDescendants;
-  if (!askWindow(row, options)) return false;
-  options.withDescendants = options.withDescendants || subUnits;
-  return true;
+  return askWindow(row, options);
 }
 
 bool CommandRun::askWindow(const CommandRow& row, CommandOptions& options) {
-  const std::optional<CommandOptions> chosen =
-      m_view.askOptions(OptionRules::presets(row, m_selection.alive()));
-  if (chosen) options = *chosen;
-  return chosen.has_value();
+  OptionPresets presets = OptionRules::presets(row, m_selection.alive());
+  presets.withDescendants = options.withDescendants;
+  const std::optional<CommandOptions> chosen = m_view.askOptions(presets);
+  if (!chosen) return false;
+  // An answer that the window did not show still holds.
+  const bool isAnswered = presets.withDescendants && !presets.offersDescendants;
+  options = *chosen;
+  options.withDescendants = chosen->withDescendants || isAnswered;
+  return true;
 }
 
 bool CommandRun::askUndo(CommandOptions& options) {
@@ -134,7 +137,7 @@ bool CommandRun::askUndo(CommandOptions& options) {
 }
 
 bool CommandRun::askSubUnits(CommandOptions& options) {
-  if (!CMProperty::getProjectBool(IPN::General, "AddArchiveWithSubUnits", false)) return true;
+  if (!OptionRules::addsSubUnits()) return true;
   const std::optional<bool> take = askYesNo(MessageId::AddSubUnits);
   options.withDescendants = take.value_or(false);
   return take.has_value();
@@ -157,7 +160,7 @@ bool CommandRun::takeSelection(const CommandRow& row, const CommandOptions& opti
   if (options.withInformationFiles) {
     // An undo asks about the first unit only.
     UnitList asked = units;
-    if (row.command == DialogCommand::UndoCheckOut) asked.resize(1);
+    if (row.command == DialogCommand::UndoCheckOut && !asked.empty()) asked.resize(1);
     InformationFiles::append(asked);
     units.insert(units.end(), asked.begin(), asked.end());
   }
@@ -186,12 +189,18 @@ bool CommandRun::runRecursive(const CommandRow& row, const CommandOptions& optio
   return callRecursive(row, units, options);
 }
 
-/// What the command has loaded already is another object now, and is left alone.
-void CommandRun::reloadBelow(const RecursiveVariant& variant) {
-  if (variant.reloadStarting == nullptr) return;
+/// What the command has loaded already is another object now, and is left alone. False when a fault
+/// of the host ended it.
+bool CommandRun::reloadBelow(const RecursiveVariant& variant) {
+  if (variant.reloadStarting == nullptr) return true;
   traceIfAny(variant.reloadStarting);
-  reloadFiles(m_taken.alive());
+  const auto reload = [this] {
+    reloadFiles(m_taken.alive());
+    return 1;
+  };
+  if (!guardedCall(reload, m_diagnostics)) return false;
   traceIfAny(variant.reloadCompleted);
+  return true;
 }
 
 bool CommandRun::call(const CommandRow& row, UnitCommandFunction function, UnitList& units,
@@ -245,21 +254,40 @@ void CommandRun::tellRemarks() const {
   if (!remarks.empty()) notifyUserAndAsk(remarks, MessageBox::IconInformation);
 }
 
-void CommandRun::finish(const CommandRow& row, const CommandOptions& options, bool succeeded) {
-  const bool hasComment = (row.parts & CallPart::Comment) != 0;
-  if (hasComment) ViewState::keepComment(row.command, succeeded ? std::string() : options.comment);
+void CommandRun::tellFailure(const CommandRow& row) {
+  m_view.dropGoneUnits();
+  showFailure(MessageId::CommandFailed + static_cast<int>(row.command), m_diagnostics);
+}
+
+/// What was typed is offered again as long as a unit is left that needs it.
+void CommandRun::keepComment(const CommandRow& row, const CommandOptions& options,
+                             bool succeeded) const {
+  if ((row.parts & CallPart::Comment) == 0) return;
+  const bool isAllDone =
+      succeeded && std::ranges::none_of(m_diagnostics, [](const CMDiagnostic& diagnostic) {
+        return diagnostic.getStatus() == CMDiagnostic::Failed;
+      });
+  ViewState::keepComment(row.command, isAllDone ? std::string() : options.comment);
+}
+
+bool CommandRun::finish(const CommandRow& row, const CommandOptions& options, bool succeeded) {
   if (const BatchResults* const results = m_view.results()) results->addFailures(m_diagnostics);
+  keepComment(row, options, succeeded);
   if (!succeeded) {
-    m_view.dropGoneUnits();
-    showFailure(MessageId::CommandFailed + static_cast<int>(row.command), m_diagnostics);
-    return;
+    tellFailure(row);
+    return false;
   }
   CMCoCiDisplayStatus(m_diagnostics,
                       loadMessage(MessageId::CommandResults + static_cast<int>(row.command)))
       .displayStatus();
   tellRemarks();
-  if (options.withDescendants && row.recursive != nullptr) reloadBelow(*row.recursive);
+  const bool reloads = options.withDescendants && row.recursive != nullptr;
+  if (reloads && !reloadBelow(*row.recursive)) {
+    tellFailure(row);
+    return false;
+  }
   m_view.DoAfterOpRefresh();
+  return true;
 }
 
 }  // namespace veldra

@@ -35,8 +35,10 @@ class VELDRA_CM_EXPORT CommandRun {
   bool callRecursive(const CommandRow& row, UnitList& units, const CommandOptions& options);
   bool fetchRecursive(const CommandRow& row, const UnitList& units, const CommandOptions& options);
   void tellRemarks() const;
-  void reloadBelow(const RecursiveVariant& variant);
-  void finish(const CommandRow& row, const CommandOptions& options, bool succeeded);
+  bool reloadBelow(const RecursiveVariant& variant);
+  void tellFailure(const CommandRow& row);
+  void keepComment(const CommandRow& row, const CommandOptions& options, bool succeeded) const;
+  bool finish(const CommandRow& row, const CommandOptions& options, bool succeeded);
 
   CommandView& m_view;
   LiveUnits m_selection;

@@ -10,23 +10,28 @@
 
 namespace veldra {
 
+std::optional<std::string> thrownBy(const std::function<void()>& body) {
+  try {
+    body();
+  } catch (const std::exception& fault) {
+    return fault.what();
+  } catch (...) {
+    return "something that is no exception was thrown";
+  }
+  return std::nullopt;
+}
+
 std::optional<int> guardedCall(const std::function<int()>& call, DiagnosticList& diagnostics) {
   if (CMProperty::getUseSCCtool() == 0) flushCommandOutput();
   const CallState before;
   std::optional<int> result;
-  const auto endedBy = [&](const char* fault) {
+  const auto fault = thrownBy([&] { guardFaults([&] { result = call(); }); });
+  if (fault) {
     result.reset();
     before.restore();
-    VELDRA_TRACE("The command ended with a fault: ", fault);
-    diagnostics.emplace_back(CMDiagnostic::Failed, formatMessage(MessageId::CommandFault, {fault}),
+    VELDRA_TRACE("The command ended with a fault: ", *fault);
+    diagnostics.emplace_back(CMDiagnostic::Failed, formatMessage(MessageId::CommandFault, {*fault}),
                              nullptr);
-  };
-  try {
-    guardFaults([&] { result = call(); });
-  } catch (const std::exception& fault) {
-    endedBy(fault.what());
-  } catch (...) {
-    endedBy("something that is no exception was thrown");
   }
   flushCommandOutput();
   return result;

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <optional>
+#include <string>
 
 #include "cm/core/CMArchiveItemList.h"
 #include "cm/core/CMArgument.h"
@@ -9,6 +10,9 @@
 #include "cm/host/Export.h"
 
 namespace veldra {
+
+/// What `body` throws, in words; nothing when it ends by itself.
+VELDRA_CM_EXPORT std::optional<std::string> thrownBy(const std::function<void()>& body);
 
 /// Runs a call of the facade with the CM output flushed around it; before it only when a command
 /// line is run. Nothing when a fault of the host or a provider ended it; then `diagnostics` says

@@ -39,6 +39,11 @@ std::string forbiddenCharacters() {
   return std::string(trimmed(characters));
 }
 
+/// Whether a command of a provider is told the mode.
+bool takesMode(DialogCommand command) {
+  return command == DialogCommand::CheckOut || command == DialogCommand::CheckIn;
+}
+
 /// The commands that have a longer name, in the order of these texts.
 constexpr DialogCommand Titled[] = {DialogCommand::Fetch, DialogCommand::CheckOut,
                                     DialogCommand::UndoCheckOut, DialogCommand::CheckIn,
@@ -50,6 +55,10 @@ bool OptionRules::offersDescendants(bool foundDescendants) {
   std::string always;
   omGetEnvVar("General", "AlwaysEnableWithDescendentsOption", always, "");
   return foundDescendants || !equalsNoCase(always, "false");
+}
+
+bool OptionRules::addsSubUnits() {
+  return CMProperty::getProjectBool(IPN::General, "AddArchiveWithSubUnits", false);
 }
 
 OptionPresets OptionRules::presets(const CommandRow& row, const UnitList& units) {
@@ -65,8 +74,11 @@ OptionPresets OptionRules::presets(const CommandRow& row, const UnitList& units)
       InformationFiles::shouldSetInformationFilesCheckBoxForUnitsList2(units);
   const bool isAdd = row.command == DialogCommand::AddToArchive;
   presets.offersDescendants =
-      !isAdd && offersDescendants(CheckForDescendentsInSelectedItems(units));
-  if (presets.window == OptionWindow::Provider) presets.takesComment = takesComment(row.command);
+      (!isAdd || addsSubUnits()) && offersDescendants(CheckForDescendentsInSelectedItems(units));
+  if (presets.window == OptionWindow::Provider) {
+    presets.takesComment = takesComment(row.command);
+    presets.takesMode = takesMode(row.command);
+  }
   if (row.command == DialogCommand::CheckOut) {
     // Who checks out wants to write, unless the settings say otherwise.
     presets.mode = CMProperty::getProjectBool(IPN::General, "DefaultLockReserveOnCheckOut", true);

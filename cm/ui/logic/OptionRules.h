@@ -42,6 +42,9 @@ class VELDRA_CM_EXPORT OptionRules {
   /// Whether with-descendants may be chosen.
   static bool offersDescendants(bool foundDescendants);
 
+  /// Whether adding to the archive asks about what lies below, and offers it.
+  static bool addsSubUnits();
+
   /// Why the window may not be closed with these options, as a message; empty when it may.
   static std::string objection(const OptionPresets& presets, const CommandOptions& options);
   /// Why a comment cannot go with a command, as a message; empty when it can.

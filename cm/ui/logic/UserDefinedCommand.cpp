@@ -19,10 +19,6 @@ namespace {
 
 constexpr char BlockStart[] = "\"ARG=";
 
-void fill(std::string& text, const char* keyword, const std::string& value) {
-  if (text.find(keyword) != std::string::npos) text = replaceAll(text, keyword, value);
-}
-
 std::string archiveOf(const IUnit& unit) {
   std::string project;
   std::string auxPath;
@@ -30,12 +26,17 @@ std::string archiveOf(const IUnit& unit) {
   return project;
 }
 
-std::string forUnit(std::string pattern, const IUnit& unit) {
-  fill(pattern, "$Directory", unit.getDirectory());
-  fill(pattern, "$Path", unit.getDirectory() + omPathSeparator() + unit.getFileName());
-  fill(pattern, "$Ver", "");
-  fill(pattern, "$Archive", archiveOf(unit));
-  return pattern;
+std::string forUnit(const std::string& pattern, const IUnit& unit) {
+  std::string text = pattern;
+  // A keyword that only a directory's name brings in is none.
+  const auto fill = [&](const char* keyword, const std::string& value) {
+    if (pattern.find(keyword) != std::string::npos) text = replaceAll(text, keyword, value);
+  };
+  fill("$Directory", unit.getDirectory());
+  fill("$Path", unit.getDirectory() + omPathSeparator() + unit.getFileName());
+  fill("$Ver", "");
+  fill("$Archive", archiveOf(unit));
+  return text;
 }
 
 std::string forUnits(const std::string& pattern, const UnitList& units) {

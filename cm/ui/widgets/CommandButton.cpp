@@ -36,7 +36,7 @@ void CommandButton::show(const ButtonFace& face) {
   setAccessibleName(caption);
   setAccessibleDescription(tip);
   const QString shownTip = keys.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, keys);
-  setToolTip(shownTip.toHtmlEscaped());
+  setToolTip(plainTip(shownTip));
   setIcon(commandIcon(face.picture));
   setVisible(face.isShown);
 }

@@ -9,13 +9,13 @@
 #include <QSettings>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <exception>
 #include <utility>
 #include <vector>
 
 #include "cm/host/MessageIds.h"
 #include "cm/ui/ControlIds.h"
 #include "cm/ui/Translations.h"
+#include "cm/ui/logic/GuardedCall.h"
 #include "cm/ui/logic/HostTexts.h"
 #include "cm/ui/widgets/Control.h"
 #include "cm/ui/widgets/FailureStrip.h"
@@ -62,13 +62,16 @@ void CommandWindow::keepPainting() {
   ProgressStrip::keepPainting();
 }
 
-bool CommandWindow::allowsAnother() {
+bool CommandWindow::isOneAtWork() {
   const std::vector<CommandWindow*>& windows = openWindows();
-  const bool isOneAtWork = std::any_of(windows.begin(), windows.end(), [](CommandWindow* window) {
-    return window->m_heldInput != nullptr;
-  });
-  if (isOneAtWork) dialogWarning(dialogText(MessageId::CommandStillRuns));
-  return !isOneAtWork;
+  return std::any_of(windows.begin(), windows.end(),
+                     [](const CommandWindow* window) { return window->m_heldInput != nullptr; });
+}
+
+bool CommandWindow::allowsAnother() {
+  const bool isAllowed = !isOneAtWork();
+  if (!isAllowed) dialogWarning(dialogText(MessageId::CommandStillRuns));
+  return isAllowed;
 }
 
 void CommandWindow::refreshOthers() const {
@@ -82,23 +85,23 @@ void CommandWindow::runOnce(const QString& caption, const std::function<void()>&
   if (m_isRunning || !allowsAnother()) return;
   const QPointer<QWidget> focused = focusWidget();
   m_isRunning = true;
+  m_isFocusGiven = false;
   m_failures->tell({}, 0);
   m_progress->results().start();
-  const auto endedBy = [&](const char* fault) {
+  if (const auto fault = thrownBy(command)) {
     releaseInput();
-    dialogError(dialogText(MessageId::InternalError, {bytesOf(caption), fault}));
-  };
-  try {
-    command();
-  } catch (const std::exception& fault) {
-    endedBy(fault.what());
-  } catch (...) {
-    endedBy("?");
+    dialogError(dialogText(MessageId::InternalError, {bytesOf(caption), *fault}));
   }
   m_isRunning = false;
   afterCommand();
   m_failures->tell(caption, m_progress->results().failedFiles().size());
-  if (focused != nullptr && focused->isEnabled()) focused->setFocus();
+  const bool isKept = !m_isFocusGiven && focused != nullptr && focused->isEnabled();
+  if (isKept) focused->setFocus();
+}
+
+void CommandWindow::giveFocus(QWidget& widget) {
+  widget.setFocus();
+  m_isFocusGiven = true;
 }
 
 void CommandWindow::holdInput(const QString& caption) {
@@ -137,6 +140,10 @@ void CommandWindow::layOutFoot(QVBoxLayout& column) {
   foot->addWidget(close);
   column.addWidget(m_failures);
   column.addLayout(foot);
+  // It was made before all others, and stands above Close.
+  auto* const select = findControl<QPushButton>(*m_failures, ControlId::SelectFailed);
+  setTabOrder(close, select);
+  setTabOrder(select, close);
 }
 
 void CommandWindow::restorePlace(const QSize& firstSize) {

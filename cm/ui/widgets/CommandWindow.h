@@ -34,14 +34,18 @@ class VELDRA_CM_UI_EXPORT CommandWindow : public QDialog {
   /// Whether no window's command is at work. Calls of the module must not overlap, and a host may
   /// open a second window meanwhile. When not, the user has been told.
   static bool allowsAnother();
+  /// Whether a window's command is at work: a question or a window above it is not.
+  static bool isOneAtWork();
 
   bool isRunning() const { return m_isRunning; }
   void reject() override;
 
  protected:
-  /// Runs a command, unless one runs already; the focus stays where it was. `caption` is the user's
-  /// word for it. What the command throws is told to the user.
+  /// Runs a command, unless one runs already; the focus stays where it was unless the command gives
+  /// it away. `caption` is the user's word for it. What the command throws is told to the user.
   void runOnce(const QString& caption, const std::function<void()>& command);
+  /// Leaves the focus there when the running command ends.
+  void giveFocus(QWidget& widget);
   /// Between these two, units may be replaced or die; the window takes no input.
   void holdInput(const QString& caption);
   void releaseInput();
@@ -72,6 +76,7 @@ class VELDRA_CM_UI_EXPORT CommandWindow : public QDialog {
   QLabel* m_totals = nullptr;
   std::unique_ptr<HeldWindow> m_heldInput;
   bool m_isRunning = false;
+  bool m_isFocusGiven = false;  ///< By the running command.
 };
 
 }  // namespace veldra

@@ -1,6 +1,7 @@
 #include "cm/ui/widgets/HeldInput.h"
 
 #include <QCoreApplication>
+#include <QMouseEvent>
 #include <QWindow>
 #include <utility>
 
@@ -8,8 +9,11 @@ namespace veldra {
 
 namespace {
 
-bool isInput(QEvent::Type type) {
-  switch (type) {
+bool isInput(const QEvent& event) {
+  switch (event.type()) {
+    case QEvent::MouseMove:
+      // A pointer that only passes over things changes nothing; one that draws selects.
+      return static_cast<const QMouseEvent&>(event).buttons() != Qt::NoButton;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:
@@ -18,10 +22,14 @@ bool isInput(QEvent::Type type) {
     case QEvent::KeyRelease:
     case QEvent::Shortcut:
     case QEvent::ShortcutOverride:
+    case QEvent::InputMethod:
     case QEvent::ContextMenu:
     case QEvent::TouchBegin:
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd:
+    case QEvent::TabletPress:
+    case QEvent::TabletMove:
+    case QEvent::TabletRelease:
     case QEvent::Drop:
     case QEvent::Close:
       return true;
@@ -31,8 +39,11 @@ bool isInput(QEvent::Type type) {
 }
 
 bool isPartOf(const QWidget& window, const QObject& object) {
-  const auto* const widget = qobject_cast<const QWidget*>(&object);
-  return widget != nullptr ? widget->window() == &window : &object == window.windowHandle();
+  if (&object == window.windowHandle()) return true;
+  // Shortcuts are no widgets, but belong to one.
+  const QObject* owner = &object;
+  while (owner != nullptr && !owner->isWidgetType()) owner = owner->parent();
+  return owner != nullptr && static_cast<const QWidget*>(owner)->window() == &window;
 }
 
 }  // namespace
@@ -47,7 +58,7 @@ HeldInput::~HeldInput() {
 }
 
 bool HeldInput::eventFilter(QObject* watched, QEvent* event) {
-  if (!isInput(event->type()) || m_passes(*watched, *event)) return false;
+  if (!isInput(*event) || m_passes(*watched, *event)) return false;
   // A window manager's wish to close has to be refused, not swallowed.
   event->ignore();
   return true;

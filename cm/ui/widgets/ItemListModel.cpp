@@ -20,7 +20,7 @@ QVariant ItemListModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
       return shown(m_rows->cell(row, index.column()));
     case Qt::ToolTipRole:
-      return index.column() == 0 ? shown(m_rows->item(row).getFileNameWithPath()).toHtmlEscaped()
+      return index.column() == 0 ? plainTip(shown(m_rows->item(row).getFileNameWithPath()))
                                  : QVariant();
     case Qt::DecorationRole:
       return index.column() == 0 ? QVariant(itemIcon(m_rows->item(row))) : QVariant();

@@ -42,10 +42,8 @@ void ProgressStrip::unitStarted(const ProgressStep& step) {
   m_bar->setRange(0, static_cast<int>(step.count));
   m_bar->setValue(static_cast<int>(step.position) - 1);
   QString text = tr("%1: %2 of %3, %4")
-                     .arg(m_command)
-                     .arg(step.position)
-                     .arg(step.count)
-                     .arg(shown(step.unit));
+                     .arg(m_command, QString::number(step.position), QString::number(step.count),
+                          shown(step.unit));
   if (const auto left = secondsLeft(step.position, step.count, m_clock.elapsed())) {
     text += tr(", about %1 s left").arg(*left);
   }

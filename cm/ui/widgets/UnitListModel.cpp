@@ -30,7 +30,7 @@ QVariant UnitListModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
       return shown(m_data.texts->cell(*unit, index.column()));
     case Qt::ToolTipRole:
-      return index.column() == UnitColumn::File ? shown(unit->getFullFileName()).toHtmlEscaped()
+      return index.column() == UnitColumn::File ? plainTip(shown(unit->getFullFileName()))
                                                 : QVariant();
     case Qt::DecorationRole:
       return index.column() == UnitColumn::File ? QVariant(unitIcon(*unit)) : QVariant();

@@ -46,7 +46,7 @@ QVariant UnitTreeModel::data(const QModelIndex& index, int role) const {
     case Qt::DecorationRole:
       return unitIconWithState(*unit, root != nullptr ? rootOverlay(*root) : 0);
     case Qt::ToolTipRole:
-      return shown(nameNShortPath(unit)).toHtmlEscaped();
+      return plainTip(shown(nameNShortPath(unit)));
     default:
       return {};
   }

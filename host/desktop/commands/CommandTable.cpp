@@ -12,7 +12,7 @@ namespace veldra::host::desktop {
 std::span<const WindowCommand> windowCommands() {
   using Id = DialogCommand;
   // Their order is that of menu and tool bar. Add the next command here.
-  static const std::array<WindowCommand, 9> Rows = {{
+  static const std::array<WindowCommand, 10> Rows = {{
       {.command = Id::CheckOut,
        .shortcut = "Ctrl+Shift+O",
        .icon = "check-out",
@@ -33,7 +33,13 @@ std::span<const WindowCommand> windowCommands() {
       {.command = Id::Properties,
        .shortcut = "Ctrl+Shift+P",
        .icon = "properties",
-       .changesArchive = false},
+       .changesArchive = false,
+       .isOnToolBar = false},
+      {.command = Id::Compare,
+       .shortcut = "Ctrl+Shift+D",
+       .icon = "compare",
+       .changesArchive = false,
+       .isOnToolBar = false},
   }};
   return Rows;
 }
@@ -42,9 +48,16 @@ const WindowCommand& windowCommand(DialogCommand command) {
   return *std::ranges::find(windowCommands(), command, &WindowCommand::command);
 }
 
+int controlIdOf(DialogCommand command) {
+  return std::ranges::find(buttonTable(), command, &ButtonRow::command)->controlId;
+}
+
 bool isAvailable(const WindowCommand& row) {
   if (CMProperty::useSccCompliantTool() != 0) return ButtonRules::isShown(row.command);
-  const std::string name = commandRow(row.command)->templateProperty;
+  // A comparison fetches what it compares with.
+  const bool fetches = row.command == DialogCommand::Compare;
+  const std::string name =
+      commandRow(fetches ? DialogCommand::Fetch : row.command)->templateProperty;
   const IProperty* const command = name.empty() ? nullptr : CMProperty::getToolProperty(name);
   return command != nullptr && !command->getValue().empty();
 }

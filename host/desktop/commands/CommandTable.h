@@ -15,10 +15,14 @@ struct WindowCommand {
   bool savesFirst = false;     ///< What is unsaved must be in the file that the tool takes.
   bool changesArchive = true;  ///< Who holds what may be different afterwards.
   bool losesChanges = false;   ///< Asks before unsaved changes go.
+  bool isOnToolBar = true;
 };
 
 std::span<const WindowCommand> windowCommands();
 const WindowCommand& windowCommand(DialogCommand command);
+
+/// The number under which the dialogs know the command.
+int controlIdOf(DialogCommand command);
 
 /// Whether the selected back end has the command.
 bool isAvailable(const WindowCommand& row);

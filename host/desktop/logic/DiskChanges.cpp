@@ -26,6 +26,11 @@ void DiskChanges::remember(const Project& project) {
   }
 }
 
+void DiskChanges::remember(const std::string& file) {
+  const auto known = m_known.find(file);
+  if (known != m_known.end()) known->second = factsOf(file);
+}
+
 DiskChange DiskChanges::look(const Project& project) {
   DiskChange change;
   for (const UnitCore* unit : project.files()) {

@@ -24,6 +24,8 @@ class DiskChanges {
  public:
   /// From now on the files count as known as they are.
   void remember(const Project& project);
+  /// The same for one of them; any other file is left out.
+  void remember(const std::string& file);
   /// The differences, each told once.
   DiskChange look(const Project& project);
 

@@ -54,8 +54,9 @@ void DesktopSession::askForTrust() {
   if (trust.isTrusted()) return;
   QString details;
   for (const ForeignCommand& command : trust.commands()) {
-    details += shown(command.key.metaclass + "." + command.key.name + " = " + command.value +
-                     "\n    " + command.source + "\n");
+    // A value that breaks the line must not look like another command.
+    details += shownName(command.key.metaclass + "." + command.key.name + " = " + command.value) +
+               "\n    " + shownName(command.source) + "\n";
   }
   const auto answer = m_questions.ask(
       {.text = tr("This project brings commands of its own. They run as soon as you use version "
@@ -82,8 +83,14 @@ bool DesktopSession::hasUnsaved() {
 }
 
 bool DesktopSession::save() {
+  std::vector<std::string> files;
+  if (Project* open = project()) {
+    for (const UnitCore* unit : open->files()) {
+      if (unit->isModified()) files.push_back(unit->fullFileName());
+    }
+  }
   const Problems problems = m_host->save();
-  emit saved();
+  emit saved(files);
   tell(problems, tr("Not everything could be saved."));
   return problems.empty();
 }

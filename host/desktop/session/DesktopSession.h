@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "host/ReferenceHost.h"
 #include "host/desktop/session/DesktopDoor.h"
@@ -46,7 +47,8 @@ class DesktopSession : public QObject {
   void traceLine(const QString& line);
   /// Another project is open, or none.
   void projectChanged();
-  void saved();
+  /// These files have been written, as far as that was possible.
+  void saved(const std::vector<std::string>& files);
 
  private:
   void askForTrust();

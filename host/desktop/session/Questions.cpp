@@ -6,6 +6,7 @@
 #include <string>
 
 #include "cm/ui/synchronize/QuestionWindow.h"
+#include "cm/ui/widgets/Text.h"
 
 namespace veldra::host::desktop {
 
@@ -26,12 +27,12 @@ QMessageBox::StandardButton askForAll(const Question& question) {
 
 QMessageBox::StandardButton MessageBoxes::ask(const Question& question) {
   if (question.buttons.testFlag(QMessageBox::YesToAll)) return askForAll(question);
-  QMessageBox box(question.icon, QCoreApplication::applicationName(), question.text,
+  QMessageBox box(question.icon, QCoreApplication::applicationName(), shownLines(question.text),
                   question.buttons, QApplication::activeWindow());
   // Names and what tools print are no markup.
   box.setTextFormat(Qt::PlainText);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  if (!question.details.isEmpty()) box.setDetailedText(question.details);
+  if (!question.details.isEmpty()) box.setDetailedText(shownLines(question.details));
   if (question.preset != QMessageBox::NoButton) box.setDefaultButton(question.preset);
   return static_cast<QMessageBox::StandardButton>(box.exec());
 }

@@ -89,6 +89,10 @@ void WorkWatch::pump() {
   m_restTimer.start();
 }
 
+void WorkWatch::discardInput() {
+  if (m_isWorking) pump();
+}
+
 void WorkWatch::rest() {
   // Fired by our own pump: the work goes on.
   if (m_isPumping) return;

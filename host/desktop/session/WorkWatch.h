@@ -38,6 +38,8 @@ class WorkWatch : public QObject, public ChildWatch, public IProgress {
   CSignal2Exception& providerCalls() { return m_provider; }
   bool isWorking() const { return m_isWorking; }
   BatchResults& results() { return m_results; }
+  /// Throws away what was typed and clicked since the last unit; for the end of a command.
+  void discardInput();
   /// What the user asks for by cancelling; also lets the running child be ended.
   void cancel();
 

@@ -77,9 +77,9 @@ void DiagramView::addBox(std::size_t index) {
   item->setZValue(1);
   item->setFlag(QGraphicsItem::ItemIsSelectable);
   item->setFlag(QGraphicsItem::ItemIsMovable, m_isEditable);
-  item->setToolTip(shown(box.element).toHtmlEscaped());
+  item->setToolTip(plainTip(shownName(box.element)));
   auto* label = new QGraphicsTextItem(item);
-  label->setPlainText(shown(box.element));
+  label->setPlainText(shownName(box.element));
   label->setDefaultTextColor(palette.color(QPalette::Text));
   label->setTextWidth(width);
   QTextOption option(Qt::AlignCenter);
@@ -105,7 +105,7 @@ void DiagramView::drawLines() {
     m_lines.push_back(m_scene.addLine(line, QPen(ink, 1.2)));
     m_lines.push_back(m_scene.addPolygon(arrowHead(line), QPen(ink), ink));
     if (connection.text.empty()) continue;
-    auto* text = m_scene.addSimpleText(shown(connection.text));
+    auto* text = m_scene.addSimpleText(shownName(connection.text));
     text->setBrush(ink);
     const QSizeF size = text->boundingRect().size();
     const bool isFlat = std::abs(line.dx()) > std::abs(line.dy());

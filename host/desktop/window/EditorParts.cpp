@@ -3,11 +3,11 @@
 #include <QApplication>
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "cm/ui/widgets/Text.h"
 #include "host/desktop/window/Icons.h"
 
 namespace veldra::host::desktop {
@@ -40,6 +40,26 @@ void Banner::colour() {
   ground.setAlphaF(0.16F);
   own.setColor(QPalette::Window, ground);
   setPalette(own);
+}
+
+ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
+  setTextFormat(Qt::PlainText);
+  setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+}
+
+void ElidedLabel::setWhole(const QString& text) {
+  m_whole = text;
+  setToolTip(plainTip(text));
+  fit();
+}
+
+void ElidedLabel::resizeEvent(QResizeEvent* event) {
+  QLabel::resizeEvent(event);
+  fit();
+}
+
+void ElidedLabel::fit() {
+  setText(fontMetrics().elidedText(m_whole, Qt::ElideMiddle, width()));
 }
 
 EditorPage::EditorPage(QWidget* parent)

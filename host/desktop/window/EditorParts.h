@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QFrame>
+#include <QLabel>
 #include <QString>
 #include <functional>
 
 class QHBoxLayout;
-class QLabel;
 class QPushButton;
 class QToolButton;
 class QVBoxLayout;
@@ -30,6 +30,23 @@ class Banner : public QFrame {
 
   QLabel* m_label;
   QHBoxLayout* m_layout;
+};
+
+/// A line that is cut in the middle where there is no room for it; its tool tip is the whole.
+class ElidedLabel : public QLabel {
+  Q_OBJECT
+
+ public:
+  explicit ElidedLabel(QWidget* parent = nullptr);
+  void setWhole(const QString& text);
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void fit();
+
+  QString m_whole;
 };
 
 /// A tab of the editor: a row of small buttons over its content.

@@ -53,8 +53,12 @@ MainWindow::MainWindow(DesktopSession& session)
   connect(&m_diskDelay, &QTimer::timeout, this, &MainWindow::lookAtDisk);
   connect(m_watcher, &QFileSystemWatcher::directoryChanged, &m_diskDelay,
           qOverload<>(&QTimer::start));
-  connect(&m_session, &DesktopSession::saved, this, [this] {
+  connect(&m_session, &DesktopSession::projectChanged, this, [this] {
+    m_disk = DiskChanges();
     if (Project* project = m_session.project()) m_disk.remember(*project);
+  });
+  connect(&m_session, &DesktopSession::saved, this, [this](const std::vector<std::string>& files) {
+    for (const std::string& file : files) m_disk.remember(file);
   });
   connect(&m_session.work(), &WorkWatch::providerCalled, this, &MainWindow::showProviderCall);
   m_session.door().setConnectWindow([this] { connectProject(); });

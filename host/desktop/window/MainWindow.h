@@ -51,7 +51,8 @@ class MainWindow : public QMainWindow {
   /// What ends the program while the provider holds one of its threads; by default the process
   /// ends at once.
   void setWayOut(std::function<void()> leave) { m_leave = std::move(leave); }
-  /// Looks at the disk now, as the window does when it is activated.
+  /// Looks at the disk now, as the window does when it is activated; later when a command is at
+  /// work or a window stands above this one, since both know units that loading would replace.
   void lookAtDisk();
 
  protected:
@@ -80,6 +81,7 @@ class MainWindow : public QMainWindow {
   void makeProject();
   void closeProject();
   void showProject();
+  void showTool(const QString& text);
   void showRecent();
   bool mayLeave();
   void save();
@@ -109,6 +111,8 @@ class MainWindow : public QMainWindow {
   void refreshStatusAtOpening();
   void connectNow();
   void connectThroughProvider();
+  /// What the last command has done is no news when the disk is looked at.
+  void rememberOwnWork();
   /// The module has been at work: files and units may be others.
   void afterWork();
   void editSettings();

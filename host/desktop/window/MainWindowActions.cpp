@@ -138,7 +138,7 @@ void MainWindow::buildCommandMenu() {
     connect(action, &QAction::triggered, this, [this, &row] { runCommand(row); });
     m_commands[&row] = action;
     m_treeMenu->addAction(action);
-    if (row.command != DialogCommand::Properties) m_toolBar->addAction(action);
+    if (row.isOnToolBar) m_toolBar->addAction(action);
   }
   menu.addSeparator();
   m_toolBar->addSeparator();

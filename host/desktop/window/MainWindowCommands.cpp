@@ -38,10 +38,10 @@ void MainWindow::runCommand(const WindowCommand& row) {
   m_editor->commit();
   if (row.savesFirst && m_session.hasUnsaved() && !m_session.save()) return;
   if (row.losesChanges && !mayLoseChanges(selectedUnits(true))) return;
-  const int id = commandRow(row.command)->controlId;
   BatchResults& results = m_session.work().results();
-  const bool isDone = runCommandOn(id, selectedUnits(false), this, &results);
+  const bool isDone = runCommandOn(controlIdOf(row.command), selectedUnits(false), this, &results);
   tellEnd(row, isDone);
+  if (row.changesArchive) rememberOwnWork();
   if (m_archive.isKnown() && row.changesArchive) listArchive();
   afterWork();
 }
@@ -84,17 +84,24 @@ bool MainWindow::mayLoseChanges(const UnitList& units) {
   }
 }
 
+void MainWindow::rememberOwnWork() {
+  for (const UnitResult& result : m_session.work().results().all()) {
+    if (result.end == UnitEnd::Done) m_disk.remember(result.file);
+  }
+}
+
 void MainWindow::afterWork() {
-  if (Project* project = m_session.project()) m_disk.remember(*project);
-  m_editor->reload();
-  refresh();
+  // What others did meanwhile comes in with it.
+  Project* project = m_session.project();
+  apply(project ? m_disk.look(*project) : DiskChange());
+  m_session.work().discardInput();
 }
 
 void MainWindow::tellReport(const CommandReport& report, const QString& operation) {
   QString text;
   for (const std::string& message : report.messages) text += shown(message) + "\n";
   for (const UnitResult& failure : report.failures) {
-    text += shown(shortPathOf(failure.file) + ": " + reasonOf(failure)) + "\n";
+    text += shownName(shortPathOf(failure.file)) + ": " + shown(reasonOf(failure)) + "\n";
   }
   m_session.questions().ask(
       {.text = tr("%1 came to nothing.").arg(operation) + "\n\n" + text.trimmed(),
@@ -130,6 +137,7 @@ void MainWindow::connectThroughProvider() {
   m_session.save();
   if (isConnected) refreshProviderStatus();
   showProject();
+  afterWork();
   if (isConnected) statusBar()->showMessage(tr("Connected to the archive."));
 }
 
@@ -140,6 +148,7 @@ void MainWindow::connectNow() {
   m_session.save();
   if (report.isFine()) listArchive();
   showProject();
+  afterWork();
   if (report.isFine()) {
     statusBar()->showMessage(tr("Connected to the archive."));
   } else {
@@ -151,7 +160,9 @@ void MainWindow::openDialog() {
   m_editor->commit();
   // The tool takes the files as they are on the disk.
   if (!m_session.project() || !m_session.save()) return;
+  m_session.work().results().start();
   CCMDialog::DoPopupCmDialog(this);
+  rememberOwnWork();
   afterWork();
 }
 

@@ -1,6 +1,6 @@
 // Opening, saving and leaving projects, and what others do to their files.
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFileDialog>
 #include <QFileSystemWatcher>
 #include <QLabel>
@@ -8,7 +8,9 @@
 #include <QSettings>
 #include <QStackedWidget>
 #include <QTreeView>
+#include <filesystem>
 #include <set>
+#include <system_error>
 
 #include "cm/core/CMArchive.h"
 #include "cm/host/Host.h"
@@ -26,15 +28,25 @@
 
 namespace veldra::host::desktop {
 
+namespace {
+
+/// In a title these three signs stand for the mark of unsaved work.
+QString titleOf(const Project& project) {
+  return shownName(project.getName()).replace("[*]", "[*][*]");
+}
+
+}  // namespace
+
 bool MainWindow::openProject(const QString& directoryOrFile) {
   if (!mayLeave()) return false;
   const std::string place = bytesOf(directoryOrFile);
   m_editor->showUnit({});
   m_archive.forget();
   const bool isOpen = m_session.open(place);
+  std::error_code unknown;
   if (isOpen) {
     m_recent.opened(m_session.project()->getProjectDirectory());
-  } else {
+  } else if (!std::filesystem::exists(place, unknown)) {
     m_recent.remove(place);
   }
   showRecent();
@@ -70,17 +82,22 @@ void MainWindow::showProject() {
   const std::string tool = SettingsTable(m_session.host().properties(), project).tool();
   const std::string archive = project ? CMArchive::getMainArchive() : std::string();
   m_editor->reload();
-  m_disk = DiskChanges();
-  if (project) m_disk.remember(*project);
   watchFolders();
   m_hint->setVisible(project && archive.empty());
   m_pages->setCurrentIndex(project ? 1 : 0);
-  setWindowTitle((project ? shown(project->getName()) + "[*] — " : QString("[*]")) +
+  setWindowTitle((project ? titleOf(*project) + "[*] — " : QString("[*]")) +
                  QCoreApplication::applicationName());
-  m_toolLabel->setText(project ? shown(tool) + (archive.empty() ? "" : "  ·  ") + shown(archive)
-                               : QString());
+  showTool(project ? shownName(tool) + (archive.empty() ? "" : "  ·  ") + shownName(archive)
+                   : QString());
   refresh();
   if (project && !currentNode()) selectUnits({"."});
+}
+
+void MainWindow::showTool(const QString& text) {
+  // An address may be longer than the window is wide.
+  constexpr int MostPixels = 480;
+  m_toolLabel->setText(fontMetrics().elidedText(text, Qt::ElideMiddle, MostPixels));
+  m_toolLabel->setToolTip(text.isEmpty() ? QString() : plainTip(text));
 }
 
 void MainWindow::showRecent() {
@@ -89,8 +106,8 @@ void MainWindow::showRecent() {
   for (const std::string& project : m_recent.all()) {
     const QString path = shown(project);
     list << path;
-    QAction* action = m_recentMenu->addAction(
-        QString("&%1  %2").arg(list.size()).arg(QString(path).replace('&', "&&")));
+    QAction* action = m_recentMenu->addAction(QString("&%1  %2").arg(
+        QString::number(list.size()), shownName(project).replace('&', "&&")));
     connect(action, &QAction::triggered, this, [this, path] { openProject(path); });
   }
   m_recentMenu->setEnabled(!list.isEmpty());
@@ -142,7 +159,6 @@ void MainWindow::makeUnit() {
     return;
   }
   const QString path = shown(made->relativeFileName());
-  m_disk.remember(*project);
   watchFolders();
   refresh();
   selectUnits({path});
@@ -162,7 +178,7 @@ void MainWindow::watchFolders() {
 }
 
 void MainWindow::lookAtDisk() {
-  if (m_session.work().isWorking()) {
+  if (m_session.work().isWorking() || QApplication::activeModalWidget()) {
     m_diskDelay.start();
     return;
   }
@@ -174,30 +190,31 @@ void MainWindow::lookAtDisk() {
 }
 
 void MainWindow::apply(const DiskChange& change) {
-  Project& project = *m_session.project();
+  Project* project = m_session.project();
   std::vector<std::string> reload = change.reload;
   for (const std::string& file : change.conflict) {
     const auto answer = m_session.questions().ask(
         {.text = tr("“%1” has changed on the disk, and you have changes of it that are not saved. "
                     "Load it from the disk and drop your changes?")
-                     .arg(shown(baseName(file))),
+                     .arg(shownName(baseName(file))),
          .icon = QMessageBox::Warning,
          .buttons = QMessageBox::Yes | QMessageBox::No,
          .preset = QMessageBox::No});
     if (answer == QMessageBox::Yes) reload.push_back(file);
   }
   for (const std::string& file : reload) {
-    UnitCore* unit = project.unitByFile(file);
-    if (unit && !unit->record().controlledFile) reloadUnit(*unit);
+    UnitCore* unit = project->unitByFile(file);
+    const bool isLoaded = unit && !unit->record().controlledFile && !unit->record().stub;
+    if (isLoaded) reloadUnit(*unit);
   }
   for (const std::string& file : change.mode) {
-    if (UnitCore* unit = project.unitByFile(file)) unit->unit().updateMode({});
+    if (UnitCore* unit = project->unitByFile(file)) unit->unit().updateMode({});
   }
   m_editor->reload();
   refresh();
   if (!change.vanished.empty()) {
     QString names;
-    for (const std::string& file : change.vanished) names += shown(file) + "\n";
+    for (const std::string& file : change.vanished) names += shownName(file) + "\n";
     m_session.questions().ask(
         {.text =
              tr("%n file(s) of the project are gone from the disk. Fetch them from the archive, "

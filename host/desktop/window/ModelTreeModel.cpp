@@ -81,10 +81,9 @@ int ModelTreeModel::columnCount(const QModelIndex& /*parent*/) const {
 }
 
 QString ModelTreeModel::toolTip(const OutlineNode& node) {
-  QString text = shown(node.path) + "\n" + shown(node.type) + ", " + accessText(node);
-  if (!node.status.empty()) text += "\n" + shown(node.status);
-  // Plain text whatever a name contains.
-  return QString("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped());
+  QString text = shownName(node.path) + "\n" + shownName(node.type) + ", " + accessText(node);
+  if (!node.status.empty()) text += "\n" + shownName(node.status);
+  return plainTip(text);
 }
 
 QVariant ModelTreeModel::data(const QModelIndex& index, int role) const {
@@ -93,7 +92,7 @@ QVariant ModelTreeModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::ToolTipRole) return toolTip(*at);
   if (role == Qt::DecorationRole && index.column() == Name) return unitIcon(*at);
   if (role == Qt::AccessibleDescriptionRole) {
-    return at->status.empty() ? accessText(*at) : accessText(*at) + ", " + shown(at->status);
+    return at->status.empty() ? accessText(*at) : accessText(*at) + ", " + shownName(at->status);
   }
   if (role == Qt::FontRole && at->isModified && index.column() == Name) {
     QFont font;
@@ -103,11 +102,11 @@ QVariant ModelTreeModel::data(const QModelIndex& index, int role) const {
   if (role != Qt::DisplayRole) return {};
   switch (index.column()) {
     case Name:
-      return shown(at->name).replace(QChar('\n'), QChar(' '));
+      return shownName(at->name);
     case Version:
-      return shown(at->version);
+      return shownName(at->version);
     case Holder:
-      return shown(at->locker);
+      return shownName(at->locker);
     default:
       return {};
   }

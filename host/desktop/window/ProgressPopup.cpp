@@ -79,8 +79,8 @@ void ProgressPopup::begin() {
 
 void ProgressPopup::showStep(const ProgressStep& step) {
   if (step.position <= 1) m_clock.restart();
-  m_operation->setText(shown(step.operation));
-  const QString name = shown(baseName(step.unit));
+  m_operation->setText(shownName(step.operation));
+  const QString name = shownName(baseName(step.unit));
   m_unit->setText(tr("%1 of %2: %3")
                       .arg(step.position)
                       .arg(step.count)

@@ -18,7 +18,7 @@ constexpr int SecondsBetween = 60;
 
 QString providerName() {
   const std::string name = CMProperty::getSCCToolName();
-  return name.empty() ? ProviderNotice::tr("The source control provider") : shown(name);
+  return name.empty() ? ProviderNotice::tr("The source control provider") : shownName(name);
 }
 
 }  // namespace

@@ -231,9 +231,10 @@ void SettingsDialog::showRow() {
   m_store->setEnabled(row != nullptr);
   m_reset->setEnabled(row && SettingsTable::isResettable(row->origin));
   m_value->setPlainText(row ? shown(row->value) : QString());
-  m_source->setText(!row                  ? tr("Select a property to see and change its value.")
-                    : row->source.empty() ? originText(row->origin)
-                                          : originText(row->origin) + ": " + shown(row->source));
+  m_source->setText(!row ? tr("Select a property to see and change its value.")
+                    : row->source.empty()
+                        ? originText(row->origin)
+                        : originText(row->origin) + ": " + shownName(row->source));
 }
 
 bool SettingsDialog::set(const PropertyKey& key, const std::string& value, Origin target) {

@@ -56,15 +56,16 @@ QVariant SettingsModel::data(const QModelIndex& index, int role) const {
     font.setBold(true);
     return font;
   }
-  if (role == Qt::ToolTipRole) return shown(at->source.empty() ? at->value : at->source);
+  if (role == Qt::ToolTipRole)
+    return plainTip(shownLines(shown(at->source.empty() ? at->value : at->source)));
   if (role != Qt::DisplayRole) return {};
   switch (index.column()) {
     case Name:
-      return shown(at->key.name);
+      return shownName(at->key.name);
     case Group:
-      return shown(at->key.metaclass);
+      return shownName(at->key.metaclass);
     case Value:
-      return shown(at->value).replace('\n', QChar(0x21B5));
+      return shownLines(shown(at->value)).replace('\n', QChar(0x21B5));
     default:
       return originText(at->origin);
   }

@@ -71,8 +71,7 @@ QWidget* UnitEditor::makeHead() {
   auto* layout = new QHBoxLayout(head);
   layout->setContentsMargins(0, 0, 0, 0);
   m_picture = new QLabel;
-  m_path = new QLabel;
-  m_path->setTextFormat(Qt::PlainText);
+  m_path = new ElidedLabel;
   m_path->setTextInteractionFlags(Qt::TextSelectableByMouse);
   m_path->setForegroundRole(QPalette::PlaceholderText);
   layout->addWidget(m_picture);
@@ -173,7 +172,7 @@ void UnitEditor::fill(UnitCore& unit) {
   m_banner->setVisible(!m_isEditable);
   m_checkOut->setVisible(isReadOnly);
   m_reason->setText(isReadOnly ? tr("This unit is read-only. Check it out to change it.")
-                               : shown(problem.what + " " + problem.wayOut));
+                               : shownName(problem.what + " " + problem.wayOut));
   fillHead(unit);
   fillTabs(text && unit.record().unitType == "Diagram");
   m_isFilling = false;
@@ -183,7 +182,8 @@ void UnitEditor::fillHead(const UnitCore& unit) {
   const OutlineNode look{.type = unit.record().unitType,
                          .isControlledFile = unit.record().controlledFile};
   m_picture->setPixmap(unitIcon(look).pixmap(22, 22));
-  m_path->setText(shown(unit.record().unitType) + "  ·  " + shown(unit.relativeFileName()));
+  m_path->setWhole(shownName(unit.record().unitType) + "  ·  " +
+                   shownName(unit.relativeFileName()));
   m_name->setText(shown(m_sheet.name));
   m_name->setReadOnly(!m_isEditable);
   m_description->setPlainText(shown(m_sheet.description));

@@ -18,6 +18,7 @@ namespace veldra::host::desktop {
 
 class AttributeTable;
 class DiagramView;
+class ElidedLabel;
 
 /// Shows one unit and lets the user change it. What is changed goes into the model at once, but not
 /// into the file.
@@ -74,7 +75,7 @@ class UnitEditor : public QWidget {
 
   QWidget* m_content;
   QLabel* m_picture;
-  QLabel* m_path;
+  ElidedLabel* m_path;
   QWidget* m_banner;
   QLabel* m_reason;
   QPushButton* m_checkOut;

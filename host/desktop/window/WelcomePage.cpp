@@ -74,7 +74,8 @@ void WelcomePage::showRecent(const std::vector<std::string>& projects) {
   m_recentLayout->addWidget(new QLabel(tr("Recent projects")));
   for (const std::string& project : projects) {
     const QString path = shown(project);
-    auto* button = makeLink("project", shown(baseName(project)).replace('&', "&&"), path);
+    auto* button =
+        makeLink("project", shownName(baseName(project)).replace('&', "&&"), shownName(project));
     button->setAccessibleDescription(tr("Opens %1").arg(path));
     connect(button, &QPushButton::clicked, this, [this, path] { emit recentWanted(path); });
     m_recentLayout->addWidget(button);

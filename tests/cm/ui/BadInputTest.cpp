@@ -12,30 +12,10 @@
 #include "cm/ui/logic/ButtonRules.h"
 #include "tests/cm/ui/DialogTest.h"
 #include "tests/host/platform/Faults.h"
-
-#if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/lsan_interface.h>
-#endif
+#include "tests/support/LeaksAreExpected.h"
 
 namespace veldra::test {
 namespace {
-
-/// What a fault jumps over is never freed; the leak checker is not to tell of that.
-class LeaksAreExpected {
- public:
-#if defined(__SANITIZE_ADDRESS__)
-  LeaksAreExpected() {
-    __lsan_disable();
-  }
-  ~LeaksAreExpected() {
-    __lsan_enable();
-  }
-#else
-  LeaksAreExpected() {}
-#endif
-  LeaksAreExpected(const LeaksAreExpected&) = delete;
-  LeaksAreExpected& operator=(const LeaksAreExpected&) = delete;
-};
 
 /// A user who says yes to every window that comes up, and counts them.
 class Yes : public QObject {
@@ -265,6 +245,16 @@ TEST_F(BadInputTest, ASecondDialogWaitsForTheCommandOfTheFirst) {
   expectUsable(second);
 }
 
+TEST_F(BadInputTest, ATipShowsTheSignsOfMarkupThatANameHas) {
+  m_class.record.fileName = "R&D \"a\".vcl";
+  CCMDialog dialog;
+  open(dialog, m_class);
+  const QString tip =
+      listOf(dialog).model()->index(rowOf(dialog, m_class), 0).data(Qt::ToolTipRole).toString();
+  EXPECT_TRUE(Qt::mightBeRichText(tip)) << "otherwise the entities would be seen";
+  EXPECT_TRUE(tip.contains(QStringLiteral("R&amp;D")));
+}
+
 TEST_F(BadInputTest, NoNameForgesWhatIsShownOrBreaksACommand) {
   set("CheckOut", "checkout");
   const std::string names[] = {"<b>bold</b>&amp;<img src=x>",
@@ -274,6 +264,7 @@ TEST_F(BadInputTest, NoNameForgesWhatIsShownOrBreaksACommand) {
                                "\xD7\x90\xD7\x91\xD7\x92",
                                std::string(500, 'n'),
                                "%1 %2 %n",
+                               "two\xE2\x80\xA8lines\xE2\x80\xA9here",
                                "\xFF\xFE broken"};
   const std::string file = m_class.getFullFileName();
   for (const std::string& name : names) {
@@ -287,6 +278,7 @@ TEST_F(BadInputTest, NoNameForgesWhatIsShownOrBreaksACommand) {
     for (const QChar sign : text) {
       EXPECT_NE(sign.category(), QChar::Other_Control) << name;
       EXPECT_NE(sign.category(), QChar::Other_Format) << name;
+      EXPECT_NE(sign.category(), QChar::Separator_Line) << name;
     }
     acceptNextWindow();
     EXPECT_TRUE(dialog.runCommand(ControlId::CheckOut));

@@ -1,38 +1,17 @@
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <QTreeView>
 
+#include "cm/core/CMTraitFacade.h"
+#include "cm/templates/CMProperty.h"
 #include "cm/ui/logic/ButtonRules.h"
 #include "cm/ui/logic/ViewState.h"
-#include "tests/cm/ui/DialogTest.h"
+#include "tests/cm/ui/MainDialogTest.h"
 
 namespace veldra::test {
 namespace {
 
-class CCMDialogTest : public DialogTest {
- protected:
-  QTreeView& list() { return at<QTreeView>(m_dialog, ControlId::FlatList); }
-  QTreeView& tree() { return at<QTreeView>(m_dialog, ControlId::UnitTree); }
-  QString cell(int row, int column) { return list().model()->index(row, column).data().toString(); }
-  void select(int row) {
-    list().selectionModel()->select(list().model()->index(row, 0),
-                                    QItemSelectionModel::Select | QItemSelectionModel::Rows);
-  }
-  /// Reloads put new units in the place of the old ones, which the owners here would not notice.
-  void ownNothing() {
-    m_project.record.aggregates.clear();
-    m_package.record.aggregates.clear();
-    m_dialog.DoAfterOpRefresh();
-  }
-  std::string lastMessage() const {
-    const auto& asked = m_host.memoryMessages.asked;
-    return asked.empty() ? "" : asked.back().text.substr(0, 5);
-  }
-
-  CCMDialog m_dialog;
-};
+using CCMDialogTest = MainDialogTest;
 
 TEST_F(CCMDialogTest, EveryControlIsFoundByItsNumberAndSaysItsName) {
   std::vector<int> ids{ControlId::UnitTree, ControlId::FlatList, ControlId::Filter,
@@ -108,40 +87,18 @@ TEST_F(CCMDialogTest, ARefreshSelectsTheSameRowsAgain) {
   }
 }
 
-TEST_F(CCMDialogTest, CheckOutAndCheckInByKeyboardAlone) {
-  ownNothing();
-  set("CheckOut", "out $unit");
-  set("CheckIn", "in $unit $log");
-  m_dialog.setView(true);
-  m_dialog.show();
-  list().setCurrentIndex(list().model()->index(0, 0));
-  QTest::keyClick(&list(), Qt::Key_Down, Qt::ShiftModifier);
-  EXPECT_EQ(m_dialog.GetSelectedCount(), 2U);
-  onNextWindow([](QDialog& window) { QTest::keyClick(&window, Qt::Key_Return); });
-  QTest::keyClick(&at(m_dialog, ControlId::CheckOut), Qt::Key_Space);
-  onNextWindow([](QDialog& window) {
-    QTest::keyClicks(&at(window, ControlId::CheckInComment), QStringLiteral("finer"));
-    QTest::keyClick(&at(window, ControlId::CheckInLabel), Qt::Key_Return);
-  });
-  QTest::keyClick(&at(m_dialog, ControlId::CheckIn), Qt::Key_Space);
-  ASSERT_EQ(commands().size(), 4U);
-  EXPECT_EQ(commands().front(), "out Boiler.vcl");
-  EXPECT_EQ(commands().back(), "in Brewing.vpk finer");
-}
-
-TEST_F(CCMDialogTest, AForbiddenCommentKeepsTheWindowOpen) {
-  set("InValidCharactersInRevisionDescription", " ; ");
-  m_dialog.setView(true);
-  select(0);
-  onNextWindow([this](QDialog& window) {
-    at<QPlainTextEdit>(window, ControlId::CheckInComment).setPlainText(QStringLiteral("a;b"));
-    window.accept();
-    EXPECT_TRUE(window.isVisible());
-    EXPECT_EQ(lastMessage(), "60405");
-    window.reject();
-  });
-  m_dialog.runCommand(ControlId::CheckIn);
-  EXPECT_TRUE(commands().empty());
+TEST_F(CCMDialogTest, TheProvidersColumnsAreFilledAsSoonAsItIsConnected) {
+  useProvider("Any");
+  m_project.showsStatus = true;
+  m_class.record.state = CMState::Controlled;
+  CCMDialog dialog;
+  dialog.setView(true);
+  const QAbstractItemModel& model = *at<QTreeView>(dialog, ControlId::FlatList).model();
+  ASSERT_EQ(model.columnCount(), 6);
+  EXPECT_EQ(model.index(0, 4).data().toString(), QString());
+  CMProperty::setIsConnected(true);
+  dialog.CmFillCI();
+  EXPECT_NE(model.index(0, 4).data().toString(), QString());
 }
 
 TEST_F(CCMDialogTest, UnitsThatDieBehindTheDialogLeaveAnEmptyLine) {
@@ -186,27 +143,6 @@ TEST_F(CCMDialogTest, WithoutAProjectItSaysWhatToDoFirst) {
   const CCMDialog dialog;
   EXPECT_FALSE(at(dialog, ControlId::EmptyState).isHidden());
   EXPECT_TRUE(at(dialog, ControlId::FlatList).isHidden());
-}
-
-TEST_F(CCMDialogTest, ItCannotBeClosedWhileACommandRuns) {
-  ownNothing();
-  m_dialog.setView(true);
-  m_dialog.show();
-  select(0);
-  bool stayed = false;
-  Reply reply;
-  reply.effect = [&] {
-    m_dialog.close();
-    m_dialog.reject();
-    stayed = m_dialog.isVisible();
-  };
-  m_host.scriptedProcesses.answer("checkout", reply);
-  set("CheckOut", "checkout $unit");
-  acceptNextWindow();
-  m_dialog.runCommand(ControlId::CheckOut);
-  EXPECT_TRUE(stayed);
-  m_dialog.close();
-  EXPECT_FALSE(m_dialog.isVisible());
 }
 
 }  // namespace

@@ -107,6 +107,43 @@ TEST_F(CommandRunTest, AFailureKeepsTheCommentAndDoesNotRefresh) {
   EXPECT_EQ(ViewState::unusedComment(DialogCommand::CheckIn), "") << "it is used now";
 }
 
+TEST_F(CommandRunTest, TheCommentIsKeptUntilEveryUnitIsDone) {
+  class HalfDone : public BackEnd {
+   public:
+    int checkIn(const UnitCall& c) override {
+      if (fails) c.diagnostics.emplace_back(CMDiagnostic::Failed, "U is not done.", nullptr);
+      return isTool ? 1 : 0;
+    }
+    bool fails = true;
+    bool isTool = true;
+  } half;
+  backEnds().tool = &half;
+  backEnds().provider = &half;
+  m_view.selected = {&m_unit};
+  m_view.answer->comment = "what I did";
+  for (const bool isTool : {true, false}) {
+    half.isTool = isTool;
+    if (!isTool) useProvider("Any");
+    for (const bool fails : {true, false}) {
+      half.fails = fails;
+      run(DialogCommand::CheckIn);
+      EXPECT_EQ(ViewState::unusedComment(DialogCommand::CheckIn), fails ? "what I did" : "");
+    }
+  }
+}
+
+TEST_F(CommandRunTest, WhatTheHostThrowsDuringTheReloadIsTold) {
+  m_view.selected = {&m_unit};
+  m_view.answer->withDescendants = true;
+  m_host.traceLog.onLine = [](const std::string& line) {
+    if (line.starts_with("Updating")) throw std::runtime_error("no memory");
+  };
+  EXPECT_FALSE(run(DialogCommand::CheckOut));
+  EXPECT_EQ(lastMessage(), "60478");
+  EXPECT_EQ(m_view.refreshes, 0);
+  EXPECT_EQ(m_host.undo.open, 0);
+}
+
 TEST_F(CommandRunTest, AnAnswerForAllUnitsHoldsForOneCommandOnly) {
   class Asking : public BackEnd {
    public:
@@ -259,6 +296,8 @@ TEST_F(CommandRunTest, AddAsksAboutSubUnitsOnlyWhenTheSettingWantsIt) {
   EXPECT_FALSE(run(DialogCommand::AddToArchive));
   m_host.memoryMessages.answer = MessageBox::AnswerYes;
   EXPECT_TRUE(run(DialogCommand::AddToArchive));
+  EXPECT_TRUE(m_view.asked.back().offersDescendants);
+  EXPECT_TRUE(m_view.asked.back().withDescendants) << "the window shows the answer";
   EXPECT_EQ(m_backEnds.calls, (Lines{"tool.addMember", "tool.addMember"}));
 }
 

@@ -118,6 +118,16 @@ TEST_F(RulesTest, CommentsAreChecked) {
   EXPECT_EQ(OptionRules::objection(presets, options).substr(0, 5), "60406");
 }
 
+TEST_F(RulesTest, AProvidersWindowOffersTheModeToCommandsThatPassIt) {
+  useProvider("Any");
+  std::string takers;
+  for (const CommandRow& row : commandTable()) {
+    if (row.provider.window != OptionWindow::Provider) continue;
+    if (OptionRules::presets(row, {}).takesMode) takers += std::to_string(row.controlId) + ' ';
+  }
+  EXPECT_EQ(takers, "913 915 ");
+}
+
 TEST_F(RulesTest, TitlesNameTheCommandAsTheSettingSays) {
   OptionPresets presets;
   presets.command = DialogCommand::UndoCheckOut;

@@ -34,6 +34,12 @@ TEST_F(UserDefinedCommandTest, BlocksAreFilledOncePerUnit) {
   }
 }
 
+TEST_F(UserDefinedCommandTest, AKeywordInADirectorysNameIsNone) {
+  m_boiler.record.directory = "/plan/$Ver$Archive";
+  EXPECT_EQ(UserDefinedCommand::ExpandUserDefCommand("x \"ARG=$Directory\"", {&m_boiler}),
+            "x /plan/$Ver$Archive");
+}
+
 TEST_F(UserDefinedCommandTest, AnUnknownRootLeavesTheKeyword) {
   m_host.memoryEnvironment.rootKnown = false;
   EXPECT_EQ(UserDefinedCommand::ExpandUserDefCommand("$OMROOT/x", {}), "$OMROOT/x");

@@ -65,6 +65,24 @@ TEST_F(WorkWatchTest, InputWaitsForNobodyAndTimersRun) {
   EXPECT_EQ(edit.text().toStdString(), "typed");
 }
 
+TEST_F(WorkWatchTest, WhatIsTypedAfterTheLastLookIsThrownAwayToo) {
+  QLineEdit edit;
+  edit.show();
+  run("true");
+  const auto type = [&edit] {
+    QCoreApplication::postEvent(&edit,
+                                new QKeyEvent(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a"));
+  };
+  type();
+  m_work.discardInput();
+  EXPECT_EQ(edit.text().toStdString(), "");
+  QCoreApplication::processEvents();
+  type();
+  m_work.discardInput();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(edit.text().toStdString(), "a") << "nothing is at work";
+}
+
 TEST_F(WorkWatchTest, EscapeCancelsTheTool) {
   QLineEdit edit;
   edit.show();
