@@ -6,6 +6,7 @@
 #include <QStyleFactory>
 #include <array>
 
+#include "host/desktop/DarkStyle.h"
 #include "host/desktop/window/Icons.h"
 
 namespace veldra::host::desktop {
@@ -63,8 +64,9 @@ void setAppearance(Appearance appearance) {
     QApplication::setPalette(QPalette());
     return;
   }
-  QApplication::setStyle(QStyleFactory::create("Fusion"));
-  QApplication::setPalette(paletteOf(appearance == Appearance::Dark));
+  const bool isDark = appearance == Appearance::Dark;
+  QApplication::setStyle(isDark ? makeDarkStyle().release() : QStyleFactory::create("Fusion"));
+  QApplication::setPalette(paletteOf(isDark));
 }
 
 }  // namespace veldra::host::desktop

@@ -33,7 +33,6 @@ LineView* makeView(QWidget* parent, int id, const QString& name) {
   auto* const view = control(new LineView(parent), id, name);
   view->setSelectionMode(QAbstractItemView::ExtendedSelection);
   view->setUniformRowHeights(true);
-  view->setAllColumnsShowFocus(true);
   view->setTextElideMode(Qt::ElideMiddle);
   view->setContextMenuPolicy(Qt::CustomContextMenu);
   view->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -64,16 +63,12 @@ void fitColumns(QTreeView& list, int width) {
   }
 }
 
-std::vector<int> selectedRows(const QTreeView& list, const UnitFilter& filter) {
-  // Asking for the selected rows by themselves looks at every range for every row.
+std::vector<int> selectedRows(const LineView& list, const UnitFilter& filter) {
   std::vector<int> rows;
-  for (const QItemSelectionRange& range : list.selectionModel()->selection()) {
-    for (int row = range.top(); row <= range.bottom(); ++row) {
-      rows.push_back(filter.sourceOf(list.model()->index(row, 0)).row());
-    }
+  // A filter keeps the order.
+  for (const int row : list.selectedRows()) {
+    rows.push_back(filter.sourceOf(list.model()->index(row, 0)).row());
   }
-  std::sort(rows.begin(), rows.end());
-  rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
   return rows;
 }
 

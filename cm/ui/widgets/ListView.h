@@ -21,7 +21,7 @@ void fitColumns(QTreeView& list, int width);
 
 /// The rows of `source` that are selected in the view, ascending; the view may look through the
 /// filter.
-std::vector<int> selectedRows(const QTreeView& list, const UnitFilter& filter);
+std::vector<int> selectedRows(const LineView& list, const UnitFilter& filter);
 /// Selects these rows of `source`, ascending, and nothing else. Rows outside the list are ignored.
 void selectRows(QTreeView& list, const UnitFilter& filter, const QAbstractItemModel& source,
                 const std::vector<int>& rows);
