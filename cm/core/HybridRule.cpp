@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "cm/core/TextTools.h"
+#include "cm/host/IEnvironment.h"
 #include "cm/templates/CMProperty.h"
 
 namespace veldra {
@@ -31,10 +32,14 @@ bool HybridRule::appliesToPackages(const UnitList& units) {
 }
 
 bool HybridRule::appliesToRename(const std::string& oldName, const std::string& newName) {
-  const auto directory = [](const std::string& name) {
-    return name.substr(0, name.size() - baseName(name).size());
+  const auto directoryOf = [](const std::string& path) {
+    std::string directory;
+    std::string fileName;
+    std::string extension;
+    ParseToDirFileNameAndExtension(path, directory, fileName, extension);
+    return directory;
   };
-  return isPossible() && directory(oldName) != directory(newName);
+  return isPossible() && directoryOf(oldName) != directoryOf(newName);
 }
 
 }  // namespace veldra

@@ -1,5 +1,7 @@
 #include "cm/host/IEnvironment.h"
 
+#include <algorithm>
+
 #include "cm/host/Host.h"
 
 namespace veldra {
@@ -74,6 +76,16 @@ std::string omGetFullPathOfDirectory(const std::string& path, std::string& error
 
 std::string omGetErrorCodeString() {
   return ask(std::string(), [](IEnvironment& e) { return e.omGetErrorCodeString(); });
+}
+
+void ParseToDirFileNameAndExtension(const std::string& path, std::string& directory,
+                                    std::string& fileName, std::string& extension) {
+  const std::size_t nameStart = path.find_last_of("/\\") + 1;  // The number after npos is 0.
+  const std::string name = path.substr(nameStart);
+  const std::size_t dot = std::min(name.rfind('.'), name.size());
+  directory = path.substr(0, nameStart);
+  fileName = name.substr(0, dot);
+  extension = name.substr(dot);
 }
 
 }  // namespace veldra

@@ -92,4 +92,9 @@ std::optional<std::int64_t> omGetFileTime(const std::string& path);
 std::string omGetFullPathOfDirectory(const std::string& path, std::string& errorText);
 std::string omGetErrorCodeString();
 
+/// Splits a full file name into the directory with the separator at its end, the bare name, and the
+/// extension with its dot. What the name does not have is empty. Either separator counts.
+void ParseToDirFileNameAndExtension(const std::string& path, std::string& directory,
+                                    std::string& fileName, std::string& extension);
+
 }  // namespace veldra

@@ -38,11 +38,12 @@ inline constexpr int UnsafeFileName = 60006;        ///< File, what it contains.
 inline constexpr int PatternNotValid = 60007;       ///< Pattern, reason.
 inline constexpr int PatternGivenUp = 60008;        ///< Pattern.
 inline constexpr int CommentNotWritten = 60009;     ///< Directory.
-inline constexpr int NoProcessRunner = 60010;
-inline constexpr int InternalError = 60011;  ///< Operation, what happened.
+inline constexpr int NoProcessRunner = 60010;       ///< Command.
+inline constexpr int InternalError = 60011;         ///< Operation, what happened.
 inline constexpr int NoMoveTarget = 60020;
 inline constexpr int NoNewName = 60021;
-inline constexpr int CopyNotKept = 60030;  ///< File, reason.
+inline constexpr int CopyNotKept = 60030;        ///< File, reason.
+inline constexpr int ToolEndedSilently = 60810;  ///< Exit code.
 
 // What a provider answers: prefixes, the texts of the codes -1 and 1 (the others lie below them in
 // order), one for any other code, and what ends every message.

@@ -6,7 +6,7 @@ namespace veldra {
 
 /// Shows the history of units in the provider's window, all together where it can show several
 /// files and else one after the other. 1 when everything could be shown.
-class HistorySCC : public CMOperation {
+class HistorySCC final : public CMOperation {
  public:
   virtual int operator()(UnitList& units, ArgumentList& arguments, DiagnosticList& diagnostics);
   /// Of files of the archive, loaded or not.

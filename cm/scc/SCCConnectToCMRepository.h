@@ -10,7 +10,7 @@ class pvContextStruct;
 
 /// Connects the model with projects of the provider's archive. The results are 1 for success and 0
 /// for failure; the user has then been told.
-class SCCConnectToCMRepository : public CMOperation {
+class SCCConnectToCMRepository final : public CMOperation {
  public:
   /// Associates the model with an archive project that the user chooses. A model that has one
   /// already is connected to it, unless the user wants another one.

@@ -9,7 +9,6 @@ namespace veldra {
 /// Runs finished command lines.
 class VELDRA_CM_EXPORT CMToolInterface {
  public:
-  virtual ~CMToolInterface() = default;
   /// Runs `command` in the CM working directory and waits for it.
   ///
   /// `output` gets what the child printed, `errorText` its error lines, its output when it ran out
@@ -18,6 +17,9 @@ class VELDRA_CM_EXPORT CMToolInterface {
   /// `lastCommandEnd`.
   virtual int Execute(const std::string& command, std::string& output, std::string& errorText,
                       std::string workingDirectory) = 0;
+
+  // After the published function, so that it keeps the first place of the table.
+  virtual ~CMToolInterface() = default;
 };
 
 }  // namespace veldra

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string>
 #include <utility>
 
 #include "cm/core/CMOutputer.h"
@@ -89,7 +91,8 @@ struct RunResult {
   bool hasErrorLines = false;
   bool failed = false;  ///< By error lines or a time-out with output: the text is an error text.
   bool endedBadly = false;
-  std::string setAside{};  ///< What was printed beside error lines.
+  std::optional<int> exitCode{};  ///< Of a child that came to its end by itself.
+  std::string setAside{};         ///< What was printed beside error lines.
 };
 
 RunResult runAndCollect(IProcesses& processes, const RedirectedCommand& command,
@@ -111,8 +114,20 @@ RunResult runAndCollect(IProcesses& processes, const RedirectedCommand& command,
     runner->outputLines().moveTo(timedOut ? errorText : output);
     result.failed = timedOut;
   }
-  result.endedBadly = runner->end() != ProcessEnd::Exited || runner->endCode() != 0;
+  const bool hasExited = runner->end() == ProcessEnd::Exited;
+  result.endedBadly = !hasExited || runner->endCode() != 0;
+  if (hasExited) result.exitCode = runner->endCode();
   return result;
+}
+
+/// What there is to say about a command that failed and printed `text`.
+std::string wordsOf(const RunResult& run, const std::string& text) {
+  // What it had to say before that is not why it ended.
+  if (run.wait == RunThread::WaitTimeout)
+    return loadMessage(MessageId::CommandTimedOut) + (text.empty() ? "" : "\n" + text);
+  const bool isSilent = text.empty() && run.exitCode.value_or(0) != 0;
+  return isSilent ? formatMessage(MessageId::ToolEndedSilently, {std::to_string(*run.exitCode)})
+                  : text;
 }
 
 /// Tells about a command that ran out of time without a word.
@@ -149,7 +164,7 @@ void CMToolShellInterface::runCommand(const std::string& command, OutputFollower
   Host* const host = installedHost();
   IProcesses* const processes = host != nullptr ? host->processes() : nullptr;
   if (processes == nullptr) {
-    errorText = loadMessage(MessageId::NoProcessRunner);
+    errorText = formatMessage(MessageId::NoProcessRunner, {command});
     echo(errorText);
     m_end = {.failed = true, .words = errorText};
     return;
@@ -174,7 +189,7 @@ void CMToolShellInterface::runCommand(const std::string& command, OutputFollower
       redirected.line.find("lsvtree -graph") == std::string::npos) {
     noticeTimeOut();
   }
-  if (m_end.failed) m_end.words = errorText.empty() ? output : errorText;
+  if (m_end.failed) m_end.words = wordsOf(run, errorText.empty() ? output : errorText);
 }
 
 bool CMToolShellInterface::tryCommand(const std::string& command, std::string& output) {

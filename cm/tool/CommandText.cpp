@@ -1,5 +1,6 @@
 #include "cm/tool/CommandText.h"
 
+#include "cm/host/IEnvironment.h"
 #include "cm/templates/KeywordScanner.h"
 
 namespace veldra {
@@ -25,6 +26,14 @@ std::optional<std::string> unsafeInCommand(std::string_view text) {
   if (text.ends_with('\\')) return "a backslash at its end";
   KeywordScanner scanner(text);
   if (scanner.next()) return "the keyword " + scanner.reference();
+  return std::nullopt;
+}
+
+std::optional<std::string> unsafeAsFileName(std::string_view path) {
+  if (std::optional<std::string> reason = unsafeInCommand(path)) return reason;
+  const char separator = omPathSeparator();
+  const std::string_view name = path.substr(path.rfind(separator) + 1);
+  if (name.find('\\') != std::string_view::npos) return "a backslash";
   return std::nullopt;
 }
 

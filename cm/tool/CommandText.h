@@ -13,4 +13,8 @@ namespace veldra {
 /// so no quoting helps against these.
 VELDRA_CM_EXPORT std::optional<std::string> unsafeInCommand(std::string_view text);
 
+/// The same for the full name of a unit's file. A backslash in it would pass for a separator, even
+/// where the system has another one, and the command would name a file that is not there.
+VELDRA_CM_EXPORT std::optional<std::string> unsafeAsFileName(std::string_view path);
+
 }  // namespace veldra

@@ -12,15 +12,31 @@ namespace veldra {
 
 namespace {
 
-constexpr DirectoryCommand CheckOutDirectory{
-    "CheckOut", "Executing the following command to check out the directory: ",
-    "Check out directory command returned the following: "};
-constexpr DirectoryCommand CheckInDirectory{
-    "CheckIn", "Executing the following command to check in the directory: ",
-    "Check in directory command returned the following: "};
-constexpr DirectoryCommand AddFile{"AddMember_WithoutCheckOutCheckInDirectory",
-                                   "Executing the following command to add the file",
-                                   "Add member command returned the following: "};
+int checkOutDirectory(const std::string& directory, CMOperation& operation,
+                      DiagnosticList& diagnostics) {
+  static constexpr DirectoryCommand row{
+      "CheckOut", "Executing the following command to check out the directory: ",
+      "Check out directory command returned the following: "};
+  return runDirectoryCommand(row, {{"$mode", ""}, {"$LabelPart", directory}}, operation,
+                             diagnostics);
+}
+
+int checkInDirectory(const std::string& directory, CMOperation& operation,
+                     DiagnosticList& diagnostics) {
+  static constexpr DirectoryCommand row{
+      "CheckIn", "Executing the following command to check in the directory: ",
+      "Check in directory command returned the following: "};
+  return runDirectoryCommand(row, {{"$LogPart", "-nc"}, {"$UnitPath", directory}}, operation,
+                             diagnostics);
+}
+
+int addMemberWithoutCheckInCheckOutDirectory(const std::string& file, CMOperation& operation,
+                                             DiagnosticList& diagnostics) {
+  static constexpr DirectoryCommand row{"AddMember_WithoutCheckOutCheckInDirectory",
+                                        "Executing the following command to add the file",
+                                        "Add member command returned the following: "};
+  return runDirectoryCommand(row, {{"$UnitPath", file}}, operation, diagnostics);
+}
 
 /// Units that are saved in one directory, in the order of the list.
 using Group = std::pair<std::string, UnitList>;
@@ -60,20 +76,18 @@ int addDirectoryByDirectory(CMOperation& operation, const UnitList& units,
   int status = 0;
   for (const auto& [directory, members] : groupUnitsByPersistAs(accepted)) {
     if (UnitProgress::isCancelled()) break;
-    const int checkedOut = runDirectoryCommand(
-        CheckOutDirectory, {{"$mode", ""}, {"$LabelPart", directory}}, operation, diagnostics);
+    const int checkedOut = checkOutDirectory(directory, operation, diagnostics);
     for (const IUnit* unit : members) {
       if (UnitProgress::isCancelled()) break;
       const std::string file = unit->getFullFileName();
       UnitProgress progress("Add to Archive", ++position, accepted.size(), file);
       if (checkedOut != 0) {
-        status = runDirectoryCommand(AddFile, {{"$UnitPath", file}}, operation, diagnostics);
+        status = addMemberWithoutCheckInCheckOutDirectory(file, operation, diagnostics);
       }
       progress.endsByCommand(1, checkedOut != 0 ? status : 0);
     }
     // The directory goes back whatever became of its files.
-    status = runDirectoryCommand(CheckInDirectory, {{"$LogPart", "-nc"}, {"$UnitPath", directory}},
-                                 operation, diagnostics);
+    status = checkInDirectory(directory, operation, diagnostics);
   }
   return status;
 }

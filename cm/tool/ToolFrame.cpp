@@ -63,16 +63,24 @@ bool hasCMTool(CMOperation& operation, DiagnosticList& diagnostics, bool hybrid)
   return false;
 }
 
-bool refuseUnsafeName(const IUnit& unit, DiagnosticList& diagnostics) {
-  return refuseUnsafeName(&unit, placeOf(unit), diagnostics);
-}
-
-bool refuseUnsafeName(const IUnit* unit, const std::string& name, DiagnosticList& diagnostics) {
-  const std::optional<std::string> reason = unsafeInCommand(name);
+namespace {
+/// True, and a diagnostic, when there is a reason.
+bool refuseFor(const std::optional<std::string>& reason, const IUnit* unit, const std::string& name,
+               DiagnosticList& diagnostics) {
   if (!reason) return false;
   diagnostics.emplace_back(CMDiagnostic::Failed,
                            formatMessage(MessageId::UnsafeFileName, {name, *reason}), unit);
   return true;
+}
+}  // namespace
+
+bool refuseUnsafeName(const IUnit& unit, DiagnosticList& diagnostics) {
+  const std::string name = placeOf(unit);
+  return refuseFor(unsafeAsFileName(name), &unit, name, diagnostics);
+}
+
+bool refuseUnsafeName(const IUnit* unit, const std::string& name, DiagnosticList& diagnostics) {
+  return refuseFor(unsafeInCommand(name), unit, name, diagnostics);
 }
 
 void chooseArchiveOf(const IUnit* unit) {

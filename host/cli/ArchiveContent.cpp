@@ -22,8 +22,24 @@ std::string reasonForNothing(Session& session, const DiagnosticList& diagnostics
   return told.empty() ? "The archive cannot be listed." : told;
 }
 
+/// A pattern of the listing that is not valid would find nothing, as if nothing were there.
+std::string reasonByPatterns(IPatternEngine& patterns) {
+  for (const char* name :
+       {IPN::CMMultiRecordDelimiter, IPN::CMListArchiveItsWorkingFile, IPN::CMListArchiveItsVersion,
+        IPN::CMListArchiveItsMode, IPN::CMListArchiveItsLocker}) {
+    std::string pattern;
+    std::string error;
+    const bool isSet = CMProperty::getToolPropertyValue(name, pattern) && !pattern.empty();
+    if (isSet && patterns.compile(pattern, "i", error) == nullptr) {
+      return std::string("The tool's listing cannot be read: its property ") + name +
+             " holds no valid pattern. Correct it with \"veldra-cm property set\".";
+    }
+  }
+  return {};
+}
+
 /// Why the answer of a command that worked cannot be read.
-std::string reasonForNoRecords() {
+std::string reasonForNoRecords(IPatternEngine& patterns) {
   for (const char* name : {IPN::CMMultiRecordDelimiter, IPN::CMListArchiveItsWorkingFile}) {
     std::string pattern;
     if (!CMProperty::getToolPropertyValue(name, pattern) || pattern.empty()) {
@@ -31,7 +47,7 @@ std::string reasonForNoRecords() {
              " is not set. Set it with \"veldra-cm property set\".";
     }
   }
-  return {};
+  return reasonByPatterns(patterns);
 }
 
 /// A list that nobody takes down: the program ends soon, and giving many thousand items back one by
@@ -51,7 +67,7 @@ std::string whyNotListed(Session& session, std::size_t tracesBefore,
     std::string failure = failureOf(traces[i], IPN::CMListArchive);
     if (!failure.empty()) return failure;
   }
-  return reasonForNoRecords();
+  return reasonForNoRecords(session.host().patterns());
 }
 
 ArchiveContent listArchive(Session& session, const std::function<void(UnitRecord&)>& take) {

@@ -266,7 +266,9 @@ class UnitBatch {
   std::unordered_map<std::string, std::string> m_nowAt;  ///< Files that units have since.
 };
 
-void print(const Report& report, const UnitOperation& operation, const Invocation& invocation) {
+/// `told` is what the user has read about the whole command already.
+void print(const Report& report, const UnitOperation& operation, const Invocation& invocation,
+           const std::string& told) {
   Console& console = invocation.console;
   if (invocation.options.json) {
     printJson(report, console.out);
@@ -278,7 +280,9 @@ void print(const Report& report, const UnitOperation& operation, const Invocatio
     const bool isFine = unit.result == UnitResult::Planned || unit.result == UnitResult::Done;
     if (!isFine) ++failures;
     // One sentence for all of them says enough.
-    if (!isFine && unit.message != report.message) printFailure(unit, console.err);
+    const bool isTold = unit.message == report.message ||
+                        (unit.result == UnitResult::Skipped && unit.message == told);
+    if (!isFine && !isTold) printFailure(unit, console.err);
   }
   if (!report.message.empty()) console.err << linesForPeople(report.message) << '\n';
   if (failures > 0 && report.units.size() > 1) {
@@ -321,7 +325,7 @@ ExitCode runUnitOperation(const Invocation& invocation, const UnitOperation& ope
   batch.run();
   const Report report = batch.report(invocation.command.name);
   session.save(false);
-  print(report, operation, invocation);
+  print(report, operation, invocation, session.door().lastText());
   if (isEmpty) {
     invocation.console.err << "There is no unit to " << operation.action << ".\n";
     return ExitCode::AllDone;

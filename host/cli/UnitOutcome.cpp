@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <sstream>
 
+#include "cm/host/IProperty.h"
+#include "cm/templates/CMProperty.h"
 #include "cm/ui/logic/BatchResults.h"
 #include "host/cli/CallArguments.h"
 #include "host/cli/printing/BytesAsText.h"
@@ -30,6 +32,11 @@ UnitResult resultOf(UnitEnd end) {
 std::string wayOut(UnitEnd end, const char* templateProperty) {
   if (end == UnitEnd::Declined) return " --force overwrites it.";
   if (end != UnitEnd::NotExpanded) return {};
+  const IProperty* const tool = CMProperty::getCMTool(nullptr, false);
+  if (tool != nullptr && CMProperty::getToolProperty(templateProperty) == nullptr) {
+    return " The tool \"" + tool->getValue() + "\" has no property " + templateProperty +
+           ". \"veldra-cm pack list\" shows the tools that there are.";
+  }
   return std::string(" \"veldra-cm expand --explain --property ") + templateProperty +
          "\" shows where it fails.";
 }

@@ -65,7 +65,11 @@ void addBelow(const UnitCore& owner, UnitList& units) {
   }
 }
 
-std::string reasonAgainst(const std::vector<UnitCore*>& found) {
+std::string reasonAgainst(const std::vector<UnitCore*>& found, bool isPackage) {
+  if (found.empty() && isPackage) {
+    return "The package has no file of its own. Name a unit in it; commands that know -r take all "
+           "of them.";
+  }
   if (found.empty()) {
     return "There is no such unit. \"veldra-cm status\" lists the units of the project.";
   }
@@ -138,7 +142,8 @@ UnitSelection selectByName(Project& project, const std::vector<std::string>& nam
     }
     UnitRecord record{.path = name, .mode = "U"};
     record.result = UnitResult::Unknown;
-    record.message = reasonAgainst(found);
+    const bool isPackage = found.empty() && !candidates(project, name, true).empty();
+    record.message = reasonAgainst(found, isPackage);
     selection.unknown.push_back(std::move(record));
   }
   return selection;

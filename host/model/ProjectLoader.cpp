@@ -60,7 +60,9 @@ std::unique_ptr<Project> loadProject(const std::string& projectFile, PropertyLay
   }
   const Result<std::string> bytes = readFile(projectFile, ModelFileLimit);
   if (!bytes) {
-    error = bytes.error() + " Fetch the project file from the archive or restore it from a backup.";
+    error = bytes.error() +
+            " See to the rights of the project file, fetch it from the archive or restore it from "
+            "a backup.";
     return nullptr;
   }
   Problem fatal;

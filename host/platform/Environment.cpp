@@ -32,7 +32,8 @@ std::string findInstallationRoot() {
 
 std::string unusableDirectory(const std::string& path, int error) {
   const std::string name = path.empty() ? "The current directory" : "The directory '" + path + "'";
-  return name + " cannot be used: " + systemErrorText(error) + ".";
+  return name + " cannot be used: " + systemErrorText(error) +
+         ". Go to one that exists and that you may enter.";
 }
 
 Environment::Environment(std::string installationRoot, Settings settings)

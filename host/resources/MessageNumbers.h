@@ -21,6 +21,8 @@ inline constexpr int NoSuchRevision = 60119;
 inline constexpr int NotInArchive = 60120;
 inline constexpr int NoUserName = 60121;
 inline constexpr int NotPermitted = 60122;
+inline constexpr int FileNameNotTaken = 60811;
+inline constexpr int NotCheckedOut = 60812;
 
 // What comparisons print.
 inline constexpr int CompareKinds = 60700;   ///< Added, removed, moved, changed.

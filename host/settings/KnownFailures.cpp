@@ -14,11 +14,13 @@ namespace Id = MessageNumber;
 constexpr KnownFailure Failures[] = {
     {"FailureToolMissing", Id::ToolMissing, ""},
     {"FailureDiskFull", Id::DiskFull, ""},
+    {"FailureFileName", Id::FileNameNotTaken, ""},
     {"FailureAuthentication", Id::Authentication, ""},
     {"FailureUnreachable", Id::Unreachable, ""},
     {"FailureNotConnected", Id::NotConnected, ""},
     {"FailureInterrupted", Id::RunInterrupted, ""},
     {"FailureLocked", Id::LockedByOther, "another user"},
+    {"FailureNotCheckedOut", Id::NotCheckedOut, ""},
     {"FailureConflict", Id::Conflict, ""},
     {"FailureOutOfDate", Id::OutOfDate, ""},
     {"FailureNoSuchRevision", Id::NoSuchRevision, ""},

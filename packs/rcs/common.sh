@@ -65,8 +65,13 @@ user() {
   printf '%s\n' "${LOGNAME:-${USER:-$(id -un)}}"
 }
 
+# holds_lock: whether the user holds $archived.
+holds_lock() {
+  lockers "$archived" | grep -q -x -F -e "$(user)"
+}
+
 # is_checked_out: whether the user holds $archived, and may write $working.
 is_checked_out() {
   [ -n "$(find "$working" -maxdepth 0 -type f -perm -u+w 2>/dev/null)" ] &&
-    lockers "$archived" | grep -q -x -F -e "$(user)"
+    holds_lock
 }

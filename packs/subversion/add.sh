@@ -29,12 +29,17 @@ new_paths() {
 # one has left them behind, and for the directories above them.
 left_over() {
   sed 's/^..........//' "$work/added" >"$work/paths"
-  tell passed -v "$work/paths" | sed 's/^passed: //' | while IFS= read -r path; do
-    while state=$(svn status --depth empty -- "$path@") && [ "${state#A}" != "$state" ]; do
+  tell passed -v "$work/paths" | sed 's/^passed: //; s/$/@/' >"$work/passed"
+  [ -s "$work/passed" ] || return 0
+  tr '\n' '\000' <"$work/passed" |
+    xargs -0 sh "${0%/*}/svn.sh" status --depth empty -- 2>/dev/null |
+    sed -n 's/^A.......//p' | while IFS= read -r path; do
       printf 'A         %s\n' "$path"
-      path=${path%/*}
-    done
-  done | sort -u
+      while [ "$path" != "${path%/*}" ] && path=${path%/*} &&
+        state=$(svn status --depth empty -- "$path@") && [ "${state#A}" != "$state" ]; do
+        printf 'A         %s\n' "$path"
+      done
+    done | sort -u
 }
 
 # take_back: nothing stays scheduled; the files stay. What lies in a directory goes with it, and by itself

@@ -124,12 +124,15 @@ TEST_F(CommandLineTest, ExpandPrintsTheExpansionAlone) {
       const Ended ended = m_sandbox.cm(words);
       EXPECT_EQ(ended.code, row.code) << testing::PrintToString(words) << ended.err;
       EXPECT_EQ(ended.out, row.out) << testing::PrintToString(words);
+      EXPECT_EQ(ended.err.empty(), row.code == 0) << testing::PrintToString(words);
     }
   }
   const Ended explained = m_sandbox.cm(
       {"-p", "model", "expand", "$Unit", "--unit", "Brewing/Grinder.vcmp", "--explain"});
   EXPECT_EQ(explained.out, "Grinder.vcmp");
   EXPECT_THAT(explained.err, HasSubstr("+++ Expanding '$Unit'"));
+  EXPECT_THAT(m_sandbox.cm({"-p", "model", "expand", "--property", "Nonsense"}).err,
+              HasSubstr("no property \"Nonsense\""));
 }
 
 TEST_F(CommandLineTest, PropertiesAreSetWhereTheyBelong) {
@@ -145,6 +148,8 @@ TEST_F(CommandLineTest, PropertiesAreSetWhereTheyBelong) {
   const Ended listed = m_sandbox.cm({"-p", "model", "property", "list"});
   EXPECT_THAT(listed.out, HasSubstr("ConfigurationManagement.General.CMTool = RCS  (project)\n"));
   EXPECT_THAT(listed.out, HasSubstr("ConfigurationManagement.RCS.Archive = /a  (user)\n"));
+  EXPECT_EQ(m_sandbox.cm({"-p", "model", "property", "list", "RCS.Archive"}).out,
+            "ConfigurationManagement.RCS.Archive = /a  (user)\n");
   EXPECT_THAT(m_sandbox.read("model/Machine.vdy"), Not(HasSubstr("\"Archive\"")));
 
   const std::string before = m_sandbox.read("model/Machine.vdy");

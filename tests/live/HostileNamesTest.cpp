@@ -28,8 +28,8 @@ const std::vector<std::string> Carried = {"two blanks  in it.txt",
                                           "Crème €.txt",
                                           std::string(230, 'l') + ".txt"};
 
-const std::vector<std::string> NotCarried = {"dou\"ble.txt", "out>put.txt", "$log.txt",
-                                             "line\nend.txt", "(a?b).txt"};
+const std::vector<std::string> NotCarried = {"dou\"ble.txt",  "out>put.txt", "$log.txt",
+                                             "line\nend.txt", "(a?b).txt",   "back\\slash.txt"};
 
 class HostileNamesTest : public testing::TestWithParam<const char*> {
  protected:

@@ -62,9 +62,10 @@ TEST_F(ScriptedToolTest, EveryWayToFailIsToldOnceWithTheToolsWords) {
       {"a pattern", "echo 'FATAL: broken pipe'", "OperationErrorPattern = '^FATAL'\n",
        "FATAL: broken pipe"},
       {"a signal", "kill -SEGV $$", "", "signal"},
-      {"silence", "exit 1", "", "without a word"},
-      {"no end", "sleep 60", "ChildThreadTimeOut = 300\n", "time"},
-      {"no end, deaf", "trap '' TERM; sleep 60 & sleep 60", "ChildThreadTimeOut = 300\n", "time"},
+      {"silence", "exit 7", "", "exit code 7"},
+      {"no end", "echo begun; sleep 60", "ChildThreadTimeOut = 300\n", "did not answer in time"},
+      {"no end, deaf", "trap '' TERM; sleep 60 & sleep 60", "ChildThreadTimeOut = 300\n",
+       "did not answer in time"},
   };
   for (const Row& row : rows) {
     useTool(row.script, row.settings);
@@ -87,6 +88,45 @@ TEST_F(ScriptedToolTest, AMissingToolIsNamed) {
   const Ended ended = cm({"checkout", "--force", m_one});
   EXPECT_EQ(ended.code, 3);
   EXPECT_THAT(ended.err, HasSubstr("no-such-tool-here"));
+}
+
+TEST_F(ScriptedToolTest, ALackOfTheToolIsToldOnceForAllUnits) {
+  for (const auto& [tool, words] : {std::pair("None", "No CM tool is selected"),
+                                    std::pair("Scipted", "The tool \"Scipted\" has no property")}) {
+    ASSERT_EQ(cm({"property", "set", "CMTool", tool}).code, 0);
+    for (const char* command : {"ls", "refresh", "lock", "unlock"}) {
+      SCOPED_TRACE(std::string(command) + " with " + tool);
+      std::vector<std::string> arguments = {command};
+      if (std::string(command).ends_with("lock")) arguments.push_back(m_one);
+      if (std::string(tool) == "None" && arguments.size() > 1) arguments.push_back(m_two);
+      const Ended ended = cm(arguments);
+      EXPECT_EQ(ended.code, 3);
+      const std::size_t first = ended.err.find(words);
+      EXPECT_NE(first, std::string::npos) << ended.err;
+      EXPECT_EQ(ended.err.rfind(words), first) << ended.err;
+    }
+  }
+}
+
+TEST_F(ScriptedToolTest, AListingThatCannotBeReadIsNoEmptyArchive) {
+  const std::string patterns =
+      "MultiRecordDelimiter = '\\n'\nListArchiveItsWorkingFile = '^(.+)'\n"
+      "ListArchiveItsVersion = ";
+  useCommand("echo a.txt", patterns + "''\n");
+  EXPECT_THAT(cm({"ls"}).out, HasSubstr("a.txt"));
+  useCommand("echo a.txt", patterns + "'('\n");
+  const Ended ended = cm({"ls", "--json"});
+  EXPECT_EQ(ended.code, 1);
+  EXPECT_THAT(nlohmann::json::parse(ended.out)["message"].get<std::string>(),
+              HasSubstr("ListArchiveItsVersion"));
+}
+
+TEST_F(ScriptedToolTest, APackageWithoutAFileIsToldFromWhatIsNotThere) {
+  useTool("exit 0");
+  m_sandbox.write("model/Bare/Whisk.vcmp", m_sandbox.read("model/Brewing/Grinder.vcmp"));
+  EXPECT_THAT(cm({"add", "Bare"}).err, HasSubstr("-r"));
+  EXPECT_THAT(cm({"add", "Bear"}).err, HasSubstr("no such unit"));
+  EXPECT_EQ(cm({"add", "-r", "Bare"}).out, "added  Bare/Whisk.vcmp\n");
 }
 
 TEST_F(ScriptedToolTest, SomeFailTheOthersAreDone) {

@@ -85,6 +85,19 @@ TEST_P(LockingUsersTest, TheSecondCheckOutIsRefusedAndNamesTheHolder) {
   EXPECT_EQ(tool().holder(Unit), "alice");
 }
 
+TEST_P(LockingUsersTest, AnUndoOfWhatAnotherHoldsDropsOnesOwnChangesAlone) {
+  if (tool().traits().noLockCommand != nullptr) GTEST_SKIP() << "a provider undoes check-outs only";
+  m_job.become("alice", "model");
+  m_job.cm({"checkout", Unit});
+  m_job.become("bob", "second");
+  const std::string before = m_job.read(Unit);
+  changeUnasked("Grinds one portion", "Crushes one portion");
+  m_job.cm({"undo", Unit});
+  EXPECT_EQ(m_job.read(Unit), before);
+  EXPECT_FALSE(m_job.isWritable(Unit));
+  EXPECT_EQ(tool().holder(Unit), "alice");
+}
+
 TEST_P(TwoUsersTest, ACheckInOnTopOfANewerOneIsRefusedAndNothingIsLost) {
   changeUnasked("Grinds one portion", "Crushes one portion");
   const std::string ofBob = m_job.read(Unit);

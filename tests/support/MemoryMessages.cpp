@@ -5,9 +5,16 @@
 namespace veldra::test {
 
 std::string MemoryMessages::loadString(int id) {
-  static const std::map<int, const char*> placeholders{
-      {949, ": %1 %2 %3 %4"}, {953, ": %1 %2"},  {958, ""}, {959, ""}, {962, ""}, {46554, ""},
-      {47640, ": %1"},        {48352, ": %1 %2"}};
+  static const std::map<int, const char*> placeholders{{949, ": %1 %2 %3 %4"},
+                                                       {953, ": %1 %2"},
+                                                       {958, ""},
+                                                       {959, ""},
+                                                       {962, ""},
+                                                       {46554, ""},
+                                                       {47640, ": %1"},
+                                                       {48352, ": %1 %2"},
+                                                       {60010, ": %1"},
+                                                       {60810, ": %1"}};
   const auto known = placeholders.find(id);
   return std::to_string(id) + (known == placeholders.end() ? ": %1 %2" : known->second);
 }

@@ -6,6 +6,7 @@
 #include "host/cli/ExpansionArgument.h"
 #include "host/cli/Session.h"
 #include "host/cli/UnitSelection.h"
+#include "host/cli/printing/BytesAsText.h"
 #include "host/cli/printing/Report.h"
 #include "host/platform/Program.h"
 
@@ -33,6 +34,16 @@ void print(const Invocation& invocation, const std::string& text, bool succeeded
   printJson(document, invocation.console.out);
 }
 
+/// The expansion itself stands alone on the output, without a line end.
+void tellFailure(const Invocation& invocation, const std::string& expansion) {
+  const std::optional<std::string>& property = invocation.options.property;
+  const bool isMissing = property && CMProperty::getToolProperty(*property) == nullptr;
+  if (!expansion.empty()) invocation.console.err << '\n';
+  invocation.console.err << (isMissing ? "There is no property \"" + textForPeople(*property) +
+                                             "\". \"veldra-cm property list\" shows all.\n"
+                                       : "The expansion failed. --explain shows each step.\n");
+}
+
 }  // namespace
 
 ExitCode runExpand(const Invocation& invocation) {
@@ -55,6 +66,7 @@ ExitCode runExpand(const Invocation& invocation) {
           ? CMProperty::ExpandProperty(*options.property, arguments.list(), text, extra)
           : CMProperty::Expand(*options.commandTemplate, arguments.list(), text, extra);
   print(invocation, text, result == 1);
+  if (result != 1 && !options.explain) tellFailure(invocation, text);
   return result == 1 ? ExitCode::AllDone : ExitCode::SomeFailed;
 }
 

@@ -1,7 +1,7 @@
+#include "cm/host/IUserMessages.h"
 #include "host/cli/ArchiveContent.h"
 #include "host/cli/CommandPlan.h"
 #include "host/cli/Session.h"
-#include "host/cli/printing/BytesAsText.h"
 #include "host/cli/printing/Listing.h"
 #include "host/cli/printing/Report.h"
 
@@ -35,7 +35,7 @@ ExitCode runLs(const Invocation& invocation) {
   } else if (!content.files.empty()) {
     printListing(content.files, console.out);
   }
-  if (!content.failure.empty()) console.err << linesForPeople(content.failure) << '\n';
+  if (!content.failure.empty()) session.door().notify(content.failure, MessageLevel);
   return exitCodeOf(content, content.files.size() + document.unitCount());
 }
 

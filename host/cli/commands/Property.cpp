@@ -22,8 +22,15 @@ class PropertyCommand {
     m_hasProject = m_session.openProjectIfAny();
   }
 
-  void list() {
+  /// Those of a name, or all.
+  void list(const std::optional<std::string>& text) {
     std::vector<PropertyEntry> entries = layers().entries();
+    if (text) {
+      const PropertyName name = parsed(*text);
+      std::erase_if(entries, [&](const PropertyEntry& entry) {
+        return !(keyIn(name, entry.key.metaclass) == entry.key);
+      });
+    }
     if (invocation().options.json) {
       print(entries);
     } else {
@@ -145,16 +152,17 @@ class PropertyCommand {
 
 ExitCode runProperty(const Invocation& invocation) {
   const Options& options = invocation.options;
-  if (options.action == "list" && !options.key) {
-    PropertyCommand(invocation).list();
+  if (options.action == "list" && !options.value) {
+    PropertyCommand(invocation).list(options.key);
   } else if (options.action == "get" && options.key && !options.value) {
     PropertyCommand(invocation).get(*options.key);
   } else if (options.action == "set" && options.key && options.value) {
     PropertyCommand(invocation).set(*options.key, *options.value);
   } else {
-    throw CommandError(ExitCode::WrongUsage,
-                       "It is \"property list\", \"property get PROPERTY\" or \"property set "
-                       "PROPERTY VALUE\".");
+    throw CommandError(
+        ExitCode::WrongUsage,
+        "It is \"property list [PROPERTY]\", \"property get PROPERTY\" or \"property "
+        "set PROPERTY VALUE\".");
   }
   return ExitCode::AllDone;
 }

@@ -1,12 +1,12 @@
 #include <algorithm>
 #include <map>
 
+#include "cm/host/IUserMessages.h"
 #include "cm/templates/CMProperty.h"
 #include "host/cli/CommandPlan.h"
 #include "host/cli/Session.h"
 #include "host/cli/UnitSelection.h"
 #include "host/cli/UnitStates.h"
-#include "host/cli/printing/BytesAsText.h"
 #include "host/cli/printing/Listing.h"
 #include "host/cli/printing/Report.h"
 
@@ -49,7 +49,7 @@ ExitCode runRefresh(const Invocation& invocation) {
   } else if (report.message.empty()) {
     printStanding(report.units, console.out);
   }
-  if (!report.message.empty()) console.err << linesForPeople(report.message) << '\n';
+  if (!report.message.empty()) session.door().notify(report.message, MessageLevel);
   if (wasInterrupted()) return ExitCode::Interrupted;
   return report.message.empty() ? ExitCode::AllDone : ExitCode::NothingDone;
 }

@@ -41,7 +41,7 @@ class PropertyRun {
       return record;
     }
     record.path = projectPath(*unit);
-    if (const std::optional<std::string> reason = unsafeInCommand(unit->getFullFileName())) {
+    if (const std::optional<std::string> reason = unsafeAsFileName(unit->getFullFileName())) {
       record.result = UnitResult::Refused;
       record.message = "Its name contains " + *reason + ", which no command can carry.";
       return record;

@@ -1,7 +1,7 @@
+#include "cm/host/IUserMessages.h"
 #include "host/cli/Session.h"
 #include "host/cli/UnitSelection.h"
 #include "host/cli/UnitStates.h"
-#include "host/cli/printing/BytesAsText.h"
 #include "host/cli/printing/Listing.h"
 #include "host/cli/printing/Report.h"
 
@@ -25,7 +25,7 @@ ExitCode runStatus(const Invocation& invocation) {
   } else {
     printListing(report.units, console.out);
   }
-  if (!report.message.empty()) console.err << linesForPeople(report.message) << '\n';
+  if (!report.message.empty()) session.door().notify(report.message, MessageLevel);
   if (wasInterrupted()) return ExitCode::Interrupted;
   return report.message.empty() ? ExitCode::AllDone : ExitCode::SomeFailed;
 }

@@ -238,7 +238,7 @@ TEST_F(CMPropertyTest, ArchivesOfUnitsFallBackToTheProject) {
 }
 
 TEST_F(CMPropertyTest, AskingForACMTool) {
-  struct Operation : CMOperation {
+  struct Operation final : CMOperation {
   } operation;
   struct Row {
     const char* tool;  ///< Null: there is no such property.

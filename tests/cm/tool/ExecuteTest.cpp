@@ -247,7 +247,10 @@ TEST_F(ExecuteTest, HowTheCommandEndedIsKeptBesideTheResult) {
             {.errors = "no program", .end = ProcessEnd::CouldNotStart},
             true,
             "no program"},
-           {"time-out", {.output = "half", .timesOut = true}, true, "half"},
+           {"failure code alone", {.code = 7}, true, "60810: 7"},
+           // What was printed before is not the reason.
+           {"time-out", {.output = "half", .timesOut = true}, true, "962\nhalf"},
+           {"silent time-out", {.timesOut = true}, true, "962"},
            {"error pattern", {.output = "fatal"}, true, "fatal"},
            // Tools chatter on their error output; that alone is no failure.
            {"errors and code 0", {.errors = "warning"}, false, ""}}) {
@@ -269,6 +272,7 @@ TEST_F(ExecuteTest, AHostWithoutARunnerIsNoSuccess) {
   installHost(&host);
   const int result = execute("tool");
   EXPECT_TRUE(result == 0 || theCMToolShellInterface().lastCommandEnd().failed);
+  EXPECT_EQ(m_errors, "60010: tool");
   installHost(&m_host);
 }
 

@@ -235,9 +235,11 @@ TEST_F(UnitOperationsTest, WhoSavesTheModel) {
 }
 
 TEST_F(UnitOperationsTest, FilesWhoseNamesNoCommandCanCarryAreRefusedBeforeAnyRuns) {
-  for (const char* bad : {"a\"b.vcl", "a>b.vcl", "a\nb.vcl", "$log.vcl", "(a?b).vcl"}) {
+  for (const char* bad : {"a\"b.vcl", "a>b.vcl", "a\nb.vcl", "$log.vcl", "(a?b).vcl", "a\\b.vcl"}) {
     SCOPED_TRACE(bad);
-    m_units = {&m_model.addUnit("A.vcl"), &m_model.addUnit(bad), &m_model.addUnit("C d.vcl")};
+    MemoryUnit& hostile = m_model.addUnit("B.vcl");
+    hostile.setFileName(bad);
+    m_units = {&m_model.addUnit("A.vcl"), &hostile, &m_model.addUnit("C d.vcl")};
     answer("A.vcl", {.effect = [this] { EXPECT_THAT(m_diagnostics, SizeIs(1)); }});
     for (const char* name : {"check in", "lock", "fetch"}) {
       forgetEvents();

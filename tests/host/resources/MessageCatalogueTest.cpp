@@ -39,7 +39,7 @@ TEST(MessageCatalogue, hasAClearTextForEveryNumberWithItsValues) {
       {60250, 1}, {60560, 1}, {60621, 1}, {60624, 1}, {60626, 1}, {60650, 1}, {60651, 1},
       {60652, 2}, {60653, 1}, {60654, 1}, {60655, 2}, {60656, 1}, {60657, 1}, {60709, 2},
       {60710, 3}, {60715, 1}, {60717, 2}, {60718, 1}, {60719, 2}, {60720, 1}, {60734, 2},
-      {60736, 1}, {60737, 1}, {60743, 1}, {60870, 1}};
+      {60736, 1}, {60737, 1}, {60743, 1}, {60810, 1}, {60870, 1}};
   std::vector<int> ids = {948,   949,   953,   954,   955,   958,   959,   962,   966,   967,
                           46547, 46554, 46560, 46563, 46565, 46566, 46567, 47640, 48312, 49434,
                           49488, 49494, 49762, 49763, 49764, 49765, 49982, 50055};
@@ -47,7 +47,7 @@ TEST(MessageCatalogue, hasAClearTextForEveryNumberWithItsValues) {
   for (int id = 60001; id <= 60011; ++id) ids.push_back(id);
   for (int id = 60100; id <= 60101; ++id) ids.push_back(id);
   for (int id = 60110; id <= 60122; ++id) ids.push_back(id);
-  ids.insert(ids.end(), {60020, 60021, 60030, 60250, 60261, 60870});
+  ids.insert(ids.end(), {60020, 60021, 60030, 60250, 60261, 60810, 60811, 60812, 60870});
   for (int id = 60201; id <= 60211; ++id) ids.push_back(id);
   // The dialogs' texts: single ones, and groups with one per column or command.
   const std::pair<int, int> dialogTexts[] = {
