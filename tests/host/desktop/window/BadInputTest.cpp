@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QSettings>
 #include <QTest>
+#include <QTimer>
 #include <QTreeView>
 
 #include "cm/core/CMFacade.h"
@@ -131,10 +132,13 @@ TEST_F(DesktopBadInputTest, AFileThatVanishesUnderTheDialogIsTold) {
     dialog.selectFiles([&file](const std::string& candidate) { return candidate == file; });
     ASSERT_EQ(dialog.GetSelectedCount(), 1U);
     std::filesystem::remove(file);
-    QTimer::singleShot(0, qApp, [] {
+    QTimer answer;
+    answer.setSingleShot(true);
+    QObject::connect(&answer, &QTimer::timeout, &dialog, [] {
       auto* options = qobject_cast<QDialog*>(QApplication::activeModalWidget());
       if (options != nullptr) options->accept();
     });
+    answer.start();
     EXPECT_TRUE(dialog.runCommand(ControlId::CheckIn));
     EXPECT_THAT(asked(), HasSubstr("Grinder"));
     EXPECT_FALSE(dialog.isRunning());
@@ -164,10 +168,13 @@ TEST_F(DesktopBadInputTest, ACommandThatCrashesOrThrowsInsideTheHostIsTold) {
 TEST_F(DesktopBadInputTest, TheWindowManagerCannotCloseItDuringACommand) {
   setCommand("sh -c \"sleep 0.3\"");
   bool hasAsked = false;
-  QTimer::singleShot(50, &m_window, [&] {
+  QTimer manager;
+  manager.setSingleShot(true);
+  QObject::connect(&manager, &QTimer::timeout, &m_window, [&] {
     m_window.close();
     hasAsked = true;
   });
+  manager.start(50);
   EXPECT_TRUE(runCommandOn(ControlId::UserCommand1, {}, &m_window)) << asked();
   EXPECT_TRUE(hasAsked);
   EXPECT_TRUE(m_window.isVisible());
