@@ -143,7 +143,8 @@ Planned Rearrangement::planRename(UnitCore& unit, const std::string& name) {
   }
   std::string fileName = isOwn ? unit.computedFileName(name) : fileNameOf(record, name);
   if (!unit.hasFile()) fileName = name;
-  if (!isPlainName(name.empty() ? name : fileName)) {
+  // The name of an own file is written with other signs where a file's name cannot hold them.
+  if (name.empty() || !isPlainName(fileName) || !(isOwn || isPlainName(name))) {
     return Planned::failure("\"" + name + "\" cannot be a file's name. Choose another one.");
   }
   std::string folder = record.folder->path;

@@ -17,6 +17,9 @@ constexpr std::size_t QuickBytes = std::size_t{1} << 28;
 // With fewer steps than these, hardly any pattern would get through.
 constexpr std::size_t FewestQuickSteps = 100;
 constexpr std::size_t MostQuickSteps = 10'000;
+// Most texts are records of a listing, for which two divisions would take as long as the search.
+constexpr std::size_t ShortText = 160;
+static_assert(ShortText * ShortText * MostQuickSteps <= QuickBytes);
 
 // A long text is searched part by part as long as nothing that is found out about a part depends on
 // what follows it.
@@ -39,6 +42,11 @@ bool isForJit(const pcre2_code* code) {
   pcre2_pattern_info(code, PCRE2_INFO_ALLOPTIONS, &options);
   // A text that is no UTF-8 must not get there.
   return size != 0 && (options & PCRE2_UTF) == 0;
+}
+
+std::size_t quickSteps(std::size_t bytes) {
+  if (bytes <= ShortText) return MostQuickSteps;
+  return std::min(QuickBytes / bytes / bytes, MostQuickSteps);
 }
 
 /// No line ends there: at the end of what it sees, PCRE2 takes no line to begin, and it would see
@@ -106,8 +114,7 @@ PatternEnd CompiledPattern::match(std::string_view text, std::size_t from,
 }
 
 int CompiledPattern::search(std::string_view text, std::size_t from) const {
-  const std::size_t length = text.size() - from + 1;
-  const std::size_t steps = std::min(QuickBytes / length / length, MostQuickSteps);
+  const std::size_t steps = quickSteps(text.size() - from + 1);
   if (steps < FewestQuickSteps) return searchTimed(text, from);
   const int result = run(m_code.get(), static_cast<std::uint32_t>(steps), text, from);
   return result == PCRE2_ERROR_MATCHLIMIT ? searchTimed(text, from) : result;

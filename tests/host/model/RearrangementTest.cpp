@@ -171,6 +171,7 @@ TEST_F(RearrangementTest, whatCannotBeDoneIsRefusedWithTheReason) {
       {Rearrangement::planRename(unit("A/B/y.vcmp"), "z"), "Check it out first"},
       {Rearrangement::planRename(unit("A/x.vcmp"), ""), "cannot be a file's name"},
       {Rearrangement::planRename(unit("D/plain.puml"), "../q"), "cannot be a file's name"},
+      {Rearrangement::planRename(unit("D/plain.puml"), ".."), "cannot be a file's name"},
       {Rearrangement::planRename(unit("D/plain.puml"), ".veldra-q"), "no file of the model"},
       {Rearrangement::planRename(unit("C/C.vpkg"), "RCS"), "no file of the model"},
       {Rearrangement::planRename(unit("A/B/notes.txt"), "notes.vcmp"), "no file of the model"}};
