@@ -1,5 +1,11 @@
 # Sourced by the helpers of tools whose locks stay when a process is killed.
 
+# works_elsewhere PROCESS: for packs that can tell more of a process than where it works: whether it has
+# nothing to do with $lock.
+works_elsewhere() {
+  return 1
+}
+
 # at_work PLACE PROGRAM...: whether a process of such a name works below the place. One that cannot be
 # looked at may.
 at_work() {
@@ -15,7 +21,7 @@ at_work() {
       # A process of one's own that cannot be looked at has ended.
       folder=$(readlink "$process/cwd" 2>/dev/null) || [ -O "$process" ] || return 0
       case $folder/ in
-        "$below"/*) return 0 ;;
+        "$below"/*) works_elsewhere "$process" || return 0 ;;
       esac
     done
   done

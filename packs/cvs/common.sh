@@ -27,12 +27,26 @@ open_folder() {
   clear_locks ${1:+"$1"}
 }
 
+# place_of ROOT: sets $root to the folder of an archive on this machine; to the whole text where it is
+# somewhere else.
+place_of() {
+  root=${1#:local:} root=${root#:fork:}
+}
+
+# works_elsewhere PROCESS: who works in a folder of another archive.
+works_elsewhere() (
+  read -r its_root 2>/dev/null <"$1/cwd/CVS/Root" || return 1
+  own=$root
+  place_of "$its_root"
+  [ "$root" != "$own" ]
+)
+
 # clear_locks [UNITS]: cvs waits without an end for the locks of killed processes. They lie beside the
 # archive files; without UNITS anywhere.
 clear_locks() {
   read -r root <CVS/Root
   read -r place <CVS/Repository
-  root=${root#:local:} root=${root#:fork:}
+  place_of "$root"
   case $root$place in
     /*) ;;
     # They are the server's business.

@@ -41,6 +41,13 @@ newest() {
   sed -n '1s/^head[[:space:]]*\(.*\);.*/\1/p' "$archived"
 }
 
+# works_elsewhere PROCESS: who works on an archive file has the file open that tells so.
+works_elsewhere() {
+  for open in "$1"/fd/*; do
+    [ ! "$open" -ef "$lock" ] || return 1
+  done
+}
+
 # name_files ARCHIVEFILE DIRECTORY: sets $archived and $working.
 name_files() {
   find_archive "$1"
