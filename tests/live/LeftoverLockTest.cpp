@@ -57,7 +57,8 @@ TEST_P(LeftoverLockTest, GoesThoughTheToolIsAtWorkElsewhere) {
   const Ended ended = cm({"-v", "checkin", "-m", "changed", "Part.puml"});
   EXPECT_EQ(ended.code, 0) << ended.err;
   EXPECT_THAT(ended.out + ended.err, testing::HasSubstr("A former command was killed"));
-  EXPECT_EQ(sandbox.shell("kill -TERM -$(cat other/busy)").code, 0) << "it was to be at work all the time";
+  EXPECT_EQ(sandbox.shell("kill -TERM -$(cat other/busy)").code, 0)
+      << "it was to be at work all the time";
 }
 
 INSTANTIATE_TEST_SUITE_P(Tools, LeftoverLockTest, testing::ValuesIn(LockingTools),
