@@ -6,8 +6,8 @@ works_elsewhere() {
   return 1
 }
 
-# at_work PLACE PROGRAM...: whether a process of such a name works below the place. One that cannot be
-# looked at may.
+# at_work PLACE PROGRAM...: whether a process of such a name works below the place. Somebody else's that
+# cannot be looked at may; any other of that kind has ended.
 at_work() {
   below=$1
   shift
@@ -18,8 +18,10 @@ at_work() {
         "$program" | "$program"-*) ;;
         *) continue ;;
       esac
-      # A process of one's own that cannot be looked at has ended.
-      folder=$(readlink "$process/cwd" 2>/dev/null) || [ -O "$process" ] || return 0
+      folder=$(readlink "$process/cwd" 2>/dev/null) || {
+        [ -O "$process" ] || [ ! -d "$process" ] || return 0
+        break
+      }
       case $folder/ in
         "$below"/*) works_elsewhere "$process" || return 0 ;;
       esac

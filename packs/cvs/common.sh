@@ -35,7 +35,11 @@ place_of() {
 
 # works_elsewhere PROCESS: who works in a folder of another archive.
 works_elsewhere() (
-  read -r its_root 2>/dev/null <"$1/cwd/CVS/Root" || return 1
+  read -r its_root 2>/dev/null <"$1/cwd/CVS/Root" || {
+    # It may have ended meanwhile.
+    [ ! -e "$1/cwd" ]
+    return
+  }
   own=$root
   place_of "$its_root"
   [ "$root" != "$own" ]
