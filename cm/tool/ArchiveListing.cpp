@@ -119,15 +119,18 @@ std::string ArchiveListing::optionalField(const PropertyPattern& pattern, std::s
   return value;
 }
 
-void ArchiveListing::readRecord(std::string_view record) {
+void ArchiveListing::startOverIfSaid(std::string_view record) {
   std::string nothing;
   if (m_startsOver.exists() && m_startsOver.extract(record, nothing).result == 1) m_items.emplace();
+}
 
+void ArchiveListing::readRecord(std::string_view record) {
   std::string workingFile;
   const PropertyPattern::Answer file = extract(m_workingFile, record, workingFile);
   echo({"Archive working file: '", workingFile, "'\n"});
   m_status = file.result;
-  if (!isListed(workingFile) || file.result != 1 || file.found == 0) return;
+  if (file.result != 1 || file.found == 0) return startOverIfSaid(record);
+  if (!isListed(workingFile)) return;
 
   std::string version = optionalField(m_version, record, "Archive version", *m_status);
 

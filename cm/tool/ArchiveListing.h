@@ -31,6 +31,8 @@ class ArchiveListing {
  private:
   void startOver();
   void readRecord(std::string_view record);
+  /// A record that names no file may say that those before it do not count.
+  void startOverIfSaid(std::string_view record);
   bool isListed(const std::string& workingFile) const;
   PropertyPattern::Answer extract(const PropertyPattern& pattern, std::string_view record,
                                   std::string& value) const;

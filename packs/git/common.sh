@@ -24,7 +24,7 @@ configure core.askPass ''
 # read_settings: every start of git costs time, so what is asked often is asked once.
 settings=
 read_settings() {
-  settings=$newline$(git config --get-regexp '^(core|branch|remote|user|veldra)\.' || :)$newline
+  settings=$newline$(git config --get-regexp '^(core|branch|remote|url|user|veldra)\.' || :)$newline
 }
 
 # setting NAME: sets $value; the parts of a name that git does not tell apart are in lower case.
