@@ -22,47 +22,43 @@ std::string_view withoutTail(std::string_view directory, std::string_view tail) 
                                                      : std::string_view();
 }
 
-/// Undoes the "Repository" template: takes off what stands before the sub-directories and the
-/// directories that stand between them and the file name.
-std::string shortPathByTemplate(std::string path, std::string repository) {
-  static constexpr std::string_view SubDirs = "$SubDirs";
-  const std::size_t subDirs = repository.find(SubDirs);
-  const std::size_t fileName = repository.find("$FileName");
-  if (repository.find("$ArchivePath") != std::string::npos || subDirs == std::string::npos ||
-      fileName == std::string::npos) {
-    return path;
-  }
-  repository.erase(fileName);
-  if (subDirs > 0) {
-    if (equalsNoCase(std::string_view(path).substr(0, subDirs),
-                     std::string_view(repository).substr(0, subDirs))) {
-      path.erase(0, subDirs);
-    }
-    repository.erase(0, subDirs + SubDirs.size());
-  }
-  if (repository.empty() || repository == "/" || repository == "\\") return path;
-
-  const std::string name(baseName(path));
-  const std::string_view directory = std::string_view(path).substr(0, path.size() - name.size());
-  return std::string(withoutTail(directory, repository)) + name;
-}
-
-std::string shortPathByDirectory(const std::string& path, const std::string& directory) {
+std::string shortPathByDirectory(std::string path, const std::string& directory) {
   if (directory.empty() || !startsWithNoCase(path, directory)) return path;
-  return path.size() > directory.size() ? path.substr(directory.size() + 1) : std::string();
+  return path.erase(0, directory.size() + 1);
 }
 
 }  // namespace
 
 ArchiveShortPath::ArchiveShortPath() : m_hasNamesOnly(CMProperty::isPre40Compatible()) {
   if (m_hasNamesOnly) return;
+  std::string repository;
   if (CMProperty::getUseSCCtool() == 0) {
-    CMProperty::getToolPropertyValue("Repository", m_repository);
+    CMProperty::getToolPropertyValue("Repository", repository);
   }
-  if (!m_repository.empty()) return;
+  if (!repository.empty()) {
+    readTemplate(std::move(repository));
+    return;
+  }
   m_directory = CMProperty::getWorkingDir();
   IProject* const project = CurrentWorkspace::GetActiveProject();
   if (m_directory.empty() && project != nullptr) m_directory = project->getDirectory();
+}
+
+void ArchiveShortPath::readTemplate(std::string repository) {
+  static constexpr std::string_view SubDirs = "$SubDirs";
+  const std::size_t subDirs = repository.find(SubDirs);
+  const std::size_t fileName = repository.find("$FileName");
+  if (repository.find("$ArchivePath") != std::string::npos || subDirs == std::string::npos ||
+      fileName == std::string::npos) {
+    return;
+  }
+  repository.erase(fileName);
+  if (subDirs > 0) {
+    m_headSize = subDirs;
+    m_head = repository.substr(0, subDirs);
+    repository.erase(0, subDirs + SubDirs.size());
+  }
+  if (repository != "/" && repository != "\\") m_tail = std::move(repository);
 }
 
 std::string ArchiveShortPath::of(const CMArchiveItem& item, bool withSuffix) const {
@@ -70,8 +66,14 @@ std::string ArchiveShortPath::of(const CMArchiveItem& item, bool withSuffix) con
   std::string path = item.getFileNameWithPath();
   // The last dot, wherever that stands.
   if (!withSuffix) path.erase(std::min(path.rfind('.'), path.size()));
-  return m_repository.empty() ? shortPathByDirectory(path, m_directory)
-                              : shortPathByTemplate(std::move(path), m_repository);
+  path = shortPathByDirectory(std::move(path), m_directory);
+  if (m_headSize > 0 && equalsNoCase(std::string_view(path).substr(0, m_headSize), m_head)) {
+    path.erase(0, m_headSize);
+  }
+  if (m_tail.empty()) return path;
+  const std::string_view name = baseName(path);
+  const std::string_view directory = std::string_view(path).substr(0, path.size() - name.size());
+  return std::string(withoutTail(directory, m_tail)) += name;
 }
 
 }  // namespace veldra

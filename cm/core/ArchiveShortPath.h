@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "cm/host/Export.h"
@@ -17,9 +18,15 @@ class VELDRA_CM_EXPORT ArchiveShortPath {
   std::string of(const CMArchiveItem& item, bool withSuffix) const;
 
  private:
+  /// The tool's "Repository" says what stands before the sub-directories, and between them and the
+  /// file name.
+  void readTemplate(std::string repository);
+
   bool m_hasNamesOnly;
-  std::string m_repository;  ///< The tool's template; empty without one.
-  std::string m_directory;   ///< What is taken off where there is no template.
+  std::string m_directory;     ///< What is taken off where there is no template.
+  std::string m_head;          ///< What the template has before the sub-directories.
+  std::size_t m_headSize = 0;  ///< More than it has when they stand behind the file name.
+  std::string m_tail;          ///< And behind them; empty for a mere separator.
 };
 
 }  // namespace veldra

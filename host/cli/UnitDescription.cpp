@@ -33,15 +33,14 @@ std::string modeOf(const CMArchiveItem& item) {
 /// Describes items. Most files of a list are of the same type as the one before.
 class ItemDescriber {
  public:
-  UnitRecord describe(const CMArchiveItem& item) {
-    UnitRecord record{.path = m_shortPath.of(item, true),
-                      .name = item.getName(),
-                      .type = typeOf(item),
-                      .version = item.getVersion(),
-                      .mode = modeOf(item),
-                      .locker = item.getLocker()};
+  void describe(const CMArchiveItem& item, UnitRecord& record) {
+    record.path = m_shortPath.of(item, true);
+    record.name = item.getName();
+    record.type = typeOf(item);
+    record.version = item.getVersion();
+    record.mode = modeOf(item);
+    record.locker = item.getLocker();
     if (HostSeparator != '/') std::ranges::replace(record.path, HostSeparator, '/');
-    return record;
   }
 
  private:
@@ -77,14 +76,17 @@ UnitRecord describeUnit(IUnit& unit, const CMHeaderReader& headers) {
 }
 
 UnitRecord describeItem(const CMArchiveItem& item) {
-  return ItemDescriber().describe(item);
+  UnitRecord record;
+  ItemDescriber().describe(item, record);
+  return record;
 }
 
 void describeItems(const CMArchiveItemList& items, const std::function<void(UnitRecord&)>& take) {
   ItemDescriber describer;
+  UnitRecord record;  // Its texts' memory serves for one item after another.
   for (const CMArchiveItem* item : items) {
     if (item == nullptr) continue;
-    UnitRecord record = describer.describe(*item);
+    describer.describe(*item, record);
     take(record);
   }
 }

@@ -99,17 +99,17 @@ CompiledPattern::CompiledPattern(const PatternCompiler& compiler, std::string_vi
 
 PatternEnd CompiledPattern::match(std::string_view text, std::size_t from,
                                   PatternMatch& match) const {
-  match.captures.clear();
   match.end = PatternEnd::NoMatch;
-  if (from > text.size()) return match.end;
-  if (text.data() == nullptr) text = "";
-  const int result = search(text, from);
-  if (result >= 0) {
-    takeCaptures(text, match);
-    match.end = PatternEnd::Matched;
-  } else if (result != PCRE2_ERROR_NOMATCH) {
-    match.end = PatternEnd::GivenUp;
+  if (from <= text.size()) {
+    if (text.data() == nullptr) text = "";
+    const int result = search(text, from);
+    if (result >= 0) {
+      takeCaptures(text, match);
+      return match.end = PatternEnd::Matched;
+    }
+    if (result != PCRE2_ERROR_NOMATCH) match.end = PatternEnd::GivenUp;
   }
+  match.captures.clear();
   return match.end;
 }
 
@@ -188,12 +188,14 @@ int CompiledPattern::run(const pcre2_code* code, std::uint32_t stepLimit, std::s
 void CompiledPattern::takeCaptures(std::string_view text, PatternMatch& match) const {
   const std::size_t count = pcre2_get_ovector_count(m_data.get());
   const PCRE2_SIZE* const offsets = pcre2_get_ovector_pointer(m_data.get());
-  match.captures.reserve(count);
+  // Mostly there are as many as in the text before.
+  if (match.captures.size() != count) match.captures.resize(count);
   for (std::size_t i = 0; i < count; ++i) {
     const PCRE2_SIZE start = offsets[2 * i];
     const PCRE2_SIZE end = offsets[2 * i + 1];
     const bool tookPart = start != PCRE2_UNSET && start <= end;
-    match.captures.push_back(tookPart ? text.substr(start, end - start) : std::string_view());
+    match.captures[i] =
+        tookPart ? std::string_view(text.data() + start, end - start) : std::string_view();
   }
 }
 
