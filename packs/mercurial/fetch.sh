@@ -15,6 +15,22 @@ case ${1:-} in
 esac
 wanted=${1:-}
 
+# find_commit LABEL: sets $commit to what a tag, a branch, a number or the beginning of a long one
+# names. A number that does not exist, or a few letters, hg would take for such a beginning: as soon as
+# there are some hundred commits, a slip of the pen would mean any of them.
+find_commit() {
+  names=$(hg log -r "$1" -l 1 -T '{node} {rev} {tags} {bookmarks} {branch} ' 2>/dev/null || :)
+  commit=${names%% *}
+  case $1 in
+    *[!0-9a-f]* | ????????????*) return ;;
+    *[a-f]*) case $1 in ????*) return ;; esac ;;
+  esac
+  case " $names" in
+    *" $1 "*) ;;
+    *) commit= ;;
+  esac
+}
+
 # fetch_label FILE
 fetch_label() {
   file=$(pwd -P)/$(relative "$1")
@@ -27,15 +43,17 @@ fetch_label() {
 
 open_repository
 receive || give_up
+commit=${tip:-$base}
+if [ -n "$wanted" ]; then
+  find_commit "$wanted"
+  [ -n "$commit" ] || fail "There is no label or revision '$wanted' in the archive."
+fi
 if [ -n "$to" ]; then
-  hg cat -r "${wanted:-${tip:-$base}}" -- "$(pwd -P)/$(relative "$units")" >"$to"
+  hg cat -r "$commit" -- "$(pwd -P)/$(relative "$units")" >"$to"
 elif [ -z "$wanted" ]; then
   bring_newest
   restore "$units"
   in_archive "$units"
 else
-  commit=$(hg log -r "$wanted" -l 1 -T '{node}' 2>/dev/null || :)
-  [ -n "$commit" ] ||
-    fail "There is no label or revision '$wanted' in the archive."
   lines "$units" | while read -r unit; do fetch_label "$unit"; done
 fi
