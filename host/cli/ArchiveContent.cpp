@@ -5,6 +5,8 @@
 
 #include "cm/core/CMFacade.h"
 #include "cm/host/IPN.h"
+#include "cm/host/IUserMessages.h"
+#include "cm/host/MessageIds.h"
 #include "cm/templates/CMProperty.h"
 #include "host/cli/CallArguments.h"
 #include "host/cli/UnitDescription.h"
@@ -22,24 +24,27 @@ std::string reasonForNothing(Session& session, const DiagnosticList& diagnostics
   return told.empty() ? "The archive cannot be listed." : told;
 }
 
-/// A pattern of the listing that is not valid would find nothing, as if nothing were there.
-std::string reasonByPatterns(IPatternEngine& patterns) {
+/// A pattern of the listing that is not valid, or is given up, would find nothing, as if nothing were
+/// there.
+std::string reasonByPatterns(Session& session) {
   for (const char* name :
        {IPN::CMMultiRecordDelimiter, IPN::CMListArchiveItsWorkingFile, IPN::CMListArchiveItsVersion,
         IPN::CMListArchiveItsMode, IPN::CMListArchiveItsLocker}) {
     std::string pattern;
     std::string error;
-    const bool isSet = CMProperty::getToolPropertyValue(name, pattern) && !pattern.empty();
-    if (isSet && patterns.compile(pattern, "i", error) == nullptr) {
+    if (!CMProperty::getToolPropertyValue(name, pattern) || pattern.empty()) continue;
+    if (session.host().patterns().compile(pattern, "i", error) == nullptr) {
       return std::string("The tool's listing cannot be read: its property ") + name +
              " holds no valid pattern. Correct it with \"veldra-cm property set\".";
     }
+    std::string givenUp = formatMessage(MessageId::PatternGivenUp, {pattern, {}});
+    if (session.door().hasShown(givenUp)) return givenUp;
   }
   return {};
 }
 
 /// Why the answer of a command that worked cannot be read.
-std::string reasonForNoRecords(IPatternEngine& patterns) {
+std::string reasonForNoRecords(Session& session) {
   for (const char* name : {IPN::CMMultiRecordDelimiter, IPN::CMListArchiveItsWorkingFile}) {
     std::string pattern;
     if (!CMProperty::getToolPropertyValue(name, pattern) || pattern.empty()) {
@@ -47,7 +52,7 @@ std::string reasonForNoRecords(IPatternEngine& patterns) {
              " is not set. Set it with \"veldra-cm property set\".";
     }
   }
-  return reasonByPatterns(patterns);
+  return reasonByPatterns(session);
 }
 
 /// A list that nobody takes down: the program ends soon, and giving many thousand items back one by
@@ -67,7 +72,7 @@ std::string whyNotListed(Session& session, std::size_t tracesBefore,
     std::string failure = failureOf(traces[i], IPN::CMListArchive);
     if (!failure.empty()) return failure;
   }
-  return reasonForNoRecords(session.host().patterns());
+  return reasonForNoRecords(session);
 }
 
 ArchiveContent listArchive(Session& session, const std::function<void(UnitRecord&)>& take) {

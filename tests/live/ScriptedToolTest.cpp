@@ -147,6 +147,17 @@ TEST_F(ScriptedToolTest, WritableFilesAreOverwrittenOnlyByForce) {
   EXPECT_EQ(m_sandbox.read("ran"), "x\nx\n");
 }
 
+TEST_F(ScriptedToolTest, APatternThatIsGivenUpLeavesNoListingForWhole) {
+  m_sandbox.write("tool.sh", "echo a.txt\nprintf '%060d!b.txt\\n' 0\n");
+  useCommand(
+      "sh \"" + m_sandbox.path("tool.sh") + "\"",
+      "MultiRecordDelimiter = '\\n'\nListArchiveItsWorkingFile = '^((?:(?:0+)+x|[^0!])+)'\n");
+  const Ended ended = cm({"ls"});
+  EXPECT_EQ(ended.code, 1);
+  EXPECT_THAT(ended.out, HasSubstr("a.txt"));
+  EXPECT_THAT(ended.err, HasSubstr("0+"));
+}
+
 TEST_F(ScriptedToolTest, CommentsAndLabelsAreCheckedBeforeAnythingRuns) {
   useTool("echo x >>'" + m_sandbox.path("ran") + "'",
           "InValidCharactersInRevisionDescription = '%;'\n");
