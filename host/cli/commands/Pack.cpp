@@ -1,3 +1,6 @@
+#include <filesystem>
+#include <system_error>
+
 #include "host/cli/Packs.h"
 #include "host/cli/PropertyListing.h"
 #include "host/cli/Session.h"
@@ -64,6 +67,10 @@ std::vector<std::string> filesOf(const PropertyLayers& layers,
   if (!key) {
     for (const PackDescription& pack : layers.packs()) files.push_back(pack.file);
   } else if (key->ends_with(".toml")) {
+    std::error_code unknown;
+    if (!std::filesystem::is_regular_file(*key, unknown)) {
+      throw CommandError(ExitCode::WrongUsage, "There is no file \"" + *key + "\".");
+    }
     files.push_back(*key);
   } else {
     files.push_back(packNamed(layers, *key).file);

@@ -19,7 +19,7 @@ using DoctorChecks = std::vector<DoctorCheck>;
 
 /// A check that found a failure, told in the words of a command. Their last line may say what to
 /// do; `otherwise` does when it does not.
-DoctorCheck failedCheck(std::string name, const std::string& words, const char* otherwise);
+DoctorCheck failedCheck(std::string name, const std::string& words, std::string otherwise);
 
 /// The tool itself: its pack, its program and version, language, lock policy.
 DoctorChecks checkTool(Session& session, const std::string& tool);
@@ -29,6 +29,10 @@ DoctorChecks checkProject(Session& session);
 
 /// The provider that the open project works with: its library, and the archive behind it.
 DoctorChecks checkProvider(Session& session);
+
+/// Whether the archive can be listed. `place` is its name for the user; `asked` says who is asked,
+/// "tool" or "provider".
+DoctorCheck checkListing(Session& session, const std::string& place, const char* asked);
 
 /// Why nothing may be started for the open project now; empty when it may, or none is open.
 std::string whyNothingIsStarted(Session& session);

@@ -1,6 +1,5 @@
 #include <algorithm>
 
-#include "host/cli/ArchiveContent.h"
 #include "host/cli/InstalledProviders.h"
 #include "host/cli/ProviderConnection.h"
 #include "host/cli/doctor/Checks.h"
@@ -27,14 +26,7 @@ DoctorCheck connectionCheck(Session& session) {
             .finding = "The project is not connected to an archive.",
             .advice = "Give \"veldra-cm connect\"."};
   }
-  const std::string reason = whyNothingIsStarted(session);
-  if (!reason.empty()) return {.name = "archive", .finding = archive + ", " + reason};
-  const ArchiveContent content = listArchive(session);
-  if (!content.failure.empty()) {
-    return failedCheck("archive", archive + "\n" + content.failure,
-                       "See to what the provider says, then try \"veldra-cm ls\".");
-  }
-  return {.name = "archive", .finding = archive + ", can be listed"};
+  return checkListing(session, archive, "provider");
 }
 
 }  // namespace

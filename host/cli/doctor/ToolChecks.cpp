@@ -6,7 +6,6 @@
 #include "cm/host/IPN.h"
 #include "cm/templates/CMProperty.h"
 #include "cm/ui/logic/BatchResults.h"
-#include "host/cli/ArchiveContent.h"
 #include "host/cli/Connection.h"
 #include "host/cli/Packs.h"
 #include "host/cli/UnitOutcome.h"
@@ -97,19 +96,6 @@ DoctorCheck versionCheck(Session& session, const std::string& tool,
           .advice = "Run \"" + joinCommandLine(words) + "\" by hand and see to what it says."};
 }
 
-DoctorCheck archiveCheck(Session& session, const std::string& archive) {
-  const std::string place = withoutSecrets(archive);
-  const std::string reason = whyNothingIsStarted(session);
-  if (!reason.empty()) return {.name = "archive", .finding = place + ", " + reason};
-  const ArchiveContent content = listArchive(session);
-  if (!content.failure.empty()) {
-    return failedCheck("archive", place + "\n" + content.failure,
-                       "See to what the tool says, then try \"veldra-cm ls\".");
-  }
-  return {.name = "archive",
-          .finding = place + ", " + std::to_string(content.files.size()) + " files"};
-}
-
 }  // namespace
 
 DoctorChecks checkTool(Session& session, const std::string& tool) {
@@ -159,7 +145,7 @@ DoctorChecks checkProject(Session& session) {
                       .advice = "Give \"veldra-cm connect --archive WHERE\"."});
     return checks;
   }
-  checks.push_back(archiveCheck(session, archive));
+  checks.push_back(checkListing(session, withoutSecrets(archive), "tool"));
   std::error_code unknown;
   if (isLocalPlace(archive) && fs::is_directory(archive, unknown) && !canWriteInto(archive)) {
     checks.push_back({.name = "rights",
