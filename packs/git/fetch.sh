@@ -15,13 +15,27 @@ case ${1:-} in
 esac
 wanted=${1:-}
 
+# check_label: a few letters that are neither a tag nor a branch git would take for the beginning of an
+# object's number. Among ten thousands there is soon one, be it of another file.
+check_label() {
+  case $wanted in
+    *[!0-9a-fA-F]* | ????????????*) return ;;
+    *[a-fA-F]*) case $wanted in ???????*) return ;; esac ;;
+  esac
+  [ -n "$(git rev-parse --symbolic-full-name "$wanted" 2>/dev/null)" ] || no_label
+}
+
+no_label() {
+  fail "There is no label or revision '$wanted' in the archive."
+}
+
 # content_of FILE: the object with its content in the wanted state.
 content_of() {
   case $(git cat-file -t "$wanted" 2>/dev/null) in
     blob) git rev-parse -q --verify "$wanted" ;;
     commit | tag) git rev-parse -q --verify "$wanted:./$(relative "$1")" ||
       fail "'$1' is not in '$wanted'." ;;
-    *) fail "There is no label or revision '$wanted' in the archive." ;;
+    *) no_label ;;
   esac
 }
 
@@ -36,8 +50,11 @@ fetch_label() {
 
 open_repository
 receive || give_up
+if [ -n "$wanted" ]; then
+  [ -z "$remote" ] || run git fetch -q --tags "$remote" || give_up
+  check_label
+fi
 if [ -n "$to" ]; then
-  [ -z "$remote" ] || [ -z "$wanted" ] || run git fetch -q --tags "$remote" || give_up
   wanted=${wanted:-$tip}
   object=$(content_of "$units") || exit
   git cat-file --filters --path="$(relative "$units")" "$object" >"$to"
@@ -46,6 +63,5 @@ elif [ -z "$wanted" ]; then
   in_archive "$units"
   restore "$units"
 else
-  [ -z "$remote" ] || run git fetch -q --tags "$remote" || give_up
   lines "$units" | while read -r unit; do fetch_label "$unit"; done
 fi

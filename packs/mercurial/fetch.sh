@@ -22,8 +22,8 @@ find_commit() {
   names=$(hg log -r "$1" -l 1 -T '{node} {rev} {tags} {bookmarks} {branch} ' 2>/dev/null || :)
   commit=${names%% *}
   case $1 in
-    *[!0-9a-f]* | ????????????*) return ;;
-    *[a-f]*) case $1 in ????*) return ;; esac ;;
+    *[!0-9a-fA-F]* | ????????????*) return ;;
+    *[a-fA-F]*) case $1 in ????*) return ;; esac ;;
   esac
   case " $names" in
     *" $1 "*) ;;
