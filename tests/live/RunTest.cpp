@@ -80,51 +80,5 @@ TEST(Manual, NamesEveryCommand) {
   EXPECT_EQ(sandbox.cm({"manual", "fish"}).code, 2);
 }
 
-/// Words are completed as bash parts them, at colons, too.
-class BashCompletion : public testing::Test {
- protected:
-  void SetUp() override {
-    m_sandbox.copySample("model");
-    ASSERT_EQ(m_sandbox.cm({"init", "model", "--name", "M"}).code, 0);
-  }
-  std::string complete(const std::string& tries) {
-    m_sandbox.write("complete.bash",
-                    m_sandbox.cm({"manual", "bash"}).out +
-                        "try() { COMP_WORDS=(veldra-cm \"$@\"); COMP_CWORD=$#; "
-                        "COMP_LINE=${line-${COMP_WORDS[*]}}; COMP_POINT=${#COMP_LINE}; "
-                        "_veldra_cm; (IFS='|'; echo \"${COMPREPLY[*]}\"); }\n" +
-                        tries);
-    const Ended completed = m_sandbox.shell("PATH=\"${CM%/*}:$PATH\"; exec bash complete.bash");
-    EXPECT_EQ(completed.err, "");
-    return completed.out;
-  }
-  Sandbox m_sandbox;
-};
-
-TEST_F(BashCompletion, KnowsCommandsOptionsFilesAndNames) {
-  EXPECT_EQ(complete("try che; try checkin --mes; try -p x pack sh\n"
-                     "try -p model lock 'Brewing/D'; cd model/Milk; try undo Brewing/Gr\n"
-                     "line='veldra-cm undo Brewing::D' try undo Brewing :: D\n"
-                     "line='veldra-cm undo Brewing::Water\\ Circuit::' "
-                     "try undo Brewing :: 'Water\\ Circuit' ::\n"
-                     "try undo '\"Brewing::Gr'\n"),
-            "checkin|checkout\n--message\nshow\n"
-            "Brewing/Drip Tray.vcmp\nBrewing/Grinder.vcmp\n"
-            "Drip Tray\n"
-            "Boiler|Descaling|Flow Meter|Piping|Pump|Tank|Valve\n"
-            "Brewing::Grinder\n");
-  EXPECT_THAT(complete("try ''\n"), HasSubstr("doctor"));
-}
-
-TEST_F(BashCompletion, RunsNothingThatStandsInANameOfAFile) {
-  m_sandbox.write("model/$(touch ran).puml", "@startuml\n@enduml\n");
-  m_sandbox.write("model/`touch ran`.puml", "@startuml\n@enduml\n");
-  m_sandbox.write("model/it's; \\.puml", "@startuml\n@enduml\n");
-  const std::string offered = complete("cd model; try lock ''; try lock '\\$'\n");
-  EXPECT_THAT(offered, HasSubstr("|it's; \\.puml\n"));
-  EXPECT_THAT(offered, testing::EndsWith("\n\n"));
-  EXPECT_FALSE(std::filesystem::exists(m_sandbox.path("model/ran")));
-}
-
 }  // namespace
 }  // namespace veldra::live

@@ -37,28 +37,53 @@ std::string specifications(unsigned sets, const std::string& indent) {
       continue;
     }
     for (const std::string& name : namesOf(*row)) {
-      text += " \\\n" + indent + "'" + name + "[" + quoted(row->help) + "]" +
-              (row->isSwitch() ? "" : valueOf(*row)) + "'";
+      // The value of a long name may stand behind an equals sign.
+      const bool mayEqual = !row->isSwitch() && name.starts_with("--");
+      text += " \\\n" + indent + "'" + name + (mayEqual ? "=" : "") + "[" + quoted(row->help) +
+              "]" + (row->isSwitch() ? "" : valueOf(*row)) + "'";
     }
   }
   return text;
 }
 
+constexpr char Functions[] = R"sh(#compdef veldra-cm
+
+# Sets project to the one that is named. It comes as it stands on the line, colons and backslashes with
+# one more backslash; nothing that stands in it is run.
+_veldra-cm-project() {
+  local named=${opt_args[-p]:-$opt_args[--project]}
+  named=${named//\\:/:}
+  named=${(Q)${named//\\\\/\\}}
+  [[ $named != '~/'* ]] || named=$HOME/${named#\~/}
+  project=${named:-$project}
+}
+
+_veldra-cm-units() {
+  local -a units
+  local what=units
+  [[ $PREFIX != *::* ]] || what=names
+  _veldra-cm-project
+  units=(${(f)"$(_call_program units veldra-cm ${project:+-p ${(q)project}} manual $what 2>/dev/null)"})
+  compadd -a units
+  _files
+}
+
+)sh";
+
 }  // namespace
 
 std::string zshCompletion() {
-  std::string script =
-      "#compdef veldra-cm\n\n_veldra-cm-units() {\n  local -a units\n  local what=units\n"
-      "  [[ $PREFIX != *::* ]] || what=names\n"
-      "  units=(${(f)\"$(_call_program units veldra-cm manual $what 2>/dev/null)\"})\n"
-      "  compadd -a units\n  _files\n}\n\n_veldra-cm() {\n  local curcontext=$curcontext state "
-      "line\n  local -a commands\n  commands=(\n";
+  std::string script = Functions;
+  script +=
+      "_veldra-cm() {\n  local curcontext=$curcontext state line project\n"
+      "  local -a commands\n  local -A opt_args\n  commands=(\n";
   for (const Command& command : commandTable()) {
     script += std::string("    '") + command.name + ":" + quoted(command.summary) + "'\n";
   }
-  script += "  )\n  _arguments -C '(- *)--version[" + std::string(VersionText) + "]'" +
+  script += "  )\n  _arguments -C -A '-*' '(- *)--version[" + std::string(VersionText) + "]'" +
             specifications(OptionSet::Everywhere, "    ") +
             " \\\n    '1:command:->command' '*::argument:->arguments'\n"
+            "  _veldra-cm-project\n"
             "  case $state in\n    command) _describe command commands ;;\n    arguments)\n"
             "      case $words[1] in\n";
   for (const Command& command : commandTable()) {
