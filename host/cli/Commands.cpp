@@ -7,7 +7,7 @@ std::span<const Command> commandTable() {
   static const Command rows[] = {
       {"init", "Make a project of a folder, and connect it to an archive", NewProject, runInit},
       {"connect", "Connect the project to its archive", Archive, runConnect},
-      {"status", "List the units of the project", Update, runStatus},
+      {"status", "List the units of the project", Units | Recursive | Update, runStatus},
       {"refresh", "Ask the archive where every unit stands, and show those that need attention", 0,
        runRefresh},
       {"ls", "List what the archive holds", 0, runLs},

@@ -45,6 +45,8 @@ TEST_F(CommandLineTest, ExitCodesAndTheWayOut) {
       {{"status"}, 3, "init"},
       {{"expand", "--property", "CheckIn"}, 3, "init"},
       {{"-p", "model", "lock", "No/Such.vcmp"}, 3, "status"},
+      {{"-p", "model", "status", "Milk/Milk.vpkg", "Nope"}, 1, "Nope"},
+      {{"-p", "model", "pack", "check", "none.toml"}, 2, "none.toml"},
       {{"-p", "model", "ls"}, 3, ""},
       {{"-p", "model", "connect"}, 3, "--archive"},
   };
@@ -77,6 +79,24 @@ TEST_F(CommandLineTest, EveryDocumentIsOneAndValid) {
     ASSERT_FALSE(document.is_discarded()) << testing::PrintToString(words) << ended.out;
     EXPECT_TRUE(document.contains("command")) << testing::PrintToString(words);
   }
+}
+
+TEST_F(CommandLineTest, StatusOfWhatIsNamed) {
+  makeProject();
+  const auto pathsIn = [this](const Words& names) {
+    Words words = {"-p", "model", "--json", "status"};
+    words.insert(words.end(), names.begin(), names.end());
+    Words paths;
+    const nlohmann::json document = nlohmann::json::parse(m_sandbox.cm(words).out);
+    for (const nlohmann::json& unit : document["units"]) paths.push_back(unit["path"]);
+    return paths;
+  };
+  EXPECT_EQ(pathsIn({"Brewing::Grinder", "Milk"}),
+            Words({"Brewing/Grinder.vcmp", "Milk/Milk.vpkg"}));
+  const Words below = pathsIn({"-r", "Milk"});
+  EXPECT_THAT(below, testing::Contains("Milk/Steam Wand.vcmp"));
+  EXPECT_THAT(below, testing::Each(testing::StartsWith("Milk/")));
+  EXPECT_EQ(pathsIn({"--all"}), pathsIn({}));
 }
 
 TEST_F(CommandLineTest, ProjectIsFoundFromBelowAndUnitsFromAnywhere) {
