@@ -24,8 +24,8 @@ std::string reasonForNothing(Session& session, const DiagnosticList& diagnostics
   return told.empty() ? "The archive cannot be listed." : told;
 }
 
-/// A pattern of the listing that is not valid, or is given up, would find nothing, as if nothing were
-/// there.
+/// A pattern of the listing that is not valid, or is given up, would find nothing, as if nothing
+/// were there.
 std::string reasonByPatterns(Session& session) {
   for (const char* name :
        {IPN::CMMultiRecordDelimiter, IPN::CMListArchiveItsWorkingFile, IPN::CMListArchiveItsVersion,

@@ -1,5 +1,5 @@
-// Git's listing begins with what the folder knows of the archive, and has to end with what the archive
-// really holds.
+// Git's listing begins with what the folder knows of the archive, and has to end with what the
+// archive really holds.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
