@@ -169,8 +169,13 @@ const Json* member(const Json& object, const char* key) {
 
 Json& objectAt(Json& parent, const std::string& key) {
   Json& value = parent[key];
-  if (!value.is_object()) value = Json::object();
-  return value;
+  if (value.is_object()) return value;
+  if (!value.is_null()) {
+    std::string aside = key + " (not understood)";
+    while (parent.contains(aside)) aside += '!';
+    parent[aside] = std::move(value);
+  }
+  return value = Json::object();
 }
 
 std::optional<Json> parseJson(std::string_view text, std::size_t from, std::string& error,

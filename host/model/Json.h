@@ -23,7 +23,8 @@ std::optional<std::string> scalarText(const Json& value);
 /// The member of that name, or null when `object` is no object or has none.
 const Json* member(const Json& object, const char* key);
 
-/// The object under `key` of an object, made when there is none. A value of another kind gives way.
+/// The object under `key` of an object, made when there is none. A value of another kind, which
+/// somebody wrote by hand, moves to a key that says that it is not understood.
 Json& objectAt(Json& parent, const std::string& key);
 
 /// Parses the text from `from` to its end. Nothing, with the reason in `error`, when it is no JSON

@@ -22,6 +22,12 @@ class Saving : public testing::Test {
     unit = project->unitByFile("P.vcmp");
   }
 
+  /// The properties are those of one project after another.
+  void loadAnew() {
+    project.reset();
+    project = model.load();
+  }
+
   TempModel model;
   std::unique_ptr<Project> project;
   UnitCore* unit = nullptr;
@@ -44,6 +50,23 @@ TEST_F(Saving, changesOnlyWhatWasChanged) {
   EXPECT_THAT(after, HasSubstr("\"name\": \"Pump\""));
   EXPECT_THAT(after, HasSubstr("\"later\": true"));
   EXPECT_EQ(unit->record().name, "Pump");
+}
+
+TEST_F(Saving, setsAsideWhatIsNotUnderstoodWhereAPropertyGoes) {
+  const PropertyKey key{"ConfigurationManagement", "General", "CMTool"};
+  for (const std::string wrong : {R"(["mine"])", R"({"ConfigurationManagement": "mine"})",
+                                  R"({"ConfigurationManagement": {"General": 7e3}})"}) {
+    SCOPED_TRACE(wrong);
+    model.putProject("\"properties\": " + wrong);
+    for (const char* tool : {"Git", "RCS"}) {
+      loadAnew();
+      model.layers.setInProject(key, tool);
+      ASSERT_EQ(saved(*project), "");
+    }
+    loadAnew();
+    EXPECT_EQ(model.layers.find(key)->value(), "RCS");
+    EXPECT_THAT(model.read("M.vdy"), testing::ContainsRegex("mine|7000"));
+  }
 }
 
 TEST_F(Saving, isRefusedForReadOnlyFilesAndForChangedOnes) {
