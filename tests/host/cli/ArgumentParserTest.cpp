@@ -124,7 +124,7 @@ TEST_F(ArgumentParserTest, HelpAndVersionEndWell) {
 
 TEST_F(ArgumentParserTest, WrongUsageIsToldOnTheErrorOutput) {
   for (const Words& words : {Words{}, Words{"nonsense"}, Words{"add", "--nonsense"}, Words{"init"},
-                             Words{"status", "extra"}, Words{"checkin", "u", "-m"}}) {
+                             Words{"ls", "extra"}, Words{"checkin", "u", "-m"}}) {
     m_err.str("");
     const ParsedArguments parsed = parse(words);
     EXPECT_EQ(parsed.command, nullptr);
