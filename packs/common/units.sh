@@ -2,6 +2,7 @@
 # sets $pack, the word before its own messages.
 #
 # UNITS of a helper is the path of one file, or "@" and the path of a list with a path a line.
+. "${0%/*}/../common/options.sh"
 set -eu
 
 # English texts, because answers are read. LANGUAGE would win over the locale's language.
@@ -21,20 +22,6 @@ needs() {
     command -v "$program" >/dev/null ||
       fail "The program '$program' is not installed or not in PATH."
   done
-}
-
-# read_options [--label=LABEL] [COMMENTFILE]: sets $label and $comment.
-read_options() {
-  label=
-  case ${1:-} in
-    --label=*)
-      label=${1#--label=}
-      shift
-      ;;
-  esac
-  comment=${1:-}
-  # Where keywords are not replaced, the comment's stands for none.
-  [ -f "$comment" ] || comment=
 }
 
 # run COMMAND...: keeps all that it prints in $answer, so that the caller can look before it shows.

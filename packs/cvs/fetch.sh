@@ -3,16 +3,7 @@
 # and nothing here changes.
 . "${0%/*}/common.sh"
 
-units=$1
-shift
-to=
-case ${1:-} in
-  --to=*)
-    to=${1#--to=}
-    shift
-    ;;
-esac
-wanted=${1:-}
+read_fetch "$@"
 
 # has_revision FILE: cvs itself would remove a file that lacks the tag.
 has_revision() {

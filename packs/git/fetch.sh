@@ -4,16 +4,7 @@
 . "${0%/*}/common.sh"
 . "${0%/*}/newest.sh"
 
-units=$1
-shift
-to=
-case ${1:-} in
-  --to=*)
-    to=${1#--to=}
-    shift
-    ;;
-esac
-wanted=${1:-}
+read_fetch "$@"
 
 # check_label: a few letters that are neither a tag nor a branch git would take for the beginning of an
 # object's number. Among ten thousands there is soon one, be it of another file.

@@ -4,16 +4,7 @@
 . "${0%/*}/common.sh"
 . "${0%/*}/newest.sh"
 
-units=$1
-shift
-to=
-case ${1:-} in
-  --to=*)
-    to=${1#--to=}
-    shift
-    ;;
-esac
-wanted=${1:-}
+read_fetch "$@"
 
 # find_commit LABEL: sets $commit to what a tag, a branch, a number or the beginning of a long one
 # names. A number that does not exist, or a few letters, hg would take for such a beginning: as soon as

@@ -8,6 +8,7 @@ kind=$1
 name_files "$2" "$3"
 shift 3
 read_options "$@"
+check_label
 
 # Bytes that look like a keyword may be anything in a binary file.
 is_binary() {

@@ -8,6 +8,7 @@ name_files "$1" "$2"
 in_archive
 shift 2
 read_options "$@"
+check_label
 former=$(newest)
 check_in "$comment" -u || exit
 [ "$(newest)" != "$former" ] || printf 'unchanged: %s\n' "$working"

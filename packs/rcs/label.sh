@@ -5,5 +5,6 @@
 name_files "$1" "$2"
 in_archive
 read_options "$3"
+check_label
 [ -n "$label" ] || fail "No label is given."
 attach_label

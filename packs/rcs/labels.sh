@@ -1,16 +1,8 @@
 # Sourced by the helpers that know labels, which are symbolic names of revisions.
+. "${0%/*}/../common/options.sh"
 
-# read_options [--label=LABEL] [COMMENTFILE]: sets $label and $comment; refuses a label that the file
-# has already, or that RCS cannot keep.
-read_options() {
-  label=
-  case ${1:-} in
-    --label=*)
-      label=${1#--label=}
-      shift
-      ;;
-  esac
-  comment=${1:-}
+# check_label: refuses one that the file has already, or that RCS cannot keep.
+check_label() {
   case $label in
     '') ;;
     *['$,.:;@']* | *[[:space:]]* | *[!!-~]* | [0-9]*)

@@ -1,4 +1,5 @@
 # Sourced by the helpers beside it: the surroundings of svn, messages, addresses, commits.
+. "${0%/*}/../common/options.sh"
 
 # English texts whatever the user's language is, because answers are read; file names in UTF-8.
 # LANGUAGE would win over the locale's language even here.
@@ -113,20 +114,6 @@ give_up() {
   answer=${reason:-$answer}
   show >&2
   exit 1
-}
-
-# read_options [--label=LABEL] [COMMENTFILE]: sets $label and $comment.
-read_options() {
-  label=
-  case ${1:-} in
-    --label=*)
-      label=${1#--label=}
-      shift
-      ;;
-  esac
-  comment=${1:-}
-  # Where keywords are not replaced, the comment's stands for none.
-  [ -f "$comment" ] || comment=
 }
 
 # name_targets UNITS: sets $targets to a file with the paths as svn wants them, a line a path. UNITS is

@@ -4,16 +4,8 @@
 . "${0%/*}/common.sh"
 . "${0%/*}/labels.sh"
 
-units=$1
-shift
-to=
-case ${1:-} in
-  --to=*)
-    to=${1#--to=}
-    shift
-    ;;
-esac
-revision=${1:-HEAD}
+read_fetch "$@"
+revision=${wanted:-HEAD}
 
 number=$(revision_of "$revision")
 [ -n "$number" ] || fail "There is no label or revision '$revision' in the archive."
