@@ -100,8 +100,10 @@ TEST_F(ZshCompletion, KnowsTheUnitsOfTheProjectThatIsNamed) {
 }
 
 TEST_F(ZshCompletion, RunsNothingThatStandsOnTheLine) {
-  complete("veldra-cm -p $(touch ran) undo Milk/St");
-  complete("veldra-cm -p \"`touch ran`\" undo Milk/St");
+  for (const std::string line :
+       {"veldra-cm -p $(touch ran) undo Milk/St", "veldra-cm -p \"`touch ran`\" undo Milk/St"}) {
+    EXPECT_EQ(complete(line), line + "\n");
+  }
   EXPECT_FALSE(std::filesystem::exists(m_sandbox.path("ran")));
 }
 
