@@ -9,7 +9,7 @@ begin_commit "$units"
 present=$(about "$units" git ls-tree -r --name-only HEAD 2>/dev/null || :)
 [ -z "$present" ] || fail "'${present%%"$newline"*}' is in the archive already."
 run on "$units" add -N -f || give_up
-run commit "$units" "$comment" || {
+commit "$units" "$comment" || {
   on "$units" reset -q
   give_up
 }

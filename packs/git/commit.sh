@@ -1,7 +1,6 @@
 # Sourced by the helpers that bring something into the archive.
 . "${0%/*}/newest.sh"
-
-moved_on="The archive has newer commits than this folder. Fetch first, then do it again."
+. "${0%/*}/../common/delivery.sh"
 
 unsaved="A file has local changes; check it in, or undo them first."
 
@@ -35,9 +34,9 @@ check_label() {
     fail "The label '$label' exists already, for an older state. Choose another one."
 }
 
-# commit UNITS COMMENTFILE: commits exactly these files, with the comment byte for byte; with '' for UNITS
-# what the index holds.
-commit() {
+# print_commit UNITS COMMENTFILE: commits exactly these files, with the comment byte for byte; with '' for
+# UNITS what the index holds.
+print_commit() {
   named=$1
   # git takes no zero bytes in comments.
   tr -d '\000' <"${2:-/dev/null}" | {
@@ -47,6 +46,10 @@ commit() {
     set -- commit -q --allow-empty-message --cleanup=verbatim --file="$message"
     if [ -n "$named" ]; then on "$named" "$@" --only; else git "$@"; fi 2>&1
   }
+}
+
+commit() {
+  run print_commit "$@"
 }
 
 # begin_delivery: from a commit on until it is in the archive, a run that is killed leaves word of it.
@@ -94,35 +97,4 @@ was_late() {
     *'(fetch first)'* | *'(non-fast-forward)'* | *'cannot lock ref'*) ;;
     *) return 1 ;;
   esac
-}
-
-refuse_push() {
-  was_late && fail "$moved_on"
-  give_up
-}
-
-# deliver UNITS COMMENTFILE: commits these files and pushes; when somebody is quicker with other files,
-# once more on top of that.
-deliver() {
-  for patience in 3 2 1; do
-    run commit "$1" "$2" || give_up
-    begin_delivery
-    if tag_and_push; then
-      end_delivery
-      return
-    fi
-    take_back "$1"
-    was_late && [ "$patience" -gt 1 ] || refuse_push
-    catch_up "$1"
-  done
-}
-
-# publish UNITS: as `tag_and_push`; takes the commit back when that fails.
-publish() {
-  if tag_and_push; then
-    end_delivery
-    return
-  fi
-  take_back "$1"
-  refuse_push
 }

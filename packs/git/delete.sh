@@ -14,7 +14,7 @@ in_archive "$units"
 has_content_of "$units" HEAD || fail "$unsaved"
 refuse_locked "$units"
 run on "$units" rm -q -r || give_up
-if run commit "$units" "$comment" && tag_and_push; then
+if commit "$units" "$comment" && tag_and_push; then
   give_locks "$units"
   exit
 fi

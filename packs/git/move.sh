@@ -20,20 +20,20 @@ both() {
   printf '@%s\n' "$work/both"
 }
 
-# commit_move: as `commit`. Git follows a file by its content, so one that has changed, too, takes its
+# commit_move: as `print_commit`. Git follows a file by its content, so one that has changed, too, takes its
 # new place in a commit of its own first; in an index of its own, because the file stays as it is.
 commit_move() {
   changed=$(git diff --name-only -- "$new_file")
   [ -n "$changed" ] || {
-    commit "$(both)" "$comment"
+    print_commit "$(both)" "$comment"
     return
   }
   git ls-files -s -z --full-name -- "$new_place" >"$work/moved"
   (
     export GIT_INDEX_FILE="$work/index"
     git read-tree HEAD && git rm -q -r --cached -- "$old_place" &&
-      git update-index -z --index-info <"$work/moved" && commit '' "$comment"
-  ) && commit "$new_file" "$comment"
+      git update-index -z --index-info <"$work/moved" && print_commit '' "$comment"
+  ) && print_commit "$new_file" "$comment"
 }
 
 # move_locks: what else is checked out in a directory stays so.

@@ -16,5 +16,5 @@ commit "$units" "$comment" || {
   give_up
 }
 begin_delivery
-publish
+publish "$units"
 make_read_only "$units"

@@ -11,6 +11,6 @@ printf '%s\n' "$states" | sed -n 's/^[MR!] //p' | tell_unchanged "$units"
 if is_changed; then
   deliver "$units" "$comment"
 else
-  publish
+  publish "$units"
 fi
 make_read_only "$units"

@@ -1,7 +1,6 @@
 # Sourced by the helpers that bring something into the archive.
 . "${0%/*}/newest.sh"
-
-moved_on="The archive has newer commits than this folder. Fetch first, then do it again."
+. "${0%/*}/../common/delivery.sh"
 
 # begin_commit UNITS: refuses what would fail in the end.
 begin_commit() {
@@ -61,41 +60,6 @@ was_late() {
     *'new remote head'* | *'repository changed while'* | *'push creates new'*) ;;
     *) return 1 ;;
   esac
-}
-
-refuse_push() {
-  was_late && fail "$moved_on"
-  give_up
-}
-
-# deliver UNITS COMMENTFILE: commits these files and pushes; when somebody is quicker with other files,
-# once more on top of that.
-deliver() {
-  for patience in 3 2 1; do
-    commit "$1" "$2" || give_up
-    begin_delivery
-    if tag_and_push; then
-      end_delivery
-      return
-    fi
-    reason=$answer
-    take_back
-    answer=$reason
-    was_late && [ "$patience" -gt 1 ] || refuse_push
-    catch_up "$1"
-  done
-}
-
-# publish: as `tag_and_push`; takes the commits back when that fails.
-publish() {
-  if tag_and_push; then
-    end_delivery
-    return
-  fi
-  reason=$answer
-  take_back
-  answer=$reason
-  refuse_push
 }
 
 # tag_and_push: brings new commits and the label to the archive.

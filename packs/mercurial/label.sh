@@ -5,4 +5,4 @@
 read_options "$@"
 [ -n "$label" ] || fail "No label is given."
 begin_commit .
-publish
+publish ''
