@@ -5,8 +5,10 @@
 #include <system_error>
 
 #include "cm/core/CMFacade.h"
+#include "cm/host/IPN.h"
 #include "cm/host/IUserMessages.h"
 #include "cm/host/MessageIds.h"
+#include "cm/templates/CMProperty.h"
 #include "host/cli/printing/BytesAsText.h"
 #include "host/model/FileTypes.h"
 
@@ -36,6 +38,13 @@ std::string questionAfterCheckIn(IUserMessages& messages) {
   if (place != std::string::npos)
     question.replace(place, 2, messages.loadString(MessageId::CheckedIn));
   return question;
+}
+
+/// Without a tool the module leaves every unit out and says no reason.
+bool lacksTool(const PropertyLayers& properties) {
+  if (CMProperty::useSccCompliantTool() != 0) return false;
+  const Property* const tool = properties.find({IPN::CM, IPN::General, IPN::CMTool});
+  return tool == nullptr || tool->value().empty() || tool->value() == "None";
 }
 
 bool holdsProject(const fs::path& directory) {
@@ -127,6 +136,11 @@ Project& Session::openProject() {
   // Before the first command, so that a batch of many units does not fail unit by unit.
   if (!m_options.dryRun && !m_host.trust().isTrusted()) {
     throw CommandError(ExitCode::NothingDone, m_host.trustAdvice());
+  }
+  if (lacksTool(m_host.properties())) {
+    throw CommandError(ExitCode::NothingDone,
+                       "No CM tool is selected. Choose one with \"veldra-cm property set CMTool "
+                       "NAME\"; \"veldra-cm pack list\" shows those that there are.");
   }
   return opened;
 }

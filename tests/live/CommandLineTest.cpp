@@ -44,6 +44,8 @@ TEST_F(CommandLineTest, ExitCodesAndTheWayOut) {
       {{"-p", "nowhere", "status"}, 3, "nowhere"},
       {{"status"}, 3, "init"},
       {{"expand", "--property", "CheckIn"}, 3, "init"},
+      {{"-p", "model", "ls"}, 3, "CMTool"},
+      {{"-p", "model", "property", "set", "CMTool", "Git"}, 0, ""},
       {{"-p", "model", "lock", "No/Such.vcmp"}, 3, "status"},
       {{"-p", "model", "status", "Milk/Milk.vpkg", "Nope"}, 1, "Nope"},
       {{"-p", "model", "pack", "check", "none.toml"}, 2, "none.toml"},

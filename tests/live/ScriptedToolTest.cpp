@@ -91,10 +91,12 @@ TEST_F(ScriptedToolTest, AMissingToolIsNamed) {
 }
 
 TEST_F(ScriptedToolTest, ALackOfTheToolIsToldOnceForAllUnits) {
-  for (const auto& [tool, words] : {std::pair("None", "No CM tool is selected"),
-                                    std::pair("Scipted", "The tool \"Scipted\" has no property")}) {
-    ASSERT_EQ(cm({"property", "set", "CMTool", tool}).code, 0);
-    for (const char* command : {"ls", "refresh", "lock", "unlock"}) {
+  for (const auto& [tool, words] :
+       {std::pair("", "No CM tool is selected"), std::pair("None", "No CM tool is selected"),
+        std::pair("Scipted", "The tool \"Scipted\" has no property")}) {
+    const bool isSet = *tool != '\0';
+    ASSERT_TRUE(!isSet || cm({"property", "set", "CMTool", tool}).code == 0);
+    for (const char* command : {"ls", "refresh", "sync", "lock", "unlock"}) {
       SCOPED_TRACE(std::string(command) + " with " + tool);
       std::vector<std::string> arguments = {command};
       if (std::string(command).ends_with("lock")) arguments.push_back(m_one);
