@@ -47,7 +47,12 @@ void print(const Invocation& invocation, const std::string& projectFile, std::si
     printJson(Report{.command = invocation.command.name}, console.out);
     return;
   }
-  console.out << "project    " << textForPeople(projectFile) << "  (" << unitCount << " units)\n";
+  console.out << "project    " << textForPeople(projectFile) << "  (" << unitCount
+              << (unitCount == 1 ? " unit)\n" : " units)\n");
+  if (invocation.options.tool) return;
+  console.out
+      << "next       veldra-cm property set CMTool NAME  (\"veldra-cm pack list\" shows the "
+         "tools), then veldra-cm connect --archive WHERE\n";
 }
 
 /// The archive of a project that has just been made. The project stays when this fails.
