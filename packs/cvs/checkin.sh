@@ -8,11 +8,12 @@ shift
 read_options "$@"
 
 # give_leftovers: a commit that was killed leaves the user among the editors of what it has brought into
-# the archive. Such files are read-only, and yet among those whose former revision cvs keeps here.
+# the archive. Such files are read-only, and yet among those whose former revision cvs keeps here; so are
+# those that were moved or deleted while they were edited.
 give_leftovers() {
   folders_of "$units" | while read -r folder; do
     sed -n "s|^B\([^/]*\)/.*|$folder/\1|p" "$folder/CVS/Baserev" 2>/dev/null || :
-  done | sort >"$work/edited"
+  done | while read -r file; do [ ! -e "$file" ] || printf '%s\n' "$file"; done | sort >"$work/edited"
   [ -s "$work/edited" ] || return 0
   is_out <"$work/edited" | sort | comm -23 "$work/edited" - >"$work/read-only"
   [ -s "$work/read-only" ] || return 0

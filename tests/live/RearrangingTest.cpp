@@ -71,6 +71,9 @@ TEST_P(RearrangingTest, HistoryFollowsAUnitThatIsRenamedAndMoved) {
   EXPECT_THAT(m_sandbox.read("model/Brewing/Mill & Co.vcmp"), HasSubstr("\"Mill & Co\""));
   EXPECT_FALSE(m_sandbox.isWritable("model/Brewing/Mill & Co.vcmp"));
   EXPECT_THAT(m_tool->newestComment("Brewing/Mill & Co.vcmp"), HasSubstr("A better name"));
+  // The tool may remember that something has been checked out in that folder.
+  inModel(0, {"checkout", "Brewing/Drip Tray.vcmp"});
+  inModel(0, {"checkin", "Brewing/Drip Tray.vcmp"});
   inModel(0, {"move", "Brewing::Mill & Co", "Control::Safety", "-m", "It is dangerous"});
   expectTrail("Control::Safety::Mill & Co");
   EXPECT_THAT(m_tool->newestComment("Control/Safety/Mill & Co.vcmp"), HasSubstr("dangerous"));
