@@ -3,11 +3,14 @@
 . "${0%/*}/common.sh"
 
 open_repository
-[ "${1:-}" = --here ] || receive || give_up
+if [ "${1:-}" = --here ]; then
+  state=.
+else
+  receive || give_up
+  state=${tip:-$base}
+fi
 prefix=$(pwd -P)
 prefix=${prefix#"$top"}
-state=${tip:-$base}
-[ "${1:-}" != --here ] || state=.
 {
   hg files -r "$state" -T '{path}\n' -- "$PWD" || :
   echo

@@ -28,8 +28,12 @@ set_modes() {
   changed | xargs -0 -r chmod -f u+w -- || :
 }
 
+# bring_missing: files that are gone from this folder, read-only.
 bring_missing() {
-  hg revert -q --no-backup 'set:deleted()'
+  open_work
+  hg status -dn0 -- "$PWD" | sed -z 's|^|./|' >"$work/missing"
+  [ -s "$work/missing" ] || return 0
+  xargs -0 hg revert -q --no-backup -- <"$work/missing" && xargs -0 chmod a-w -- <"$work/missing"
 }
 
 # take_back: undoes what has been committed and scheduled; the files stay as they are.
@@ -70,6 +74,8 @@ exchange() {
 bring_newest() {
   take_back_undelivered
   [ -n "$tip" ] || return 0
+  # Of a missing file that arrives, hg would forget that it has it.
+  bring_missing
   case $base in
     *[!0]*) ;;
     *)

@@ -130,7 +130,8 @@ TEST_P(SynchronizingTest, AnArchiveThatCannotBeReachedIsNoArchiveInStep) {
   EXPECT_FALSE(ended.err.empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Packs, SynchronizingTest, testing::Values("Subversion", "Git"),
+INSTANTIATE_TEST_SUITE_P(Packs, SynchronizingTest,
+                         testing::Values("Subversion", "Git", "RCS", "CVS", "Mercurial"),
                          [](const auto& info) { return std::string(info.param); });
 
 }  // namespace
