@@ -13,8 +13,9 @@ arriving() {
   git diff --relative --name-only --no-renames -z HEAD "$tip"
 }
 
+# In a file that is missing there is nothing to merge.
 changed() {
-  git diff --relative --name-only --no-renames -z HEAD
+  git diff --relative --name-only --no-renames --diff-filter=d -z HEAD
 }
 
 # settle: brings what is missing, and makes read-only what has the content of the archive. Files that
