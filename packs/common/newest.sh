@@ -15,7 +15,7 @@ begin_update() {
   writable <"$work/touched" >"$work/writable"
   comm -z -12 "$work/changed" "$work/arriving" | tr '\000' '\n' >"$work/both"
   number=0
-  while read -r file; do
+  while IFS= read -r file; do
     number=$((number + 1))
     content "$base" "$file" >"$work/base" 2>/dev/null &&
       content "$tip" "$file" >"$work/theirs" 2>/dev/null &&

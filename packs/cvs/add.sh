@@ -16,14 +16,14 @@ binary() {
 
 # An added file that is not committed is no longer scheduled; the file stays.
 take_back() {
-  state_of "$units" | sed -n 's/^A //p' | while read -r file; do
+  state_of "$units" | sed -n 's/^A //p' | while IFS= read -r file; do
     ln -- "$file" "$file.veldra-kept" && cvs remove -f -- "$file" >/dev/null 2>&1
     mv -f -- "$file.veldra-kept" "$file"
   done
 }
 
 open_folder "$units"
-relative "$units" | while read -r file; do
+relative "$units" | while IFS= read -r file; do
   [ -f "$file" ] || fail "'$file' is not a file."
   ! entries "$(dirname -- "$file")" | grep -q -F "/${file##*/}/" ||
     fail "'$file' is in the archive already."

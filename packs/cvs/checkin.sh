@@ -11,19 +11,19 @@ read_options "$@"
 # the archive. Such files are read-only, and yet among those whose former revision cvs keeps here; so are
 # those that were moved or deleted while they were edited.
 give_leftovers() {
-  folders_of "$units" | while read -r folder; do
+  folders_of "$units" | while IFS= read -r folder; do
     sed -n "s|^B\([^/]*\)/.*|$folder/\1|p" "$folder/CVS/Baserev" 2>/dev/null || :
-  done | while read -r file; do [ ! -e "$file" ] || printf '%s\n' "$file"; done | sort >"$work/edited"
+  done | while IFS= read -r file; do [ ! -e "$file" ] || printf '%s\n' "$file"; done | sort >"$work/edited"
   [ -s "$work/edited" ] || return 0
   is_out <"$work/edited" | sort | comm -23 "$work/edited" - >"$work/read-only"
   [ -s "$work/read-only" ] || return 0
   state_of "@$work/read-only" | sed 's|^..||; s|^\./||' | sort | comm -23 "$work/read-only" - >"$work/left"
   # cvs would bring back what it has kept, and takes nobody from the editors of a file without that.
-  while read -r file; do cp -p -f -- "$file" "${file%/*}/CVS/Base/${file##*/}"; done <"$work/left"
+  while IFS= read -r file; do cp -p -f -- "$file" "${file%/*}/CVS/Base/${file##*/}"; done <"$work/left"
   [ ! -s "$work/left" ] || {
     on "@$work/left" unedit -- >/dev/null
     on "@$work/left" update -C -A -- >/dev/null
-    while read -r file; do drop_backups "$file" "$work/left"; done <"$work/left"
+    while IFS= read -r file; do drop_backups "$file" "$work/left"; done <"$work/left"
   }
 }
 

@@ -15,7 +15,7 @@ check_label() {
 # revisions UNITS: a line a file that cvs knows, in the folders of these: its path, a tab, and the revision
 # that this folder has of it. What cvs has changed last stands in a log behind its records.
 revisions() {
-  folders_of "$1" | while read -r folder; do
+  folders_of "$1" | while IFS= read -r folder; do
     cat "$folder/CVS/Entries" "$folder/CVS/Entries.Log" 2>/dev/null | F=$folder/ awk '
       { gone = sub(/^R /, ""); sub(/^A /, "") }
       split($0, part, "/") > 2 && part[1] == "" {
@@ -37,12 +37,12 @@ without_keywords() {
 know_own() {
   printf '%s\n' "$answer" | sed -n "s/.*Up-to-date check failed for .\(.*\)'$/\1/p" >"$work/newer"
   [ -s "$work/newer" ] || return
-  while read -r file; do
+  while IFS= read -r file; do
     without_keywords <"$file" >"$work/mine"
     command cvs -f -Q update -p -A -- "$file" 2>/dev/null | without_keywords |
       cmp -s - "$work/mine" || return
   done <"$work/newer"
-  while read -r file; do bring_clean "$file" -A && chmod u+w -- "$file"; done <"$work/newer"
+  while IFS= read -r file; do bring_clean "$file" -A && chmod u+w -- "$file"; done <"$work/newer"
 }
 
 # commit UNITS COMMENTFILE: as `run`. CVS commits file by file: after a failure the files that made it

@@ -35,7 +35,7 @@ place_of() {
 
 # works_elsewhere PROCESS: who works in a folder of another archive.
 works_elsewhere() (
-  read -r its_root 2>/dev/null <"$1/cwd/CVS/Root" || {
+  IFS= read -r its_root 2>/dev/null <"$1/cwd/CVS/Root" || {
     # It may have ended meanwhile.
     [ ! -e "$1/cwd" ]
     return
@@ -48,8 +48,8 @@ works_elsewhere() (
 # clear_locks [UNITS]: cvs waits without an end for the locks of killed processes. They lie beside the
 # archive files; without UNITS anywhere.
 clear_locks() {
-  read -r root <CVS/Root
-  read -r place <CVS/Repository
+  IFS= read -r root <CVS/Root
+  IFS= read -r place <CVS/Repository
   place_of "$root"
   case $root$place in
     /*) ;;
@@ -65,7 +65,7 @@ clear_locks() {
     else
       find "$root/$place" \( -name '#cvs.*' -o -name ',*,' \) -print0
     fi
-  } 2>/dev/null | tr '\n\000' '\001\n' | while read -r lock; do clear_lock "$lock" '' cvs; done
+  } 2>/dev/null | tr '\n\000' '\001\n' | while IFS= read -r lock; do clear_lock "$lock" '' cvs; done
 }
 
 # folders_of UNITS: the folders that they lie in, a line a folder.
@@ -88,7 +88,7 @@ entries() {
 # in_archive UNITS: fails, naming one, unless all of them are under control. One that is scheduled to
 # be added has the revision 0.
 in_archive() {
-  relative "$1" | while read -r file; do
+  relative "$1" | while IFS= read -r file; do
     entries "$(dirname -- "$file")" | grep -F "/${file##*/}/" | grep -q -v "^/${file##*/}/0/" ||
       fail "'$file' is not in the archive; add it first."
   done
@@ -118,7 +118,7 @@ make_folder() {
 }
 
 make_folders() {
-  relative "$1" | sed -n 's|/[^/]*$||p' | sort -u | while read -r folder; do
+  relative "$1" | sed -n 's|/[^/]*$||p' | sort -u | while IFS= read -r folder; do
     make_folder "$folder"
   done
 }
@@ -172,7 +172,7 @@ take() {
 # give UNITS: takes the user from the editors; what has been changed goes back to what it was when it
 # was taken.
 give() {
-  relative "$1" | while read -r file; do
+  relative "$1" | while IFS= read -r file; do
     yes | command cvs -f -q unedit -- "$file" >/dev/null
   done
 }

@@ -9,8 +9,8 @@ cd -- "$2"
 # take_over DIRECTORY: moves a fresh working copy into this folder. A file that lies here with other
 # content stays; cvs then takes it for changed.
 take_over() {
-  (cd -- "$1" && find . -type d) | while read -r folder; do mkdir -p -- "$folder"; done
-  (cd -- "$1" && find . -type f) | while read -r file; do
+  (cd -- "$1" && find . -type d) | while IFS= read -r folder; do mkdir -p -- "$folder"; done
+  (cd -- "$1" && find . -type f) | while IFS= read -r file; do
     if [ ! -e "$file" ] || cmp -s -- "$file" "$1/$file"; then mv -f -- "$1/$file" "$file"; fi
   done
 }

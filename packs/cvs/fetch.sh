@@ -37,7 +37,7 @@ in_archive "$units"
 changed=$(state_of "$units" | sed -n 's/^[MC] //p')
 [ -z "$changed" ] ||
   fail "'${changed%%"$newline"*}' has local changes; check it in, or undo them first."
-relative "$units" | while read -r file; do
+relative "$units" | while IFS= read -r file; do
   has_revision "$file" || fail "There is no label or revision '$wanted' of '$file' in the archive."
 done
 on "$units" update -r "$wanted" --

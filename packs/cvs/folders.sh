@@ -9,7 +9,7 @@ add_folder() {
 
 # add_folders: those of the files on the input.
 add_folders() {
-  sed -n 's|/[^/]*$||p' | sort -u | while read -r folder; do add_folder "$folder"; done
+  sed -n 's|/[^/]*$||p' | sort -u | while IFS= read -r folder; do add_folder "$folder"; done
 }
 
 # add_files OPTION: the files of the input; -kb keeps their bytes, -kkv expands keywords.
@@ -19,9 +19,9 @@ add_files() {
 
 # controlled DIRECTORY: the files below it that are under control.
 controlled() {
-  find "$1" -type d -name CVS | while read -r records; do
+  find "$1" -type d -name CVS | while IFS= read -r records; do
     folder=${records%/CVS}
-    entries "$folder" | sed -n 's|^/\([^/]*\)/.*|\1|p' | while read -r name; do
+    entries "$folder" | sed -n 's|^/\([^/]*\)/.*|\1|p' | while IFS= read -r name; do
       printf '%s/%s\n' "$folder" "$name"
     done
   done

@@ -25,7 +25,7 @@ is_plain() {
 
 # put_back: the files and what cvs knows of them, as they were.
 put_back() {
-  while read -r file; do
+  while IFS= read -r file; do
     place=$(new_place "$file")
     [ ! -e "$place" ] || {
       (cd -- "$(dirname -- "$place")" && command cvs -f -Q remove -- "${place##*/}") 2>/dev/null || :
@@ -34,14 +34,14 @@ put_back() {
       (cd -- "$(dirname -- "$place")" && command cvs -f -Q remove -- "${place##*/}") 2>/dev/null || :
     }
   done <"$work/old"
-  (cd "$work/records" && find . -type f) | while read -r record; do
+  (cd "$work/records" && find . -type f) | while IFS= read -r record; do
     cp -- "$work/records/$record" "$record"
   done
 }
 
 # take_along: what cvs does not know.
 take_along() {
-  find "$old" -type f ! -path '*/CVS/*' | while read -r file; do
+  find "$old" -type f ! -path '*/CVS/*' | while IFS= read -r file; do
     place=$(new_place "$file")
     mkdir -p -- "$(dirname -- "$place")"
     [ -e "$place" ] || mv -- "$file" "$place"
@@ -52,7 +52,7 @@ take_along() {
 # keep_out: what else is checked out in a directory stays so.
 keep_out() {
   [ -s "$work/out" ] || return 0
-  while read -r file; do new_place "$file"; done <"$work/out" | sed "s|^|$PWD/|" >"$work/taken"
+  while IFS= read -r file; do new_place "$file"; done <"$work/out" | sed "s|^|$PWD/|" >"$work/taken"
   (take "@$work/taken") || :
 }
 
@@ -77,7 +77,7 @@ find "$old" "$(dirname -- "$old")" -path '*CVS/Entries*' -exec sh -c '
 ' "$work/records" {} +
 : >"$work/text"
 : >"$work/plain"
-while read -r file; do
+while IFS= read -r file; do
   place=$(new_place "$file")
   mkdir -p -- "$(dirname -- "$place")"
   if is_plain "$file"; then kind=plain; else kind=text; fi

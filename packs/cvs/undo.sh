@@ -5,7 +5,7 @@ open_folder "$1"
 in_archive "$1"
 give "$1"
 # What was made writable by other means, or is missing, has no copy to go back to.
-state_of "$1" | sed 's/^..//' | while read -r file; do
+state_of "$1" | sed 's/^..//' | while IFS= read -r file; do
   bring_clean "$file"
 done
 make_read_only "$1"

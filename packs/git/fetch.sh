@@ -54,5 +54,5 @@ elif [ -z "$wanted" ]; then
   in_archive "$units"
   restore "$units"
 else
-  lines "$units" | while read -r unit; do fetch_label "$unit"; done
+  lines "$units" | while IFS= read -r unit; do fetch_label "$unit"; done
 fi

@@ -63,7 +63,7 @@ among() {
 take_locks() {
   has_locks || return 0
   refuse_locked "$1"
-  lines "$1" | while read -r file; do
+  lines "$1" | while IFS= read -r file; do
     run git lfs lock -- "$file" && continue
     reason=$answer
     refuse_locked "$file"

@@ -43,7 +43,7 @@ move_locks() {
   old=$top$(relative "$old_place")
   ours | among "$old_place" | cut -f 1 | grep -v -x -F -e "$top$(relative "$old_file")" >"$work/held" || :
   give_locks "$old_place"
-  while read -r path; do run git lfs lock -- "$new_place${path#"$old"}" || :; done <"$work/held"
+  while IFS= read -r path; do run git lfs lock -- "$new_place${path#"$old"}" || :; done <"$work/held"
 }
 
 read_move "$@"

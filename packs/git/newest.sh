@@ -140,7 +140,7 @@ bring_missing() {
 # archive; a read-only file with any other content is somebody's work.
 restore() {
   bring_missing "$1" || return
-  about "$1" git diff --relative --name-only -z HEAD | tr '\000' '\n' | while read -r file; do
+  about "$1" git diff --relative --name-only -z HEAD | tr '\000' '\n' | while IFS= read -r file; do
     if [ -z "$(printf '%s\000' "$file" | writable)" ] && is_archived "./$file"; then
       git checkout -q HEAD -- "./$file" || return
     fi

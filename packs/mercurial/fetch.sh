@@ -46,5 +46,5 @@ elif [ -z "$wanted" ]; then
   restore "$units"
   in_archive "$units"
 else
-  lines "$units" | while read -r unit; do fetch_label "$unit"; done
+  lines "$units" | while IFS= read -r unit; do fetch_label "$unit"; done
 fi

@@ -62,7 +62,7 @@ take_back_undelivered() {
 exchange() {
   mkdir -p "$work/$2"
   number=0
-  while read -r file; do
+  while IFS= read -r file; do
     number=$((number + 1))
     cp "./$file" "$work/$2/$number"
     cp "$work/$1/$number" "./$file.veldra-merged" && mv -f "./$file.veldra-merged" "./$file"
@@ -116,7 +116,7 @@ is_fetched() {
 # restore UNITS: brings back files that are missing, and read-only ones with the content of a label.
 restore() {
   bring_missing
-  on "$1" status -mn 2>/dev/null | while read -r file; do
+  on "$1" status -mn 2>/dev/null | while IFS= read -r file; do
     file=$(pwd -P)/$file
     if [ -z "$(printf '%s\000' "$(relative "$file")" | writable)" ] && is_fetched "$file"; then
       hg revert -q --no-backup -- "$file" && chmod a-w -- "$file" || return

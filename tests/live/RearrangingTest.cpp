@@ -122,17 +122,17 @@ TEST_P(RearrangingTest, APackageIsMovedAndRenamedWithEverythingInIt) {
 
 TEST_P(RearrangingTest, AFolderWithoutAFileOfItsOwnIsAPackageLikeAnyOther) {
   m_sandbox.write("model/Plans 1.0/deep/A.puml", "@startuml\nA -> B\n@enduml\n");
-  m_sandbox.write("model/Plans 1.0/B.puml", "@startuml\nC -> D\n@enduml\n");
+  m_sandbox.write("model/Plans 1.0/ B.puml", "@startuml\nC -> D\n@enduml\n");
   inModel(0, {"add", "-r", "Plans 1.0", "-m", "first"});
-  inModel(0, {"checkout", "Plans 1.0/B.puml"});
+  inModel(0, {"checkout", "Plans 1.0/ B.puml"});
   EXPECT_THAT(inModel(3, {"move", "Plans 1.0", "Plans 1.0/deep"}).err, HasSubstr("into itself"));
   inModel(0, {"--dry-run", "move", "Plans 1.0", "Milk"});
   inModel(0, {"move", "Plans 1.0", "Milk", "-m", "moved"});
   inModel(0, {"rename", "Milk::Plans 1.0", "Plans; 2.0", "-m", "renamed"});
-  EXPECT_TRUE(m_sandbox.isWritable("model/Milk/Plans; 2.0/B.puml"));
+  EXPECT_TRUE(m_sandbox.isWritable("model/Milk/Plans; 2.0/ B.puml"));
   expectTrail("Milk::Plans; 2.0::deep::A");
   expectAgreement();
-  inModel(0, {"undo", "Milk/Plans; 2.0/B.puml"});
+  inModel(0, {"undo", "Milk/Plans; 2.0/ B.puml"});
   inModel(3, {"delete", "Milk/Plans; 2.0"});
   inModel(0, {"delete", "-r", "Milk/Plans; 2.0", "-m", "no plans"});
   EXPECT_FALSE(std::filesystem::exists(m_sandbox.path("model/Milk/Plans; 2.0")));
