@@ -118,8 +118,9 @@ void ItemCommand::runItem(ItemRun& run, ArgumentList& arguments, UnitProgress& p
   }
   progress.endsByCommand(expanded, run.status);
   if (run.status != 1) return;
+  const bool isWell = !theCMToolShellInterface().lastCommandEnd().failed;
   after(run);
-  if (run.reloadFailed) progress.endsAs(UnitEnd::NotReloaded, run.errorText);
+  if (run.reloadFailed && isWell) progress.endsAs(UnitEnd::NotReloaded, run.errorText);
 }
 
 }  // namespace veldra

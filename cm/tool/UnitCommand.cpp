@@ -151,7 +151,8 @@ void UnitCommand::runUnit(UnitRun& run, const UnitCallFrame& call, UnitProgress&
   if (run.handler != nullptr && isWell) run.handler->complete();
   after(run);
   if (isDone && preparation->wasUnchanged) progress.endsAsUnchanged(run.unit->getFullFileName());
-  if (run.reloadFailed) progress.endsAs(UnitEnd::NotReloaded, run.errorText);
+  // Of a tool that failed its own words say more.
+  if (run.reloadFailed && isWell) progress.endsAs(UnitEnd::NotReloaded, run.errorText);
 }
 
 void UnitCommand::tellRemark(const ToolAnswer& answer, const std::string& file,

@@ -45,6 +45,13 @@ refuse_strangers() {
     fail "'${1%%"$newline"*}' is not in the archive; add it first, or take it out of the folder."
 }
 
+# refuse_stranger FILE: fails about one that is not under control; bringing the newest state may have taken
+# it away.
+refuse_stranger() {
+  [ -e "$1" ] || fail "'$1' is no longer in the archive, and so no longer here."
+  fail "'$1' is not in the archive; add it first."
+}
+
 # each UNITS: the paths, each with a zero byte behind it.
 each() {
   case $1 in

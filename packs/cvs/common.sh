@@ -90,7 +90,7 @@ entries() {
 in_archive() {
   relative "$1" | while IFS= read -r file; do
     entries "$(dirname -- "$file")" | grep -F "/${file##*/}/" | grep -q -v "^/${file##*/}/0/" ||
-      fail "'$file' is not in the archive; add it first."
+      refuse_stranger "$file"
   done
 }
 
@@ -123,9 +123,12 @@ make_folders() {
   done
 }
 
-# bring_clean FILE [OPTION]: in place of what is there.
+# bring_clean FILE [OPTION]: in place of what is there; nothing, when it has gone from the archive.
 bring_clean() {
-  command cvs -f -Q update -C ${2:+"$2"} -- "$1"
+  run cvs update -C ${2:+"$2"} -- "$1" || case $answer in
+    *'no longer in the repository'*) rm -f -- "$1" && cvs -Q update -- "$1" ;;
+    *) give_up ;;
+  esac
   drop_backups "$1" CVS/Root
 }
 

@@ -8,4 +8,5 @@ give "$1"
 state_of "$1" | sed 's/^..//' | while IFS= read -r file; do
   bring_clean "$file"
 done
+in_archive "$1"
 make_read_only "$1"

@@ -130,7 +130,7 @@ name_user() {
 in_archive() {
   run about "$1" git ls-files --error-unmatch >/dev/null || {
     path=${answer#*pathspec \'}
-    fail "'${path%%\' did not match*}' is not in the archive; add it first."
+    refuse_stranger "${path%%\' did not match*}"
   }
 }
 

@@ -25,7 +25,7 @@ content_of() {
   case $(git cat-file -t "$wanted" 2>/dev/null) in
     blob) git rev-parse -q --verify "$wanted" ;;
     commit | tag) git rev-parse -q --verify "$wanted:./$(relative "$1")" ||
-      fail "'$1' is not in '$wanted'." ;;
+      fail "'$1' is not in '$wanted': it was added, moved or renamed later." ;;
     *) no_label ;;
   esac
 }

@@ -84,7 +84,7 @@ in_archive() {
   count=$(printf '%s\n' "$states" | grep -c '^[CMR!] ' || :)
   [ "$count" -eq "$(lines "$1" | wc -l)" ] && return
   stranger=$(printf '%s\n' "$states" | grep -m 1 '^[?IA] ' || lines "$1" | sed -n '1s/^/? /p')
-  fail "'${stranger#? }' is not in the archive; add it first."
+  refuse_stranger "${stranger#? }"
 }
 
 # is_changed: whether any of the files that `in_archive` has looked at is.

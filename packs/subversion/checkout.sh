@@ -22,7 +22,7 @@ locked_here() {
 if [ "$mode" = --unlocked ]; then
   number=$(revision_of "$revision")
   [ -n "$number" ] || fail "There is no label or revision '$revision' in the archive."
-  on_targets update --parents --revision "$number"
+  update "$number"
   exit
 fi
 [ "$revision" = HEAD ] ||
@@ -33,7 +33,7 @@ case "$mode $units $(cat "$work/refused")" in
   '--lock '* | '--locked @'*) ;;
   # The working copy is behind the archive, or does not have the file yet.
   *W160042:* | *E160042:* | *E155010:* | *E155007:*)
-    on_targets update --parents --revision HEAD && svn lock --targets "$targets"
+    update HEAD && svn lock --targets "$targets"
     exit
     ;;
 esac

@@ -152,6 +152,25 @@ on_targets() {
   tr '\n' '\000' <"$targets" | xargs -0 sh "${0%/*}/svn.sh" "$@" --
 }
 
+# update REVISION: brings $targets. Conflicts are no success, although svn goes on beside them.
+update() {
+  run on_targets update --parents --revision "$1" || give_up
+  case $answer in
+    *"${newline}Summary of conflicts:"*)
+      answer="subversion: Changes here and in the archive do not fit together.$newline$answer"
+      give_up
+      ;;
+  esac
+  show
+}
+
+# refuse_gone: fails, naming one, when $targets have been taken away.
+refuse_gone() {
+  gone=$(while IFS= read -r target; do [ -e "${target%@}" ] || printf '%s\n' "${target%@}"; done <"$targets" |
+    head -n 1)
+  [ -z "$gone" ] || fail "'$gone' is no longer in the archive, and so no longer here."
+}
+
 # held: those of $targets that this folder holds a lock of; the sixth column of a status tells.
 held() {
   on_targets status --depth empty |

@@ -13,9 +13,26 @@ if [ -n "$to" ]; then
   svn cat --revision "$number" -- "$units@" >"$to"
   exit
 fi
+# lacking REVISION: the first of $targets that the archive does not have there. svn would take it away.
+lacking() {
+  sed "s/\$/$1/" "$targets" | tr '\n' '\000' >"$work/then"
+  xargs -0 sh "${0%/*}/svn.sh" info --revision "$1" -- <"$work/then" >/dev/null 2>&1 && return
+  tr '\000' '\n' <"$work/then" | while IFS= read -r target; do
+    svn info --revision "$1" -- "$target" >/dev/null 2>&1 || { printf '%s\n' "${target%@*}"; break; }
+  done
+}
+
 name_targets "$units"
-on_targets update --parents --revision "$number" || exit
+case $number in
+  HEAD | BASE | COMMITTED | PREV) ;;
+  *)
+    later=$(lacking "$number")
+    [ -z "$later" ] || fail "'$later' is not in '$revision': it was added, moved or renamed later."
+    ;;
+esac
+update "$number"
 # svn is content with files that it does not know.
 stranger=$(on_targets status --depth empty 2>&1 |
   sed -n "s/^?       //p; s/^svn: warning: W155010: The node '\(.*\)' was not found.*/\1/p" | head -n 1)
 [ -z "$stranger" ] || fail "'$stranger' is not in the archive; add it first."
+refuse_gone

@@ -82,7 +82,7 @@ TEST_P(RearrangingTest, HistoryFollowsAUnitThatIsRenamedAndMoved) {
 
 TEST_P(RearrangingTest, HistoryFollowsAFileThatIsWrittenAnewAndMovedAtOnce) {
   m_sandbox.write("model/Flow.puml", "@startuml\nA -> B\n@enduml\n");
-  inModel(0, {"add", "Flow.puml", "-m", "first"});
+  inModel(0, {"add", "Flow.puml", "-m", "first", "-l", "Before"});
   inModel(0, {"checkout", "Flow.puml"});
   const std::string text = "'" + std::string(200, 'x') + "\nnothing of the old\n";
   m_sandbox.write("model/Flow.puml", text);
@@ -90,6 +90,10 @@ TEST_P(RearrangingTest, HistoryFollowsAFileThatIsWrittenAnewAndMovedAtOnce) {
   EXPECT_EQ(m_tool->newestText("Milk/Flow.puml"), text);
   EXPECT_FALSE(m_sandbox.isWritable("model/Milk/Flow.puml"));
   expectTrail("Milk/Flow.puml");
+  // Where the label belongs to the former place, the file stays as it is.
+  m_sandbox.cm({"-p", "model", "fetch", "Milk/Flow.puml", "-l", "Before"});
+  inModel(0, {"fetch", "Milk/Flow.puml"});
+  EXPECT_EQ(m_sandbox.read("model/Milk/Flow.puml"), text);
   expectAgreement();
 }
 

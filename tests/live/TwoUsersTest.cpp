@@ -143,6 +143,26 @@ TEST_P(TwoUsersTest, ACheckInIsNotStoppedByWhatHappensToOtherFiles) {
   EXPECT_TRUE(tool().files().contains("Milk/Whisk.puml"));
 }
 
+TEST_P(TwoUsersTest, WhatTheArchiveHasNoLongerIsNotFetchedAndNothingIsLost) {
+  constexpr char Unchanged[] = "Milk/Steam Wand.vcmp";
+  changeUnasked("Grinds one portion", "Crushes one portion");
+  const std::string ofBob = m_job.read(Unit);
+  m_job.become("alice", "model");
+  m_job.cm({"delete", Unchanged, Unit, "-m", "by alice"});
+  m_job.become("bob", "second");
+
+  for (const char* unit : {Unit, Unchanged}) {
+    const Ended refused = m_job.tryCm({"fetch", unit});
+    EXPECT_EQ(refused.code, 3) << refused.out;
+    EXPECT_THAT(refused.err, AllOf(HasSubstr(unit), Not(HasSubstr("could not be loaded"))));
+  }
+  EXPECT_EQ(m_job.read(Unit), ofBob);
+  const Ended undone = m_job.tryCm({"undo", Unit});
+  EXPECT_THAT(undone.err, Not(HasSubstr("without a word")));
+  EXPECT_THAT((std::vector<std::string>{m_job.read(Unit), m_job.tryCm({"kept", "show", Unit}).out}),
+              testing::Contains(ofBob));
+}
+
 class LockBreakingUsersTest : public TwoUsersTest {};
 
 TEST_P(LockBreakingUsersTest, AfterALockWasTakenAwayNothingIsLostOnEitherSide) {
