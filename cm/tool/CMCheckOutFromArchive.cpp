@@ -18,7 +18,7 @@ const OperationRow& CMCheckOutFromArchive::row() const {
       .save = SaveRule::IfSaveOnCheckOut,
       .tracksUnits = true,
       .asksOverwrite = true,
-      .keeps = KeepRule::WritableFiles,
+      .keeps = KeepRule::EveryFile,
       .handlerKind = CMVDYHandler::CheckOut};
   return row;
 }

@@ -13,7 +13,7 @@ const OperationRow& CMRecCheckOutFromArchive::row() const {
       .traceAfter = "Recursive check out from the archive command returned the following: ",
       .save = SaveRule::IfSaveOnCheckOutIsDue,
       .asksOverwrite = true,
-      .keeps = KeepRule::WritableFiles,
+      .keeps = KeepRule::EveryFile,
       .handlerKind = CMVDYHandler::CheckOut};
   return row;
 }

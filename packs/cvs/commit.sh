@@ -12,21 +12,6 @@ check_label() {
     fail "The label '$label' exists already for an older revision. Choose another one."
 }
 
-# revisions UNITS: a line a file that cvs knows, in the folders of these: its path, a tab, and the revision
-# that this folder has of it. What cvs has changed last stands in a log behind its records.
-revisions() {
-  folders_of "$1" | while IFS= read -r folder; do
-    cat "$folder/CVS/Entries" "$folder/CVS/Entries.Log" 2>/dev/null | F=$folder/ awk '
-      { gone = sub(/^R /, ""); sub(/^A /, "") }
-      split($0, part, "/") > 2 && part[1] == "" {
-        path = ENVIRON["F"] part[2]
-        sub(/^\.\//, "", path)
-        if (gone) delete revision[path]; else revision[path] = part[3]
-      }
-      END { for (path in revision) print path "\t" revision[path] }'
-  done
-}
-
 # without_keywords: the input with keywords that stand for nothing yet.
 without_keywords() {
   LC_ALL=C sed 's/\$\([A-Z][A-Za-z]*\):[^$]*\$/$\1$/g'
@@ -48,11 +33,11 @@ know_own() {
 # commit UNITS COMMENTFILE: as `run`. CVS commits file by file: after a failure the files that made it
 # are named, which have another revision now or are gone from the records; the rest stays as it was.
 commit() {
-  revisions "$1" | sort >"$work/before"
+  folders_of "$1" | revisions | sort >"$work/before"
   run on "$1" commit -F "${2:-/dev/null}" -- && return
   know_own && run on "$1" commit -F "${2:-/dev/null}" -- && return
   reason=$answer
-  revisions "$1" | sort | comm -23 "$work/before" - | cut -f 1 >"$work/moved-on"
+  folders_of "$1" | revisions | sort | comm -23 "$work/before" - | cut -f 1 >"$work/moved-on"
   lines "$1" >"$work/all"
   relative "$1" | paste - "$work/all" | awk -F '\t' '
     FILENAME == ARGV[1] { movedOn[$0]; next }

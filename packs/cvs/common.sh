@@ -73,6 +73,21 @@ folders_of() {
   relative "$1" | sed 's|^[^/]*$|./&|; s|/[^/]*$||' | sort -u
 }
 
+# revisions: a line a file that cvs knows, in the folders on the input: its path, a tab, and the revision
+# that this folder has of it. What cvs has changed last stands in a log behind its records.
+revisions() {
+  while IFS= read -r folder; do
+    cat "$folder/CVS/Entries" "$folder/CVS/Entries.Log" 2>/dev/null | F=$folder/ awk '
+      { gone = sub(/^R /, ""); sub(/^A /, "") }
+      split($0, part, "/") > 2 && part[1] == "" {
+        path = ENVIRON["F"] part[2]
+        sub(/^\.\//, "", path)
+        if (gone) delete revision[path]; else revision[path] = part[3]
+      }
+      END { for (path in revision) print path "\t" revision[path] }'
+  done
+}
+
 # state_of UNITS: a line a file that is not as in the archive: a letter, a blank, the path. M, A and R
 # have been changed here, U and P in the archive, C on both sides.
 state_of() {

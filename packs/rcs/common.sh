@@ -62,6 +62,15 @@ name_files() {
   [ ! -e "$semaphore" ] || clear_lock "$semaphore" '' ci co rcs rcsclean
 }
 
+# is_archived: whether $working has the content of a revision; mostly of the newest.
+is_archived() {
+  ! rcsdiff -q "$archived" "$working" >/dev/null 2>&1 || return 0
+  for revision in $(rlog "$archived" | sed -n 's/^revision \([0-9.]*\).*/\1/p'); do
+    ! rcsdiff -q "-r$revision" "$archived" "$working" >/dev/null 2>&1 || return 0
+  done
+  return 1
+}
+
 # lockers ARCHIVEFILE: who holds locks, one a line.
 lockers() {
   rlog -h "$1" | sed -n '/^locks:/,/^access list:/ s/^\t\([^:]*\):.*/\1/p'

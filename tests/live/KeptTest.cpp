@@ -64,6 +64,24 @@ TEST_P(KeptTest, GivenUpChangesComeBack) {
   EXPECT_EQ(cm({"kept", "restore", "no such copy"}).code, 3);
 }
 
+TEST_P(KeptTest, WhatWasChangedInAReadOnlyFileIsNowhereLost) {
+  const std::string mine = m_archived + "\n// mine\n";
+  for (const char* operation : {"checkout", "lock", "fetch", "undo", "unlock", "sync"}) {
+    m_sandbox.shell("chmod u+w 'model/" + m_unit + "'");
+    m_sandbox.write("model/" + m_unit, mine);
+    m_sandbox.shell("chmod a-w 'model/" + m_unit + "'");
+    if (operation == std::string("sync")) {
+      cm({"sync", "--take", m_unit});
+    } else {
+      cm({operation, m_unit});
+    }
+    const bool isHere = m_sandbox.read("model/" + m_unit) == mine;
+    EXPECT_TRUE(isHere || cm({"kept", "show", m_unit}).out == mine) << operation;
+    EXPECT_EQ(cm({"undo", m_unit}).code, 0) << operation;
+    m_sandbox.shell("rm -rf model/.veldra/kept");
+  }
+}
+
 TEST_P(KeptTest, NothingIsKeptWhereNothingChanges) {
   ASSERT_EQ(cm({"fetch", m_unit, m_other}).code, 0);
   ASSERT_EQ(cm({"checkout", m_unit}).code, 0);

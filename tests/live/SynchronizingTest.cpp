@@ -29,6 +29,8 @@ class SynchronizingTest : public testing::TestWithParam<const char*> {
     m_job.tool().makeArchive();
     m_job.makeProject(m_job.tool().archive());
     ASSERT_FALSE(HasFailure());
+    // A file in which no tool writes a version.
+    m_job.sandbox().write("model/Flow.puml", "@startuml\nA -> B\n@enduml\n");
     m_job.cm({"add", "--all", "-m", "all", "-l", "Yesterday"});
     m_job.become("bob", "second");
     m_job.tool().makeWorkingCopy("model", "second");

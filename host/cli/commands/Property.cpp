@@ -89,7 +89,7 @@ class PropertyCommand {
 
   std::string tool() {
     const host::Property* const tool = layers().find({IPN::CM, IPN::General, IPN::CMTool});
-    return tool != nullptr ? tool->value() : std::string();
+    return tool != nullptr && tool->value() != "None" ? tool->value() : std::string();
   }
 
   /// The tool itself, and what no tool knows, is common to all.

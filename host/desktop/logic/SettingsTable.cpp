@@ -34,7 +34,7 @@ void overlayUnit(UnitCore& unit, std::vector<SettingRow>& rows) {
 
 std::string SettingsTable::tool() const {
   const Property* tool = m_layers.find({IPN::CM, IPN::General, IPN::CMTool});
-  return tool ? tool->value() : std::string();
+  return tool && tool->value() != "None" ? tool->value() : std::string();
 }
 
 std::vector<SettingRow> SettingsTable::rows(const SettingsFilter& filter) const {

@@ -14,9 +14,10 @@ bool isStub(const IUnit& unit) {
 
 }  // namespace
 
-ItemComparison::ItemComparison()
+ItemComparison::ItemComparison(const UnitList& units)
     : m_usesProvider(CMProperty::useSccCompliantTool() != 0),
-      m_branchViewMode(!m_usesProvider && BackEndMode::current().isBranchTool) {}
+      m_branchViewMode(!m_usesProvider && BackEndMode::current().isBranchTool),
+      m_versions(units) {}
 
 SyncStatus ItemComparison::getItemSyncStatus(const CMArchiveItem* item, const IUnit* unit) const {
   if (unit == nullptr) return SyncStatus::NewInArchive;

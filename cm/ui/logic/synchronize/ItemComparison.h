@@ -23,7 +23,8 @@ enum class SyncStatus : int {
 /// made.
 class VELDRA_CM_EXPORT ItemComparison {
  public:
-  ItemComparison();
+  /// `units`: those that are going to be compared.
+  explicit ItemComparison(const UnitList& units);
 
   SyncStatus getItemSyncStatus(const CMArchiveItem* item, const IUnit* unit) const;
   /// Whether the unit's mode and the write permission of the file say the same.

@@ -47,7 +47,7 @@ bool SyncListing::list(const std::string& label, DiagnosticList& diagnostics) {
   const bool usesProvider = CMProperty::getUseSCCtool() != 0;
   if (usesProvider) createDummyArchiveItems(units, *items);
   if (!listArchiveInto(*items, label, diagnostics)) return false;
-  auto comparison = std::make_unique<ItemComparison>();
+  auto comparison = std::make_unique<ItemComparison>(units);
   if (!comparison->knowsVersions()) return false;
   m_rows.clear();
   m_archive = std::move(items);

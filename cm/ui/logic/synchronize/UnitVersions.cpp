@@ -1,5 +1,7 @@
 #include "cm/ui/logic/synchronize/UnitVersions.h"
 
+#include <algorithm>
+
 #include "cm/core/CMArchiveItem.h"
 #include "cm/core/CMArchiveItemList.h"
 #include "cm/core/FacadeEntry.h"
@@ -19,10 +21,13 @@ bool hasValue(const char* name) {
 
 }  // namespace
 
-UnitVersions::UnitVersions() {
-  m_isListed = CMProperty::getUseSCCtool() == 0 && !hasValue(IPN::CMHeaderItsVersion) &&
-               hasValue(IPN::WorkspaceVersions);
-  if (!m_isListed) return;
+UnitVersions::UnitVersions(const UnitList& units)
+    : m_readsHeaders(CMProperty::getUseSCCtool() != 0 || hasValue(IPN::CMHeaderItsVersion)) {
+  const bool isListed = CMProperty::getUseSCCtool() == 0 && hasValue(IPN::WorkspaceVersions) &&
+                        std::ranges::any_of(units, [this](const IUnit* unit) {
+                          return unit != nullptr && ofHeader(*unit).empty();
+                        });
+  if (!isListed) return;
   CMArchiveItemListWrapper items;
   ArgumentList arguments;
   const ListingOutcome outcome;
@@ -35,8 +40,12 @@ UnitVersions::UnitVersions() {
   }
 }
 
+std::string UnitVersions::ofHeader(const IUnit& unit) const {
+  return m_readsHeaders ? m_headers.getVersion(&unit) : std::string();
+}
+
 std::string UnitVersions::of(const IUnit& unit) const {
-  if (!m_isListed) return m_headers.getVersion(&unit);
+  if (std::string version = ofHeader(unit); !version.empty()) return version;
   const auto found = m_listed.find(unit.getFullFileName());
   return found != m_listed.end() ? found->second : std::string();
 }

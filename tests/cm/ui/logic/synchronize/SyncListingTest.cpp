@@ -130,7 +130,7 @@ TEST_F(SyncListingTest, ExcludedStubsHaveNothingToCompare) {
   MemoryUnit& stub = addUnit("Stub.vcl", "1");
   stub.record.flags |= UnitFlag::Stub;
   stub.record.fileTime = 7;
-  ItemComparison comparison;
+  ItemComparison comparison({&stub});
   EXPECT_EQ(comparison.getItemSyncStatus(nullptr, &stub), SyncStatus::ArchiveAhead);
   comparison.setStubExclusion(true);
   EXPECT_EQ(comparison.getItemSyncStatus(nullptr, &stub), SyncStatus::NothingToCompare);
@@ -156,6 +156,16 @@ TEST_F(SyncListingTest, AToolWithoutVersionsInItsFilesListsThemItself) {
   EXPECT_EQ(rows(), (Lines{"Behind 2"}));
   m_host.scriptedProcesses.answer("here", {.output = "", .code = 1});
   EXPECT_FALSE(list());
+}
+
+TEST_F(SyncListingTest, AUnitWithoutAHeaderHasTheVersionThatTheToolLists) {
+  set(IPN::WorkspaceVersions, "here");
+  addUnit("Behind.vcl", "1");
+  m_model.addUnit("Same.puml");
+  archiveHolds("Behind.vcl|2|ro|\nSame.puml|7|ro|");
+  m_host.scriptedProcesses.answer("here", {.output = "Behind.vcl|2|ro|\nSame.puml|7|ro|"});
+  EXPECT_TRUE(list());
+  EXPECT_EQ(rows(), (Lines{"Behind 2"})) << "what a file says of itself comes first";
 }
 
 TEST_F(SyncListingTest, TheLabelReachesTheListing) {
