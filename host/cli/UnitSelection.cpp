@@ -71,8 +71,8 @@ std::string reasonAgainst(const std::vector<UnitCore*>& found, bool isPackage) {
            "of them.";
   }
   if (found.empty()) {
-    return "There is no such unit. \"veldra-cm status\" lists the units of the project; \"veldra-cm "
-           "sync --take\" brings what only the archive has.";
+    return "There is no such unit. \"veldra-cm status\" lists the units of the project; "
+           "\"veldra-cm sync --take\" brings what only the archive has.";
   }
   std::string reason = "The name means several units; give a path:";
   for (const UnitCore* unit : found) reason += "\n" + unit->relativeFileName();

@@ -28,7 +28,8 @@ fetch_label() {
   if [ -n "$(hg status -mau -- "$file" 2>/dev/null)" ] && ! is_fetched "$file"; then
     fail "'$file' has local changes; check it in, or undo them first."
   fi
-  replace "$file" hg cat -r "$commit" -- "$file" || fail "'$file' is not in '$wanted': it was added, moved or renamed later."
+  replace "$file" hg cat -r "$commit" -- "$file" ||
+    fail "'$file' is not in '$wanted': it was added, moved or renamed later."
   sum_of "$file" >>"$(remembered)"
 }
 

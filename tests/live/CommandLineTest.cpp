@@ -50,7 +50,7 @@ TEST_F(CommandLineTest, ExitCodesAndTheWayOut) {
       {{"-p", "model", "status", "Milk/Milk.vpkg", "Nope"}, 1, "Nope"},
       {{"-p", "model", "pack", "check", "none.toml"}, 2, "none.toml"},
       {{"-p", "model", "ls"}, 3, "No CM tool is selected"},
-      {{"-p", "model", "checkout", "--all"}, 3, "No CM tool is selected"},
+      {{"-p", "model", "add", "--all"}, 3, "No CM tool is selected"},
       {{"-p", "model", "connect"}, 3, "--archive"},
   };
   for (const Row& row : rows) {
