@@ -1,6 +1,7 @@
 # checkout.sh -l[REVISION]|-r[REVISION] ARCHIVEFILE DIRECTORY/ [--to=FILE]: brings a file from the archive,
 # with (-l) or without a lock; or to another place, leaving the one here alone. A writable file is never
-# overwritten, and with -l no content that the archive does not have; one that is checked out already is fine, as nobody else can have made a newer revision.
+# overwritten, and with -l no content that the archive does not have; one that is checked out already is
+# fine, as nobody else can have made a newer revision.
 . "${0%/*}/common.sh"
 
 name_files "$2" "$3"

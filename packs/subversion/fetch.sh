@@ -4,6 +4,15 @@
 . "${0%/*}/common.sh"
 . "${0%/*}/labels.sh"
 
+# lacking REVISION: the first of $targets that the archive does not have there. svn would take it away.
+lacking() {
+  sed "s/\$/$1/" "$targets" | tr '\n' '\000' >"$work/then"
+  xargs -0 sh "${0%/*}/svn.sh" info --revision "$1" -- <"$work/then" >/dev/null 2>&1 && return
+  tr '\000' '\n' <"$work/then" | while IFS= read -r target; do
+    svn info --revision "$1" -- "$target" >/dev/null 2>&1 || { printf '%s\n' "${target%@*}"; break; }
+  done
+}
+
 read_fetch "$@"
 revision=${wanted:-HEAD}
 
@@ -13,14 +22,6 @@ if [ -n "$to" ]; then
   svn cat --revision "$number" -- "$units@" >"$to"
   exit
 fi
-# lacking REVISION: the first of $targets that the archive does not have there. svn would take it away.
-lacking() {
-  sed "s/\$/$1/" "$targets" | tr '\n' '\000' >"$work/then"
-  xargs -0 sh "${0%/*}/svn.sh" info --revision "$1" -- <"$work/then" >/dev/null 2>&1 && return
-  tr '\000' '\n' <"$work/then" | while IFS= read -r target; do
-    svn info --revision "$1" -- "$target" >/dev/null 2>&1 || { printf '%s\n' "${target%@*}"; break; }
-  done
-}
 
 name_targets "$units"
 case $number in
