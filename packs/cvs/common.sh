@@ -109,6 +109,15 @@ in_archive() {
   done
 }
 
+# refuse_older UNITS: fails, naming one, unless this folder has the newest state. cvs would remove a file
+# from a label only, or add an old state anew.
+refuse_older() {
+  relative "$1" | while IFS= read -r file; do
+    ! entries "$(dirname -- "$file")" | grep -F "/${file##*/}/" | tail -n 1 | grep -q '/[TD][^/]\{1,\}$' ||
+      fail "'$file' has the state of a label here; fetch the newest one first."
+  done
+}
+
 # is_out: of the paths on the input, a line a path, those of writable files.
 is_out() {
   tr '\n' '\000' | writable | tr '\000' '\n' | sed 's|^\./||'

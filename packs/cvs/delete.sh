@@ -17,6 +17,7 @@ if [ -d "$units" ]; then
     grep -v -x -F -f "$work/files")"
 fi
 in_archive "$units"
+refuse_older "$units"
 changed=$(state_of "$units" | sed -n '1s/^..//p')
 [ -z "$changed" ] || fail "'$changed' has local changes, or newer ones in the archive; \
 check it in, undo them, or fetch first."

@@ -65,6 +65,7 @@ else
 fi
 sed "s|^|$PWD/|" "$work/old" >"$work/units"
 in_archive "@$work/units"
+refuse_older "@$work/units"
 other=$(state_of "@$work/units" | grep -v -x -F -e "M $old_file" | sed -n '1s/^..//p')
 [ -z "$other" ] || fail "'$other' has local changes, or newer ones in the archive; \
 check it in, undo them, or fetch first."

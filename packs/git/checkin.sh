@@ -9,6 +9,8 @@ shift
 read_options "$@"
 begin_commit "$units"
 in_archive "$units"
+# Who has looked at an older state does not mean to bring that back.
+restore "$units"
 refuse_locked "$units"
 about "$units" git diff --relative --name-only -z HEAD | tr '\000' '\n' | tell_unchanged "$units"
 if has_content_of "$units" HEAD; then

@@ -6,6 +6,7 @@
 
 mode=$1 units=$2 wanted=${3:-}
 [ -z "$wanted" ] || fail "Only the newest state can be checked out; fetch '$wanted' instead."
+newer_there="The archive has a newer state of the file; fetch it first."
 open_repository
 # Work goes on without the archive; the check-in will need it.
 receive || {
@@ -15,11 +16,15 @@ receive || {
 # In a file that is missing there is nothing to merge.
 [ "$mode" = --lock ] || bring_missing "$units"
 if is_behind && ! has_content_of "$units" "$tip"; then
-  [ "$mode" != --lock ] || fail "The archive has a newer state of the file; fetch it first."
+  [ "$mode" != --lock ] || fail "$newer_there"
   bring_newest
 fi
 in_archive "$units"
-[ "$mode" = --lock ] || restore "$units"
+if [ "$mode" = --lock ]; then
+  [ -z "$(older "$units")" ] || fail "$newer_there"
+else
+  restore "$units"
+fi
 [ "$mode" != --read-only ] || exit 0
 take_locks "$units"
 about "$units" chmod u+w

@@ -50,6 +50,8 @@ read_move "$@"
 read_options "${5:-}"
 begin_commit "$1"
 in_archive "$old_place"
+# What has the state of a label goes with its newest one.
+restore "$old_place"
 check_move
 refuse_locked "$old_place"
 move_there || give_up

@@ -136,15 +136,18 @@ bring_missing() {
     xargs -0 -r sh -c 'git checkout-index -q -- "$@" && chmod a-w -- "$@"' sh
 }
 
-# restore UNITS: brings back files that are missing, and read-only ones with an older content of the
-# archive; a read-only file with any other content is somebody's work.
+# older UNITS: a line a read-only file with an older content of the archive; with any other content it is
+# somebody's work.
+older() {
+  about "$1" git diff --relative --name-only -z HEAD | tr '\000' '\n' | while IFS= read -r file; do
+    [ -n "$(printf '%s\000' "$file" | writable)" ] || ! is_archived "./$file" || printf '%s\n' "$file"
+  done
+}
+
+# restore UNITS: brings back files that are missing, and the newest state of those with an older one.
 restore() {
   bring_missing "$1" || return
-  about "$1" git diff --relative --name-only -z HEAD | tr '\000' '\n' | while IFS= read -r file; do
-    if [ -z "$(printf '%s\000' "$file" | writable)" ] && is_archived "./$file"; then
-      git checkout -q HEAD -- "./$file" || return
-    fi
-  done
+  older "$1" | while IFS= read -r file; do git checkout -q HEAD -- "./$file" || return; done
 }
 
 # is_archived FILE: whether its content is known to the repository.

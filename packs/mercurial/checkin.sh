@@ -6,6 +6,8 @@ units=$1
 shift
 read_options "$@"
 begin_commit "$units"
+# Who has looked at an older state does not mean to bring that back.
+restore_older "$units"
 in_archive "$units"
 printf '%s\n' "$states" | sed -n 's/^[MR!] //p' | tell_unchanged "$units"
 if is_changed; then

@@ -16,6 +16,8 @@ changed_below() {
 read_move "$@"
 read_options "${5:-}"
 begin_commit "$1"
+# What has the state of a label goes with its newest one.
+restore_older "$old_place"
 [ -d "$old_place" ] || in_archive "$old_place"
 check_move
 move_there || give_up

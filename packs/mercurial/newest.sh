@@ -113,13 +113,25 @@ is_fetched() {
   sum_of "$1" | grep -q -x -F -f - "$(remembered)" 2>/dev/null
 }
 
-# restore UNITS: brings back files that are missing, and read-only ones with the content of a label.
-restore() {
-  bring_missing
+# older UNITS: a line a read-only file with the content of a label.
+older() {
+  [ -s "$(remembered)" ] || return 0
   on "$1" status -mn 2>/dev/null | while IFS= read -r file; do
     file=$(pwd -P)/$file
-    if [ -z "$(printf '%s\000' "$(relative "$file")" | writable)" ] && is_fetched "$file"; then
-      hg revert -q --no-backup -- "$file" && chmod a-w -- "$file" || return
-    fi
+    [ -n "$(printf '%s\000' "$(relative "$file")" | writable)" ] || ! is_fetched "$file" ||
+      printf '%s\n' "$file"
   done
+}
+
+# restore_older UNITS: brings the newest state of those.
+restore_older() {
+  older "$1" | while IFS= read -r file; do
+    hg revert -q --no-backup -- "$file" && chmod a-w -- "$file" || return
+  done
+}
+
+# restore UNITS: the same, and brings back files that are missing.
+restore() {
+  bring_missing
+  restore_older "$1"
 }

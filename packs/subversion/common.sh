@@ -156,7 +156,7 @@ on_targets() {
 update() {
   run on_targets update --parents --revision "$1" || give_up
   case $answer in
-    *"${newline}Summary of conflicts:"*)
+    *' conflicts: '[1-9]*)
       answer="subversion: Changes here and in the archive do not fit together.$newline$answer"
       give_up
       ;;

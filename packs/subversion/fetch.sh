@@ -4,13 +4,20 @@
 . "${0%/*}/common.sh"
 . "${0%/*}/labels.sh"
 
+# lacks REVISION TARGETS: whether the archive does not have one of them there; other failures do not count.
+lacks() {
+  tr '\n' '\000' <"$2" | xargs -0 sh "${0%/*}/svn.sh" info --revision "$1" -- 2>&1 >/dev/null |
+    grep -q ' non-existent in revision '
+}
+
 # lacking REVISION: the first of $targets that the archive does not have there. svn would take it away.
 lacking() {
-  sed "s/\$/$1/" "$targets" | tr '\n' '\000' >"$work/then"
-  xargs -0 sh "${0%/*}/svn.sh" info --revision "$1" -- <"$work/then" >/dev/null 2>&1 && return
-  tr '\000' '\n' <"$work/then" | while IFS= read -r target; do
-    svn info --revision "$1" -- "$target" >/dev/null 2>&1 || { printf '%s\n' "${target%@*}"; break; }
-  done
+  sed "s/\$/$1/" "$targets" >"$work/then"
+  lacks "$1" "$work/then" || return 0
+  while IFS= read -r target; do
+    printf '%s\n' "$target" >"$work/one"
+    ! lacks "$1" "$work/one" || { printf '%s\n' "${target%@*}"; return; }
+  done <"$work/then"
 }
 
 read_fetch "$@"

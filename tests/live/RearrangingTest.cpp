@@ -97,6 +97,28 @@ TEST_P(RearrangingTest, HistoryFollowsAFileThatIsWrittenAnewAndMovedAtOnce) {
   expectAgreement();
 }
 
+TEST_P(RearrangingTest, AFileWithTheStateOfALabelTakesNoNewerOneBack) {
+  const std::string newest = "@startuml\nA -> B\nB -> C\n@enduml\n";
+  m_sandbox.write("model/Flow.puml", "@startuml\nA -> B\n@enduml\n");
+  inModel(0, {"add", "Flow.puml", "-m", "first", "-l", "Old"});
+  inModel(0, {"checkout", "Flow.puml"});
+  m_sandbox.write("model/Flow.puml", newest);
+  inModel(0, {"checkin", "Flow.puml", "-m", "second"});
+  for (const std::vector<std::string>& command :
+       {std::vector<std::string>{"checkin", "Flow.puml", "-m", "x"},
+        {"lock", "Flow.puml"},
+        {"checkin", "Flow.puml", "-m", "x"},
+        {"move", "Flow.puml", "Milk", "-m", "x"}}) {
+    m_sandbox.cm({"-p", "model", "fetch", "Flow.puml", "-l", "Old"});
+    std::vector<std::string> arguments{"-p", "model"};
+    arguments.insert(arguments.end(), command.begin(), command.end());
+    const bool isDone = m_sandbox.cm(arguments).code == 0;
+    const bool isMoved = isDone && command.front() == "move";
+    EXPECT_EQ(m_tool->newestText(isMoved ? "Milk/Flow.puml" : "Flow.puml"), newest)
+        << testing::PrintToString(command);
+  }
+}
+
 TEST_P(RearrangingTest, WhatIsLostWithAMoveIsTold) {
   EXPECT_EQ(inModel(0, {"move", "Brewing::Grinder", "Milk"}).out.find("history stays") !=
                 std::string::npos,
