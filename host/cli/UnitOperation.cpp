@@ -18,6 +18,7 @@
 #include "host/cli/UnitDescription.h"
 #include "host/cli/UnitOutcome.h"
 #include "host/cli/printing/BytesAsText.h"
+#include "host/cli/printing/FailureListing.h"
 #include "host/cli/printing/Listing.h"
 #include "host/cli/printing/Report.h"
 #include "host/model/Reloading.h"
@@ -275,6 +276,7 @@ void print(const Report& report, const UnitOperation& operation, const Invocatio
     return;
   }
   std::size_t failures = 0;
+  FailureListing listing(console.err);
   for (const UnitRecord& unit : report.units) {
     if (unit.result == UnitResult::Planned) printPlan(unit, operation.action, console.out);
     const bool isFine = unit.result == UnitResult::Planned || unit.result == UnitResult::Done;
@@ -282,7 +284,7 @@ void print(const Report& report, const UnitOperation& operation, const Invocatio
     // One sentence for all of them says enough.
     const bool isTold = unit.message == report.message ||
                         (unit.result == UnitResult::Skipped && unit.message == told);
-    if (!isFine && !isTold) printFailure(unit, console.err);
+    if (!isFine && !isTold) listing.add(unit);
   }
   if (!report.message.empty()) console.err << linesForPeople(report.message) << '\n';
   if (failures > 0 && report.units.size() > 1) {

@@ -5,6 +5,7 @@
 #include "host/cli/UnitOperation.h"
 #include "host/cli/UnitStates.h"
 #include "host/cli/printing/BytesAsText.h"
+#include "host/cli/printing/FailureListing.h"
 #include "host/cli/printing/Listing.h"
 #include "host/cli/printing/Report.h"
 
@@ -15,11 +16,12 @@ namespace {
 void show(const Report& report, const Invocation& invocation) {
   Console& console = invocation.console;
   if (invocation.options.json) return printJson(report, console.out);
+  FailureListing failures(console.err);
   for (const UnitRecord& unit : report.units) {
     if (unit.result == UnitResult::Done) {
       printProperties(unit, console.out);
     } else {
-      printFailure(unit, console.err);
+      failures.add(unit);
     }
   }
   if (!report.message.empty()) console.err << linesForPeople(report.message) << '\n';

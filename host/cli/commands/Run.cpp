@@ -12,6 +12,7 @@
 #include "host/cli/UnitOutcome.h"
 #include "host/cli/UnitSelection.h"
 #include "host/cli/printing/BytesAsText.h"
+#include "host/cli/printing/FailureListing.h"
 #include "host/cli/printing/Listing.h"
 #include "host/cli/printing/Report.h"
 #include "host/platform/Secrets.h"
@@ -91,13 +92,14 @@ class PropertyRun {
 void print(const Report& report, const Invocation& invocation) {
   Console& console = invocation.console;
   if (invocation.options.json) return printJson(report, console.out);
+  FailureListing failures(console.err);
   for (const UnitRecord& unit : report.units) {
     if (unit.result == UnitResult::Planned) {
       printPlan(unit, "run", console.out);
     } else if (unit.result == UnitResult::Done) {
       console.out << unit.message;
     } else {
-      printFailure(unit, console.err);
+      failures.add(unit);
     }
   }
 }

@@ -2,6 +2,7 @@
 #include "host/cli/Session.h"
 #include "host/cli/UnitSelection.h"
 #include "host/cli/UnitStates.h"
+#include "host/cli/printing/FailureListing.h"
 #include "host/cli/printing/Listing.h"
 #include "host/cli/printing/Report.h"
 
@@ -36,7 +37,8 @@ ExitCode runStatus(const Invocation& invocation) {
     if (selection.unknown.empty() || !report.units.empty()) {
       printListing(report.units, console.out);
     }
-    for (const UnitRecord& unit : selection.unknown) printFailure(unit, console.err);
+    FailureListing failures(console.err);
+    for (const UnitRecord& unit : selection.unknown) failures.add(unit);
   }
   report.units.insert(report.units.end(), selection.unknown.begin(), selection.unknown.end());
   if (invocation.options.json) printJson(report, console.out);

@@ -14,6 +14,7 @@
 #include "host/cli/UnitOutcome.h"
 #include "host/cli/UnitSelection.h"
 #include "host/cli/printing/BytesAsText.h"
+#include "host/cli/printing/FailureListing.h"
 #include "host/cli/printing/Listing.h"
 #include "host/cli/printing/Report.h"
 
@@ -195,11 +196,12 @@ Json documentOf(const std::vector<Difference>& all, const Taking* taking) {
 }
 
 void printTaking(const Taking& taking, Console& console) {
+  FailureListing failures(console.err);
   for (const UnitRecord& record : taking.records) {
     if (record.result == UnitResult::Done) {
       console.out << "taken over  " << textForPeople(record.path) << '\n';
     } else {
-      printFailure(record, console.err);
+      failures.add(record);
     }
   }
   if (!taking.message.empty()) console.err << linesForPeople(taking.message) << '\n';

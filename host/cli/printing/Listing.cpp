@@ -93,9 +93,4 @@ void printRemark(const std::string& remark, std::ostream& out) {
   printIndented("", linesForPeople(remark), out);
 }
 
-void printFailure(const UnitRecord& unit, std::ostream& out) {
-  out << resultWord(unit.result) << "  " << textForPeople(unit.path) << '\n';
-  printIndented("", linesForPeople(unit.message), out);
-}
-
 }  // namespace veldra::host::cli

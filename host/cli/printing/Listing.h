@@ -23,7 +23,4 @@ void printPlan(const UnitRecord& unit, const char* action, std::ostream& out);
 /// A remark about the unit that was printed last; nothing when it is empty.
 void printRemark(const std::string& remark, std::ostream& out);
 
-/// A unit that came to nothing, with what there is to say about it.
-void printFailure(const UnitRecord& unit, std::ostream& out);
-
 }  // namespace veldra::host::cli

@@ -3,6 +3,7 @@
 #include <sstream>
 
 #include "host/cli/printing/BytesAsText.h"
+#include "host/cli/printing/FailureListing.h"
 #include "host/cli/printing/Listing.h"
 #include "host/cli/printing/Report.h"
 
@@ -104,6 +105,32 @@ TEST(ListingTest, ColumnsLineUpAndAUnitIsALine) {
             "MODE  VERSION  LOCKER  TYPE  NAME       PATH\n"
             "RO    1                      Long Name  a\\x0ab\n"
             "RW    1.10     alice         N          c\n");
+}
+
+TEST(FailureListingTest, TheSameReasonIsToldOnceInARow) {
+  const auto failed = [](const std::string& path, const std::string& reason) {
+    return UnitRecord{.path = path,
+                      .result = UnitResult::Failed,
+                      .message = "/m/" + path + reason + "\ncommand: add /m/" + path + " /tmp/x" +
+                                 path + "\nadvice:  connect"};
+  };
+  std::ostringstream out;
+  FailureListing listing(out);
+  listing.add(failed("a/b", " is far"));
+  listing.add(failed("a", " is far"));
+  listing.add(failed("c", " is near"));
+  listing.add(failed("a/b", " is far"));
+  listing.add({.path = "d", .result = UnitResult::Cancelled});
+  listing.add({.path = "e", .result = UnitResult::Cancelled});
+  EXPECT_EQ(out.str(),
+            "failed  a/b\n"
+            "    /m/a/b is far\n    command: add /m/a/b /tmp/xa/b\n    advice:  connect\n"
+            "failed  a  (as above)\n"
+            "failed  c\n"
+            "    /m/c is near\n    command: add /m/c /tmp/xc\n    advice:  connect\n"
+            "failed  a/b\n"
+            "    /m/a/b is far\n    command: add /m/a/b /tmp/xa/b\n    advice:  connect\n"
+            "cancelled  d\ncancelled  e\n");
 }
 
 }  // namespace
