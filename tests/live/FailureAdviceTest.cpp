@@ -7,6 +7,7 @@
 #include <map>
 #include <utility>
 
+#include "tests/live/PackTest.h"
 #include "tests/live/Tool.h"
 
 namespace veldra::live {
@@ -14,18 +15,11 @@ namespace {
 
 using testing::HasSubstr;
 
-class FailureAdviceTest : public testing::TestWithParam<const char*> {
+class FailureAdviceTest : public PackTest {
  protected:
   void SetUp() override {
-    if (!isInstalled(makeTool(GetParam(), m_sandbox)->traits().program))
-      GTEST_SKIP() << GetParam() << " is not installed";
-    m_sandbox.become("alice");
-    m_sandbox.copySample("model");
-    ASSERT_EQ(m_sandbox
-                  .cm({"init", "model", "--name", "Machine", "--tool", GetParam(), "--archive",
-                       "archive"})
-                  .code,
-              0);
+    PackTest::SetUp();
+    if (!isReady()) return;
     ASSERT_EQ(cm({"add", m_unit, m_other, "Machine.vdy"}).code, 0);
   }
 
@@ -47,7 +41,6 @@ class FailureAdviceTest : public testing::TestWithParam<const char*> {
   const std::string m_unit = "Brewing/Grinder.vcmp";
   const std::string m_other = "Milk/Milk.vpkg";
   std::string m_project = "model";
-  Sandbox m_sandbox;
   std::unique_ptr<Tool> m_tool = makeTool(GetParam(), m_sandbox);
 };
 

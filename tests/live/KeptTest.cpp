@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <nlohmann/json.hpp>
 
+#include "tests/live/PackTest.h"
 #include "tests/live/Tool.h"
 
 namespace veldra::live {
@@ -13,20 +14,17 @@ namespace {
 
 using testing::HasSubstr;
 
-class KeptTest : public testing::TestWithParam<const char*> {
+class KeptTest : public PackTest {
  protected:
   void SetUp() override {
-    if (!isInstalled(makeTool(GetParam(), m_sandbox)->traits().program))
-      GTEST_SKIP() << GetParam() << " is not installed";
-    m_sandbox.become("alice");
-    m_sandbox.copySample("model");
-    cm({"init", "model", "--name", "Machine", "--tool", GetParam(), "--archive", "archive"});
+    PackTest::SetUp();
+    if (!isReady()) return;
     ASSERT_EQ(cm({"add", m_unit, m_other, "-m", "first"}).code, 0);
     m_archived = m_sandbox.read("model/" + m_unit);
   }
 
   Ended cm(std::vector<std::string> arguments, const std::string& input = {}) {
-    if (arguments.front() != "init") arguments.insert(arguments.begin(), {"-p", "model"});
+    arguments.insert(arguments.begin(), {"-p", "model"});
     return m_sandbox.cm(arguments, input);
   }
   nlohmann::json copies() {
@@ -36,7 +34,6 @@ class KeptTest : public testing::TestWithParam<const char*> {
   const std::string m_unit = "Brewing/Grinder.vcmp";
   const std::string m_other = "Milk/Milk.vpkg";
   std::string m_archived;
-  Sandbox m_sandbox;
 };
 
 TEST_P(KeptTest, GivenUpChangesComeBack) {

@@ -6,6 +6,7 @@
 
 #include <filesystem>
 
+#include "tests/live/PackTest.h"
 #include "tests/live/Tool.h"
 
 namespace veldra::live {
@@ -13,14 +14,11 @@ namespace {
 
 using testing::HasSubstr;
 
-class RearrangingTest : public testing::TestWithParam<const char*> {
+class RearrangingTest : public PackTest {
  protected:
   void SetUp() override {
-    if (!isInstalled(makeTool(GetParam(), m_sandbox)->traits().program))
-      GTEST_SKIP() << GetParam() << " is not installed";
-    m_sandbox.become("alice");
-    m_sandbox.copySample("model");
-    cm(0, {"init", "model", "--name", "Machine", "--tool", GetParam(), "--archive", "archive"});
+    PackTest::SetUp();
+    if (!isReady()) return;
     cm(0, {"-p", "model", "add", "--all", "-m", "first"});
   }
 
@@ -58,7 +56,6 @@ class RearrangingTest : public testing::TestWithParam<const char*> {
     EXPECT_EQ(history.find("first") != std::string::npos, m_tool->traits().noTrail == nullptr);
   }
 
-  Sandbox m_sandbox;
   std::unique_ptr<Tool> m_tool = makeTool(GetParam(), m_sandbox);
 };
 
