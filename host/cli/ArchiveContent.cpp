@@ -37,6 +37,8 @@ std::string reasonByPatterns(Session& session) {
       return std::string("The tool's listing cannot be read: its property ") + name +
              " holds no valid pattern. Correct it with \"veldra-cm property set\".";
     }
+    // The words for it lie in a catalogue that is read when they are needed.
+    if (!session.door().hasShownAnything()) continue;
     std::string givenUp = formatMessage(MessageId::PatternGivenUp, {pattern, {}});
     if (session.door().hasShown(givenUp)) return givenUp;
   }

@@ -128,7 +128,9 @@ ParsedArguments parseArguments(const std::vector<std::string>& arguments, Consol
     // Options of the program may also follow the command.
     sub->fallthrough();
     sub->allow_windows_style_options(false);
-    addOptions(*sub, command.options, parsed.options);
+    // Making the options of all commands would take a tenth of a start.
+    const bool isMeant = std::ranges::find(arguments, command.name) != arguments.end();
+    if (isMeant) addOptions(*sub, command.options, parsed.options);
     sub->callback([&parsed, &command] { parsed.command = &command; });
   }
   try {

@@ -27,6 +27,7 @@ class TerminalDoor : public UserDoor {
   /// Told when the user answers that it is enough.
   void setQuitListener(std::function<void()> listener) { m_quit = std::move(listener); }
   bool hasShown(const std::string& text) const { return m_shown.contains(text); }
+  bool hasShownAnything() const { return !m_shown.empty(); }
   /// The text that was shown last; empty when there was none.
   const std::string& lastText() const { return m_last; }
 

@@ -1,8 +1,9 @@
 #include "host/cli/printing/Report.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <string_view>
 
 #include "host/cli/printing/BytesAsText.h"
@@ -29,17 +30,41 @@ Json jsonOf(const UnitPlan& plan) {
   return json;
 }
 
-/// Which bytes stand in a document as they are.
-constexpr auto PlainBytes = [] {
-  std::array<bool, 256> plain{};
-  for (unsigned char c = ' '; c <= '~'; ++c) plain[c] = c != '"' && c != '\\';
-  return plain;
-}();
+using Word = std::uint64_t;
+
+/// A word with this in each of its bytes.
+constexpr Word everyByte(unsigned char byte) {
+  return ~Word{0} / 0xFF * byte;
+}
+
+/// Sets the highest bit of some byte when one of them is below `bound`, which is at most 0x80.
+constexpr Word hasBelow(Word word, unsigned char bound) {
+  return (word - everyByte(bound)) & ~word;
+}
+
+/// Whether all bytes of a word stand in a document as they are: from the blank to the tilde, but
+/// neither quote nor backslash.
+constexpr bool isPlain(Word word) {
+  const Word odd = word | hasBelow(word, ' ') | hasBelow(word ^ everyByte('"'), 1) |
+                   hasBelow(word ^ everyByte('\\'), 1) | hasBelow(word ^ everyByte('\x7F'), 1);
+  return (odd & everyByte(0x80)) == 0;
+}
+
+/// A word at a time: names and paths are most of what is printed.
+bool isPlain(std::string_view bytes) {
+  Word word = 0;
+  for (; bytes.size() >= sizeof word; bytes.remove_prefix(sizeof word)) {
+    std::memcpy(&word, bytes.data(), sizeof word);
+    if (!isPlain(word)) return false;
+  }
+  word = everyByte(' ');
+  std::memcpy(&word, bytes.data(), bytes.size());
+  return isPlain(word);
+}
 
 /// What `jsonText` makes of the bytes, written out, without the quotes around it.
 void appendInside(std::string_view bytes, std::string& text) {
-  const auto isPlain = [](char c) { return PlainBytes[static_cast<unsigned char>(c)]; };
-  if (std::ranges::all_of(bytes, isPlain)) {
+  if (isPlain(bytes)) {
     text += bytes;
   } else {
     const std::string quoted = jsonText(std::string(bytes)).dump();
