@@ -17,8 +17,8 @@ double listingAgainst(const std::string& tool, const std::string& setUp, const s
   runQuietly(in + setUp);
   runQuietly(ours + "property set CMTool " + tool);
   runQuietly(ours + "connect --archive '" + (folder.path() / "archive").string() + "'");
-  // Throwing the listing of the round before away, which is large, is no part of either. The two are
-  // so near to each other that a few rounds would measure the machine.
+  // Throwing the listing of the round before away, which is large, is no part of either. The two
+  // are so near to each other that a few rounds would measure the machine.
   return ratioOf(
       25, [&] { runQuietly(in + "rm -f ours theirs"); },
       [&] { runQuietly(ours + "ls --json >ours"); }, [&] { runQuietly(in + own + " >theirs"); });
