@@ -1,6 +1,7 @@
 #include "host/cli/Connection.h"
 
 #include <filesystem>
+#include <functional>
 #include <system_error>
 
 #include "cm/core/CMArchive.h"
@@ -34,9 +35,13 @@ std::string archivePlace(const std::string& where) {
   return place;
 }
 
-std::optional<std::string> createArchive(const std::string& place) {
+bool isToBeMade(const std::string& place) {
   std::error_code unknown;
-  if (!isLocalPlace(place) || std::filesystem::exists(place, unknown)) return std::nullopt;
+  return isLocalPlace(place) && !std::filesystem::exists(place, unknown);
+}
+
+std::optional<std::string> createArchive(const std::string& place) {
+  if (!isToBeMade(place)) return std::nullopt;
   CallArguments arguments;
   arguments.add<CMArchive>(place);
   std::string command;
@@ -56,41 +61,74 @@ std::optional<std::string> createArchive(const std::string& place) {
 
 namespace {
 
-/// Another archive of the project, taken back unless the connection comes about.
-class ArchiveChange {
+const PropertyKey ToolKey{IPN::CM, IPN::General, IPN::CMTool};
+
+/// What the project file says from now on, taken back unless the connection comes about.
+class ProjectChange {
  public:
-  ArchiveChange(Session& session, const std::string& place)
-      : m_session(session), m_former(CMArchive::getMainArchive()) {
-    m_isChange = place != m_former;
-    if (!m_isChange) return;
-    if (session.project().isReadOnly() && !session.options().dryRun) {
-      m_isChange = false;
-      m_refusal = session.project().getFullFileName() +
-                  " is read-only and cannot keep the name of another archive. Check it out first.";
-    } else if (CMArchive::setMainArchive(place) == 0) {
-      m_isChange = false;
-      m_refusal =
-          "The project's tool knows no archive. Choose a tool with \"veldra-cm property set "
-          "CMTool NAME\".";
-    }
-  }
-  ArchiveChange(const ArchiveChange&) = delete;
-  ArchiveChange& operator=(const ArchiveChange&) = delete;
-  ~ArchiveChange() {
-    if (!m_isChange) return;
-    CMArchive::setMainArchive(m_former);
+  explicit ProjectChange(Session& session) : m_session(session) {}
+  ProjectChange(const ProjectChange&) = delete;
+  ProjectChange& operator=(const ProjectChange&) = delete;
+  ~ProjectChange() {
+    if (!m_takeBack) return;
+    m_takeBack();
     m_session.save(false);
   }
 
-  const std::optional<std::string>& refusal() const { return m_refusal; }
-  void keep() { m_isChange = false; }
+  /// Nothing, or why the project cannot keep the name of another one of these.
+  std::optional<std::string> objection(const std::string& what) const {
+    const Project& project = m_session.project();
+    if (!project.isReadOnly() || m_session.options().dryRun) return std::nullopt;
+    return project.getFullFileName() + " is read-only and cannot keep the name of another " + what +
+           ". Check it out first.";
+  }
+  void noteChange(std::function<void()> takeBack) { m_takeBack = std::move(takeBack); }
+  void keep() { m_takeBack = nullptr; }
 
  private:
   Session& m_session;
-  std::string m_former;
-  bool m_isChange = false;
-  std::optional<std::string> m_refusal;
+  std::function<void()> m_takeBack;
 };
+
+/// Nothing on success; otherwise why not.
+std::optional<std::string> changeArchive(PropertyLayers& layers, const std::string& place,
+                                         ProjectChange& change) {
+  const std::string former = CMArchive::getMainArchive();
+  if (place == former) return std::nullopt;
+  if (auto objection = change.objection("archive")) return objection;
+  if (CMArchive::setMainArchive(place) == 0) {
+    return "The project's tool knows no archive. Choose a tool with --tool.";
+  }
+  change.noteChange([&layers, former] {
+    // No archive is what is inherited, and not a value of the project's own.
+    if (!former.empty()) {
+      CMArchive::setMainArchive(former);
+      return;
+    }
+    const Property* const tool = layers.find(ToolKey);
+    if (tool != nullptr) layers.resetInProject({IPN::CM, tool->value(), IPN::CMArchive});
+  });
+  return std::nullopt;
+}
+
+/// Nothing on success; otherwise why not.
+std::optional<std::string> changeTool(PropertyLayers& layers, const std::string& tool,
+                                      ProjectChange& change) {
+  const Property* const used = layers.find(ToolKey);
+  if (used != nullptr && used->value() == tool) return std::nullopt;
+  if (auto objection = change.objection("tool")) return objection;
+  std::optional<std::string> former;
+  if (const Property* const own = layers.findIn(Origin::Project, ToolKey)) former = own->value();
+  layers.setInProject(ToolKey, tool);
+  change.noteChange([&layers, former] {
+    if (former) {
+      layers.setInProject(ToolKey, *former);
+    } else {
+      layers.resetInProject(ToolKey);
+    }
+  });
+  return std::nullopt;
+}
 
 /// Empty on success; otherwise why the archive cannot be reached.
 std::optional<std::string> connect(Session& session) {
@@ -118,9 +156,25 @@ std::optional<std::string> connectToArchive(Session& session,
                                             const std::optional<std::string>& place) {
   if (CMProperty::useSccCompliantTool() != 0) return connectToProvider(session, place);
   if (!place) return connect(session);
-  ArchiveChange change(session, *place);
-  if (change.refusal()) return change.refusal();
-  std::optional<std::string> failure = connect(session);
+  ProjectChange change(session);
+  std::optional<std::string> failure = changeArchive(session.host().properties(), *place, change);
+  if (!failure) failure = connect(session);
+  if (!failure) change.keep();
+  return failure;
+}
+
+std::optional<std::string> connectProject(Session& session, const ConnectionRequest& request) {
+  if (!request.tool) return connectToArchive(session, request.place);
+  if (CMProperty::useSccCompliantTool() != 0) {
+    return "The project works with a source control provider. \"veldra-cm property set UseSCCtool "
+           "No\" ends that.";
+  }
+  ProjectChange change(session);
+  std::optional<std::string> failure =
+      changeTool(session.host().properties(), *request.tool, change);
+  if (!failure && request.place && !session.options().dryRun)
+    failure = createArchive(*request.place);
+  if (!failure) failure = connectToArchive(session, request.place);
   if (!failure) change.keep();
   return failure;
 }

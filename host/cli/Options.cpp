@@ -35,7 +35,8 @@ std::span<const OptionRow> optionTable() {
       {NewProject, "directory", "DIR", "The folder of the new project", &Options::directory, true},
       {NewProject, "--name", "NAME", "The project's name; otherwise that of the folder",
        &Options::name},
-      {NewProject, "--tool", "TOOL", "The tool pack that the project works with", &Options::tool},
+      {NewProject | Archive, "--tool", "TOOL", "The tool pack that the project works with",
+       &Options::tool},
       {NewProject | Archive, "--archive", "WHERE", "The archive: an address or a local path",
        &Options::archive},
 

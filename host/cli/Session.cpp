@@ -10,7 +10,7 @@
 #include "cm/host/MessageIds.h"
 #include "cm/templates/CMProperty.h"
 #include "host/cli/printing/BytesAsText.h"
-#include "host/model/FileTypes.h"
+#include "host/model/ProjectLoader.h"
 
 namespace veldra::host::cli {
 
@@ -47,16 +47,6 @@ bool lacksTool(const PropertyLayers& properties) {
   return tool == nullptr || tool->value().empty() || tool->value() == "None";
 }
 
-bool holdsProject(const fs::path& directory) {
-  std::error_code failed;
-  for (fs::directory_iterator at(directory, failed), end; !failed && at != end;
-       at.increment(failed)) {
-    const std::string name = at->path().filename().string();
-    if (FileTypes::isProjectFile(name) && !name.starts_with('.')) return true;
-  }
-  return false;
-}
-
 }  // namespace
 
 std::string nearestProject(const std::string& directory) {
@@ -64,7 +54,7 @@ std::string nearestProject(const std::string& directory) {
   fs::path at = fs::absolute(directory.empty() ? "." : directory, failed).lexically_normal();
   if (failed) return {};
   for (;; at = at.parent_path()) {
-    if (holdsProject(at)) return at.string();
+    if (!projectFilesIn(at.string()).empty()) return at.string();
     if (at == at.parent_path()) return {};
   }
 }
@@ -131,16 +121,21 @@ Project& Session::openToLook() {
       "with \"veldra-cm init\".");
 }
 
-Project& Session::openProject() {
+Project& Session::openTrusted() {
   Project& opened = openToLook();
   // Before the first command, so that a batch of many units does not fail unit by unit.
   if (!m_options.dryRun && !m_host.trust().isTrusted()) {
     throw CommandError(ExitCode::NothingDone, m_host.trustAdvice());
   }
+  return opened;
+}
+
+Project& Session::openProject() {
+  Project& opened = openTrusted();
   if (lacksTool(m_host.properties())) {
     throw CommandError(ExitCode::NothingDone,
-                       "No CM tool is selected. Choose one with \"veldra-cm property set CMTool "
-                       "NAME\"; \"veldra-cm pack list\" shows those that there are.");
+                       "No CM tool is selected. \"veldra-cm connect --tool NAME --archive WHERE\" "
+                       "chooses one; \"veldra-cm pack list\" shows those that there are.");
   }
   return opened;
 }

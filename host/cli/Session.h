@@ -33,6 +33,8 @@ class Session {
   /// for a command that runs the tool. Ends the command when there is none, when it cannot be
   /// opened, and when it brings commands that the user has not trusted.
   Project& openProject();
+  /// The same for a command that chooses the tool.
+  Project& openTrusted();
   /// The same for a command that runs nothing.
   Project& openToLook();
   /// The same for a folder or file.

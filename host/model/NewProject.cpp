@@ -3,10 +3,10 @@
 #include <filesystem>
 #include <system_error>
 
-#include "host/model/FileTypes.h"
 #include "host/model/ModelText.h"
 #include "host/model/PathNames.h"
 #include "host/model/ProjectFile.h"
+#include "host/model/ProjectLoader.h"
 #include "host/platform/AtomicFile.h"
 #include "host/platform/RealPath.h"
 
@@ -14,16 +14,6 @@ namespace veldra::host {
 namespace fs = std::filesystem;
 
 namespace {
-
-std::optional<std::string> presentProjectFile(const std::string& directory) {
-  std::error_code failed;
-  for (fs::directory_iterator at(directory, failed), end; !failed && at != end;
-       at.increment(failed)) {
-    const std::string name(baseName(at->path().string()));
-    if (FileTypes::isProjectFile(name) && !name.starts_with('.')) return name;
-  }
-  return std::nullopt;
-}
 
 std::string projectText(const NewProject& request, const std::string& name) {
   ModelText text = newModelText("Project", name);
@@ -52,8 +42,8 @@ std::optional<std::string> createProject(const NewProject& request, std::string&
     error = "The folder " + request.directory + " cannot be made: " + failed.message() + ".";
     return std::nullopt;
   }
-  if (const std::optional<std::string> present = presentProjectFile(directory)) {
-    error = directory + " is a project already: \"" + *present + "\". Open that one.";
+  if (const std::vector<std::string> present = projectFilesIn(directory); !present.empty()) {
+    error = directory + " is a project already: \"" + present.front() + "\". Open that one.";
     return std::nullopt;
   }
   const std::string name = request.name.empty() ? std::string(baseName(directory)) : request.name;

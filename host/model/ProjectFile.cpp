@@ -162,6 +162,31 @@ std::optional<ProjectFile> parseProjectFile(std::string_view bytes, Problem& fat
   return file;
 }
 
+namespace {
+
+/// Erases a member, and the objects around it that are empty then.
+void eraseProperty(Json& body, const PropertyKey& key) {
+  Json& subjects = body["properties"];
+  Json& metaclasses = subjects[key.subject];
+  Json& values = metaclasses[key.metaclass];
+  values.erase(key.name);
+  if (values.empty()) metaclasses.erase(key.metaclass);
+  if (metaclasses.empty()) subjects.erase(key.subject);
+  if (subjects.empty()) body.erase("properties");
+}
+
+/// Takes out what has been reset. What is not understood stays.
+void eraseFormer(Json& body, const std::vector<PropertyEntry>& properties) {
+  Problems known;
+  for (const TomlSettings::Entry& former : propertiesOf(body, known)) {
+    const bool isKept = std::ranges::any_of(
+        properties, [&](const PropertyEntry& entry) { return entry.key == former.key; });
+    if (!isKept) eraseProperty(body, former.key);
+  }
+}
+
+}  // namespace
+
 void updateProjectText(ProjectFile& file, const std::vector<PropertyEntry>& properties) {
   Json& body = file.text.body;
   Problems known;
@@ -172,6 +197,7 @@ void updateProjectText(ProjectFile& file, const std::vector<PropertyEntry>& prop
   if (archivesOf(body, known) != file.archives) {
     putUnlessEmpty(body, "archives", archivesJson(file.archives));
   }
+  eraseFormer(body, properties);
   for (const PropertyEntry& entry : properties) {
     Json& metaclass =
         objectAt(objectAt(objectAt(body, "properties"), entry.key.subject), entry.key.metaclass);

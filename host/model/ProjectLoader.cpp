@@ -15,7 +15,7 @@
 namespace veldra::host {
 namespace fs = std::filesystem;
 
-namespace {
+namespace {}  // namespace
 
 std::vector<std::string> projectFilesIn(const std::string& directory) {
   std::vector<std::string> files;
@@ -28,8 +28,6 @@ std::vector<std::string> projectFilesIn(const std::string& directory) {
   std::sort(files.begin(), files.end());
   return files;
 }
-
-}  // namespace
 
 std::string findProjectFile(const std::string& directoryOrFile, std::string& error) {
   const std::string path = realPath(directoryOrFile.empty() ? "." : directoryOrFile);

@@ -2,11 +2,15 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "host/model/Project.h"
 #include "host/model/PropertyLayers.h"
 
 namespace veldra::host {
+
+/// The names of the project files that lie in a directory, sorted.
+std::vector<std::string> projectFilesIn(const std::string& directory);
 
 /// The project file that a directory or file name means, as an absolute name. Empty, with the
 /// reason and the way out in `error`, when there is none or more than one.

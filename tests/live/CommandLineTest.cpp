@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <nlohmann/json.hpp>
 
 #include "tests/live/Sandbox.h"
@@ -10,6 +11,7 @@
 namespace veldra::live {
 namespace {
 
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
 using Words = std::vector<std::string>;
@@ -44,8 +46,9 @@ TEST_F(CommandLineTest, ExitCodesAndTheWayOut) {
       {{"-p", "nowhere", "status"}, 3, "nowhere"},
       {{"status"}, 3, "init"},
       {{"expand", "--property", "CheckIn"}, 3, "init"},
-      {{"-p", "model", "ls"}, 3, "CMTool"},
-      {{"-p", "model", "add", "--all"}, 3, "CMTool"},
+      {{"init", "model", "--tool", "git", "--archive", "a"}, 3, "-p model connect --tool git"},
+      {{"-p", "model", "ls"}, 3, "connect --tool"},
+      {{"-p", "model", "add", "--all"}, 3, "connect --tool"},
       {{"-p", "model", "property", "set", "CMTool", "Git"}, 0, ""},
       {{"-p", "model", "lock", "No/Such.vcmp"}, 3, "status"},
       {{"-p", "model", "status", "Milk/Milk.vpkg", "Nope"}, 1, "Nope"},
@@ -58,6 +61,25 @@ TEST_F(CommandLineTest, ExitCodesAndTheWayOut) {
     EXPECT_THAT(ended.err, HasSubstr(row.words)) << testing::PrintToString(row.arguments);
     EXPECT_EQ(ended.err.empty(), row.code == 0) << testing::PrintToString(row.arguments);
   }
+}
+
+TEST_F(CommandLineTest, AProjectIsPutUnderTheControlOfATool) {
+  if (!isInstalled("git")) GTEST_SKIP() << "git is not installed";
+  makeProject();
+  const std::string file = m_sandbox.read("model/Machine.vdy");
+  const auto connect = [&](const std::string& archive, const Words& more = {}) {
+    Words words = {"-p", "model", "connect", "--tool", "git", "--archive", archive};
+    words.insert(words.end(), more.begin(), more.end());
+    return m_sandbox.cm(words);
+  };
+  m_sandbox.write("no archive", "");
+  EXPECT_THAT(connect("no archive").err, HasSubstr("advice:"));
+  const Ended planned = connect("archive", {"--dry-run"});
+  EXPECT_THAT(planned.out, AllOf(HasSubstr("make the archive"), HasSubstr("connect.sh")));
+  EXPECT_EQ(m_sandbox.read("model/Machine.vdy"), file);
+  EXPECT_FALSE(std::filesystem::exists(m_sandbox.path("archive")));
+  EXPECT_EQ(connect("archive").code, 0);
+  EXPECT_EQ(m_sandbox.cm({"-p", "model", "add", "--all", "-m", "first"}).code, 0);
 }
 
 TEST_F(CommandLineTest, EveryDocumentIsOneAndValid) {

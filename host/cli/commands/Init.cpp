@@ -1,6 +1,4 @@
-#include <filesystem>
 #include <optional>
-#include <system_error>
 
 #include "cm/host/IPN.h"
 #include "host/cli/CommandPlan.h"
@@ -12,6 +10,8 @@
 #include "host/cli/printing/Report.h"
 #include "host/model/NewProject.h"
 #include "host/model/PathNames.h"
+#include "host/model/ProjectLoader.h"
+#include "host/platform/CommandLine.h"
 
 namespace veldra::host::cli {
 
@@ -29,13 +29,21 @@ NewProject requestOf(const Options& options, const std::optional<std::string>& t
   return request;
 }
 
+/// Who wants a tool for a folder that is a project has only taken the wrong command.
+void refuseToControlProject(const Options& options) {
+  if (!options.tool || projectFilesIn(options.directory).empty()) return;
+  const std::string advice =
+      joinCommandLine({"veldra-cm", "-p", options.directory, "connect", "--tool", *options.tool,
+                       "--archive", options.archive.value_or("WHERE")});
+  throw CommandError(
+      ExitCode::NothingDone,
+      options.directory + " is a project already. This puts it under control: " + advice);
+}
+
 ExitCode plan(const Invocation& invocation, const std::optional<std::string>& archive) {
   std::vector<std::string> steps = {"make a project of " +
                                     absolutePath(invocation.options.directory)};
-  std::error_code unknown;
-  if (archive && isLocalPlace(*archive) && !std::filesystem::exists(*archive, unknown)) {
-    steps.push_back("make the archive " + *archive);
-  }
+  if (archive && isToBeMade(*archive)) steps.push_back("make the archive " + *archive);
   if (archive) steps.push_back("connect the project to " + *archive);
   printCommandPlan(invocation, steps, {});
   return ExitCode::AllDone;
@@ -51,8 +59,8 @@ void print(const Invocation& invocation, const std::string& projectFile, std::si
               << (unitCount == 1 ? " unit)\n" : " units)\n");
   if (invocation.options.tool) return;
   console.out
-      << "next       veldra-cm property set CMTool NAME  (\"veldra-cm pack list\" shows the "
-         "tools), then veldra-cm connect --archive WHERE\n";
+      << "next       veldra-cm connect --tool NAME --archive WHERE  (\"veldra-cm pack list\" shows "
+         "the tools)\n";
 }
 
 /// The archive of a project that has just been made. The project stays when this fails.
@@ -78,6 +86,7 @@ ExitCode runInit(const Invocation& invocation) {
   Session session(invocation);
   std::optional<std::string> tool;
   if (options.tool) tool = packNamed(session.host().properties(), *options.tool).name;
+  refuseToControlProject(options);
   if (options.dryRun) return plan(invocation, archive);
 
   std::string error;

@@ -69,6 +69,19 @@ TEST_F(Saving, setsAsideWhatIsNotUnderstoodWhereAPropertyGoes) {
   }
 }
 
+TEST_F(Saving, takesWhatIsResetOutOfTheProjectFile) {
+  model.putProject(
+      R"("properties": {"ConfigurationManagement": {"General": {"CMTool": "Git", "x": []}}})");
+  loadAnew();
+  model.layers.setInProject({"ConfigurationManagement", "RCS", "Archive"}, "there");
+  ASSERT_EQ(saved(*project), "");
+  model.layers.resetInProject({"ConfigurationManagement", "RCS", "Archive"});
+  model.layers.resetInProject({"ConfigurationManagement", "General", "CMTool"});
+  ASSERT_EQ(saved(*project), "");
+  EXPECT_THAT(model.read("M.vdy"),
+              AllOf(Not(HasSubstr("RCS")), Not(HasSubstr("CMTool")), HasSubstr("\"x\": []")));
+}
+
 TEST_F(Saving, isRefusedForReadOnlyFilesAndForChangedOnes) {
   ASSERT_TRUE(unit->rename("Pump", problem));
   const std::string text = model.read("P.vcmp");
