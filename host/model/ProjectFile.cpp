@@ -166,9 +166,9 @@ namespace {
 
 /// Erases a member, and the objects around it that are empty then.
 void eraseProperty(Json& body, const PropertyKey& key) {
-  Json& subjects = body["properties"];
-  Json& metaclasses = subjects[key.subject];
-  Json& values = metaclasses[key.metaclass];
+  Json& subjects = objectAt(body, "properties");
+  Json& metaclasses = objectAt(subjects, key.subject);
+  Json& values = objectAt(metaclasses, key.metaclass);
   values.erase(key.name);
   if (values.empty()) metaclasses.erase(key.metaclass);
   if (metaclasses.empty()) subjects.erase(key.subject);
