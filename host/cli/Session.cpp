@@ -5,7 +5,6 @@
 #include <system_error>
 
 #include "cm/core/CMFacade.h"
-#include "cm/host/IPN.h"
 #include "cm/host/IUserMessages.h"
 #include "cm/host/MessageIds.h"
 #include "cm/templates/CMProperty.h"
@@ -42,9 +41,7 @@ std::string questionAfterCheckIn(IUserMessages& messages) {
 
 /// Without a tool the module leaves every unit out and says no reason.
 bool lacksTool(const PropertyLayers& properties) {
-  if (CMProperty::useSccCompliantTool() != 0) return false;
-  const Property* const tool = properties.find({IPN::CM, IPN::General, IPN::CMTool});
-  return tool == nullptr || tool->value().empty() || tool->value() == "None";
+  return CMProperty::useSccCompliantTool() == 0 && properties.chosenTool().empty();
 }
 
 }  // namespace

@@ -15,8 +15,6 @@
 namespace veldra::host {
 namespace fs = std::filesystem;
 
-namespace {}  // namespace
-
 std::vector<std::string> projectFilesIn(const std::string& directory) {
   std::vector<std::string> files;
   std::error_code failed;

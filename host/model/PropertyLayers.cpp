@@ -6,6 +6,7 @@
 #include <system_error>
 #include <tuple>
 
+#include "cm/host/IPN.h"
 #include "host/model/PathNames.h"
 #include "host/model/TemplateForms.h"
 #include "host/model/TomlEdit.h"
@@ -245,6 +246,11 @@ std::vector<PropertyEntry> PropertyLayers::entries() const {
   }
   sortEntries(entries);
   return entries;
+}
+
+std::string PropertyLayers::chosenTool() const {
+  const Property* const tool = find({IPN::CM, IPN::General, IPN::CMTool});
+  return tool != nullptr && lowerCase(tool->value()) != "none" ? tool->value() : std::string();
 }
 
 std::optional<std::string> PropertyLayers::setting(const std::string& section,

@@ -89,6 +89,8 @@ class PropertyLayers {
   /// Every property that counts, by subject, metaclass and name.
   std::vector<PropertyEntry> entries() const;
 
+  /// The CM tool that is chosen; empty for none.
+  std::string chosenTool() const;
   /// A setting of the host from the user's file, else the site's.
   std::optional<std::string> setting(const std::string& section, const std::string& name) const;
   const std::vector<PackDescription>& packs() const { return m_packs; }

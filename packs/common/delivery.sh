@@ -15,15 +15,20 @@ refuse_push() {
   give_up
 }
 
+# withdraw UNITS: takes the commit back; $answer goes on saying why.
+withdraw() {
+  reason=$answer
+  take_back "$1"
+  answer=$reason
+}
+
 # publish UNITS: as `tag_and_push`; takes the commit back when that fails.
 publish() {
   if tag_and_push; then
     end_delivery
     return
   fi
-  reason=$answer
-  take_back "$1"
-  answer=$reason
+  withdraw "$1"
   refuse_push
 }
 
@@ -37,9 +42,7 @@ deliver() {
       end_delivery
       return
     fi
-    reason=$answer
-    take_back "$1"
-    answer=$reason
+    withdraw "$1"
     was_late && [ "$patience" -gt 1 ] || refuse_push
     catch_up "$1"
   done

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <optional>
 
-#include "cm/host/IPN.h"
 #include "cm/templates/CMProperty.h"
 #include "host/cli/Packs.h"
 #include "host/cli/doctor/Checks.h"
@@ -22,10 +21,8 @@ bool isAboutProvider(Session& session, bool hasProject) {
 /// The tool that is meant: the one named, else the project's.
 std::string toolOf(Session& session) {
   const PropertyLayers& layers = session.host().properties();
-  const Property* const selected = layers.find({IPN::CM, IPN::General, IPN::CMTool});
-  const std::string tool =
-      session.options().tool.value_or(selected != nullptr ? selected->value() : "");
-  if (!tool.empty() && tool != "None") return packNamed(layers, tool).name;
+  const std::string tool = session.options().tool.value_or(layers.chosenTool());
+  if (!tool.empty()) return packNamed(layers, tool).name;
   throw CommandError(ExitCode::NothingDone,
                      "No tool is selected. Name one with --tool; \"veldra-cm pack list\" shows "
                      "those that there are.");

@@ -87,19 +87,14 @@ class PropertyCommand {
                                                  "SUBJECT.METACLASS.NAME, or just NAME.");
   }
 
-  std::string tool() {
-    const host::Property* const tool = layers().find({IPN::CM, IPN::General, IPN::CMTool});
-    return tool != nullptr && tool->value() != "None" ? tool->value() : std::string();
-  }
-
   /// The tool itself, and what no tool knows, is common to all.
   std::string defaultMetaclass(const PropertyName& name) {
-    const std::string selected = tool();
+    const std::string selected = layers().chosenTool();
     return name.name == IPN::CMTool || selected.empty() ? IPN::General : selected;
   }
 
   std::optional<PropertyKey> present(const PropertyName& name) {
-    for (const std::string& metaclass : {tool(), std::string(IPN::General)}) {
+    for (const std::string& metaclass : {layers().chosenTool(), std::string(IPN::General)}) {
       const PropertyKey key = keyIn(name, metaclass);
       if (layers().find(key) != nullptr) return key;
     }

@@ -33,8 +33,7 @@ void overlayUnit(UnitCore& unit, std::vector<SettingRow>& rows) {
 }  // namespace
 
 std::string SettingsTable::tool() const {
-  const Property* tool = m_layers.find({IPN::CM, IPN::General, IPN::CMTool});
-  return tool && tool->value() != "None" ? tool->value() : std::string();
+  return m_layers.chosenTool();
 }
 
 std::vector<SettingRow> SettingsTable::rows(const SettingsFilter& filter) const {
